@@ -1,0 +1,4 @@
+#include "afx/Collections.h"
+
+IMPLEMENT_DYNAMIC(CStringArray, CObject)
+IMPLEMENT_DYNAMIC(CDWordArray, CObject)

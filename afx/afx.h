@@ -1,0 +1,11 @@
+// The part of MFC that the library is written against; with PEXLO_WITH_MFC the real one takes its place.
+#pragma once
+
+#include "afx/Export.h"
+
+#ifndef PEXLO_WITH_MFC
+#include "afx/Collections.h"
+#include "afx/Object.h"
+#include "afx/Resources.h"
+#include "afx/String.h"
+#endif
