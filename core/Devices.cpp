@@ -1,0 +1,87 @@
+#include "core/Devices.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+
+constexpr unsigned char kWithConstants = 1;
+constexpr unsigned char kWithReals = 3;
+
+// In sequence order: the order in which hosts and contact combos list the devices.
+constexpr SDeviceKind kDevices[] = {
+    {kDeviceX, kBitDevice, 0},
+    {kDeviceY, kBitDevice, 0},
+    {kDeviceR, kBitDevice, 0},
+    {kDeviceSpecialR, kBitDevice, 0},
+    {kDeviceT, kContactDevice, 0},
+    {kDeviceC, kContactDevice, 0},
+    {kDeviceL, kBitDevice, 0},
+    {kDeviceE, kContactDevice, 0},
+    {kDeviceP, kBitDevice, 0},
+    {kDeviceWX, kWordDevice, 0},
+    {kDeviceWY, kWordDevice, 0},
+    {kDeviceWR, kWordDevice, 0},
+    {kDeviceSpecialWR, kWordDevice, 0},
+    {kDeviceWL, kWordDevice, 0},
+    {kDeviceDT, kWordDevice, 0},
+    {kDeviceSpecialDT, kWordDevice, 0},
+    {kDeviceSV, kWordDevice, 0},
+    {kDeviceEV, kWordDevice, 0},
+    {kDeviceFL, kWordDevice, 0},
+    {kDeviceLD, kWordDevice, 0},
+    {kDeviceIndex, kWordDevice, 0},
+    {kDeviceK, kWordDevice, kWithConstants},
+    {kDeviceH, kWordDevice, kWithConstants},
+    {kDeviceReal, kWordDevice, kWithReals},
+};
+
+} // namespace
+
+const SDeviceKind* DeviceAt(int index)
+{
+    return index >= 0 && index < static_cast<int>(std::size(kDevices)) ? &kDevices[index] : nullptr;
+}
+
+int DeviceIndex(short code)
+{
+    const auto* row = std::find_if(std::begin(kDevices), std::end(kDevices),
+                                   [code](const SDeviceKind& device) { return device.code == code; });
+    return row != std::end(kDevices) ? static_cast<int>(row - kDevices) : -1;
+}
+
+short ProgramDeviceCode(short code)
+{
+    switch (code)
+    {
+    case kDeviceSpecialR:
+        return kDeviceR;
+    case kDeviceSpecialDT:
+        return kDeviceDT;
+    case kDeviceSpecialWR:
+        return kDeviceWR;
+    default:
+        return code;
+    }
+}
+
+EPlcFamily PlcFamily(unsigned char plcType)
+{
+    switch (plcType)
+    {
+    case 114:
+    case 117:
+        return EPlcFamily::B;
+    case 160:
+    case 161:
+    case 164:
+    case 165:
+    case 168:
+        return EPlcFamily::C;
+    default:
+        return IsLargeFamilyB(plcType) ? EPlcFamily::B : EPlcFamily::A;
+    }
+}
+
+bool IsLargeFamilyB(unsigned char plcType) { return plcType >= 70 && plcType <= 74; }

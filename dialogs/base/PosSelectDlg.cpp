@@ -1,0 +1,227 @@
+#include "dialogs/base/PosSelectDlg.h"
+
+#include "afx/HtmlHelp.h"
+#include "afx/System.h"
+#include "core/FunWizard.h"
+#include "core/Memory.h"
+#include "core/ResourceScope.h"
+#include "core/Values.h"
+#include "resources/resource.h"
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr int kExplanationMargin = 3; // pixels that the edit keeps free of text
+
+// An item carries its choice: the instruction in the upper half, the variant in the lower.
+DWORD ItemData(const SWizardChoice& choice) { return static_cast<DWORD>(MAKELONG(choice.variant, choice.instruction)); }
+
+SWizardChoice ChoiceOf(DWORD itemData) { return {HIWORD(itemData), LOWORD(itemData)}; }
+
+/// The device context of a control with the control's font selected.
+class CControlDC : public CClientDC
+{
+public:
+    explicit CControlDC(CWnd* control) : CClientDC(control), m_previous(nullptr)
+    {
+        if (CFont* font = control->GetFont())
+            m_previous = SelectObject(font);
+    }
+    ~CControlDC()
+    {
+        if (m_previous != nullptr)
+            SelectObject(m_previous);
+    }
+
+    CControlDC(const CControlDC&) = delete;
+    CControlDC& operator=(const CControlDC&) = delete;
+
+private:
+    CFont* m_previous;
+};
+
+/// The widest text of a column, in pixels, and from it the width of the column.
+struct SColumn
+{
+    int margin;
+    int widthWithoutText;
+    int widest = 0;
+
+    void Measure(CDC& dc, const CString& text) { widest = std::max<int>(widest, dc.GetTextExtent(text).cx); }
+    int Width() const { return widest > 0 ? widest + margin : widthWithoutText; }
+};
+
+CString TakeColumn(CString& text)
+{
+    const int tab = text.Find('\t');
+    const CString column = tab >= 0 ? text.Left(tab) : text;
+    text = tab >= 0 ? text.Mid(tab + 1) : CString();
+    return column;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CPosSelectDlg, CDialog)
+ON_LBN_SELCHANGE(IDC_SELECT_LIST, OnSelectionChanged)
+ON_LBN_DBLCLK(IDC_SELECT_LIST, OnOK)
+ON_BN_CLICKED(IDC_HELP_TOPIC, OnHelpTopic)
+ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+CPosSelectDlg::CPosSelectDlg(CFunWizard* wizard, EWizardMode mode, CWnd* parent)
+    : CDialog(IDD_SELECT, parent), m_wizard(wizard), m_mode(mode)
+{
+    m_white.CreateSolidBrush(kWhite);
+}
+
+INT_PTR CPosSelectDlg::DoModal()
+{
+    CResourceScope scope(m_wizard->GetLoadInstance());
+    return CDialog::DoModal();
+}
+
+BOOL CPosSelectDlg::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    m_wizard->SetDlgFont(this, 0, nullptr);
+    bool filled = false;
+    if (!WithMemory([&] { filled = FillList(); }) || !filled)
+    {
+        EndDialog(IDCANCEL);
+        return TRUE;
+    }
+    ShowExplanation();
+    CheckDlgButton(IDC_REGISTER_COMMENTS, m_wizard->IsCmtRec() ? BST_CHECKED : BST_UNCHECKED);
+    CWnd* help = GetDlgItem(IDC_HELP_TOPIC);
+    if (m_wizard->GetHelpPath().IsEmpty() && help != nullptr)
+    {
+        help->EnableWindow(FALSE);
+        help->ShowWindow(SW_HIDE);
+    }
+    return TRUE;
+}
+
+// ---- The list -------------------------------------------------------------------------------------------------------
+
+bool CPosSelectDlg::FillList()
+{
+    auto* list = static_cast<CListBox*>(GetDlgItem(IDC_SELECT_LIST));
+    if (list == nullptr)
+        return false;
+    list->ResetContent();
+    if (m_mode == kPulseInstructions)
+        SetTabStops();
+    else
+    {
+        CString label;
+        label.LoadString(IDS_PROCESSING_LIST);
+        SetDlgItemText(IDC_SELECT_LABEL, label);
+    }
+    SWizardChoice preset = m_choice;
+    if (m_mode != kPulseInstructions)
+        preset.instruction = kUnitInstruction; // Whatever was confirmed before, the variant tells the operation.
+    int selected = 0;
+    for (const SCatalogueItem& item : CatalogueItems(m_mode, m_wizard->GetPlcType()))
+    {
+        if (m_mode == kPulseInstructions && !m_wizard->FindSupportFun(item.choice.instruction))
+            continue;
+        CString text;
+        text.LoadString(item.text);
+        const int index = list->AddString(text);
+        if (index < 0 || list->SetItemData(index, ItemData(item.choice)) < 0)
+            return false;
+        if (item.choice == preset)
+            selected = index;
+    }
+    list->SetCurSel(selected);
+    return true;
+}
+
+// The columns are as wide as the widest text of the whole catalogue, so that they do not move with what is supported.
+void CPosSelectDlg::SetTabStops()
+{
+    auto* list = static_cast<CListBox*>(GetDlgItem(IDC_SELECT_LIST));
+    SColumn mnemonic = {20, 55};
+    SColumn number = {15, 43};
+    CControlDC dc(list);
+    for (const SCatalogueItem& item : CatalogueItems(m_mode, m_wizard->GetPlcType()))
+    {
+        CString text;
+        text.LoadString(item.text);
+        mnemonic.Measure(dc, TakeColumn(text));
+        number.Measure(dc, TakeColumn(text));
+    }
+    const int unit = LOWORD(AfxGetDialogBaseUnits());
+    int stops[2];
+    stops[0] = mnemonic.Width() * 4 / unit;
+    stops[1] = stops[0] + number.Width() * 4 / unit;
+    list->SetTabStops(2, stops);
+}
+
+bool CPosSelectDlg::GetSelected(SWizardChoice& choice) const
+{
+    const auto* list = static_cast<CListBox*>(GetDlgItem(IDC_SELECT_LIST));
+    const int selection = list != nullptr ? list->GetCurSel() : LB_ERR;
+    if (selection == LB_ERR)
+        return false;
+    choice = ChoiceOf(static_cast<DWORD>(list->GetItemData(selection)));
+    return true;
+}
+
+// ---- The explanation ------------------------------------------------------------------------------------------------
+
+void CPosSelectDlg::ShowExplanation()
+{
+    SetDlgItemText(IDC_SELECT_EXPLANATION, "");
+    CWnd* edit = GetDlgItem(IDC_SELECT_EXPLANATION);
+    SWizardChoice choice;
+    if (edit == nullptr || !GetSelected(choice))
+        return;
+    CString text;
+    const UINT id = ExplanationText(m_mode, m_wizard->GetPlcType(), choice);
+    if (id == 0 || !text.LoadString(id))
+        return;
+
+    CRect client;
+    edit->GetClientRect(&client);
+    CControlDC dc(edit);
+    CString wrapped;
+    while (!text.IsEmpty())
+    {
+        if (!wrapped.IsEmpty())
+            wrapped += "\r\n";
+        wrapped += TakeFittingLine(&dc, client.Width() - kExplanationMargin, text);
+    }
+    edit->SetWindowText(wrapped);
+}
+
+HBRUSH CPosSelectDlg::OnCtlColor(CDC* dc, CWnd* control, UINT type)
+{
+    const HBRUSH brush = CDialog::OnCtlColor(dc, control, type);
+    if (control->GetDlgCtrlID() != IDC_SELECT_EXPLANATION)
+        return brush;
+    dc->SetTextColor(kBlue);
+    dc->SetBkColor(kWhite);
+    return m_white;
+}
+
+// ---- Notifications --------------------------------------------------------------------------------------------------
+
+void CPosSelectDlg::OnSelectionChanged() { ShowExplanation(); }
+
+void CPosSelectDlg::OnHelpTopic()
+{
+    AfxHtmlHelp(m_wizard->GetHelpPath(), m_mode == kPulseInstructions ? HELP_TOPIC_INSTRUCTIONS : HELP_TOPIC_UNIT_OPERATIONS);
+}
+
+void CPosSelectDlg::OnOK()
+{
+    if (!GetSelected(m_choice))
+        return;
+    m_wizard->SetCmtRec(IsDlgButtonChecked(IDC_REGISTER_COMMENTS) == BST_CHECKED);
+    EndDialog(IDOK);
+}

@@ -1,0 +1,90 @@
+// The exchange of a dialog's fields, in the manner of MFC's DoDataExchange: the dialog lists its fields once, in the
+// order in which they are checked and stored, and every walk - open, refresh, clear, collect - goes through that list.
+//
+//     void CSomeDlg::DoFieldExchange(CWzdExchange* wx)
+//     {
+//         WDX_Contact(wx);
+//         WDX_TableStart(wx, IDC_SOME_START, IDC_SOME_START_RANGE);
+//         ...
+//     }
+//
+// The list only declares. It may depend on what the controls hold at the moment: a walk sees the fields that count now.
+#pragma once
+
+#include "dialogs/base/WzdField.h"
+#include "resources/resource.h"
+
+class CWzdExchange
+{
+public:
+    explicit CWzdExchange(CWzdDlgBase& dialog) : m_dialog(dialog) {}
+    virtual ~CWzdExchange() = default;
+
+    CWzdExchange(const CWzdExchange&) = delete;
+    CWzdExchange& operator=(const CWzdExchange&) = delete;
+
+    CWzdDlgBase& Dialog() const { return m_dialog; }
+
+    /// The position in the wizard's data list of the entry that is declared next.
+    int NextRecord() { return m_nextRecord++; }
+
+    /// Hands a declared field to the walk. After the first failure the remaining fields are passed over.
+    void Declare(CWzdField& field) { m_succeeded = m_succeeded && Visit(field); }
+    bool Succeeded() const { return m_succeeded; }
+
+protected:
+    virtual bool Visit(CWzdField& field) = 0;
+
+private:
+    CWzdDlgBase& m_dialog;
+    int m_nextRecord = 0;
+    bool m_succeeded = true;
+};
+
+/// A walk that does the same thing, a function of the field that returns whether to go on, to every field.
+template <typename TAction>
+class CWzdWalk : public CWzdExchange
+{
+public:
+    CWzdWalk(CWzdDlgBase& dialog, TAction action) : CWzdExchange(dialog), m_action(action) {}
+
+protected:
+    bool Visit(CWzdField& field) override { return m_action(field); }
+
+private:
+    TAction m_action;
+};
+
+// ---- The rows -------------------------------------------------------------------------------------------------------
+
+/// The starting condition: a device, a number in the notation of that device, and its range. `index` is the position
+/// of the contact in the contact list.
+struct SWzdContactIds
+{
+    UINT combo = IDC_CONTACT_DEVICE;
+    UINT edit = IDC_CONTACT_NUMBER;
+    UINT rangeLabel = IDC_CONTACT_RANGE;
+    int index = 0;
+};
+void WDX_Contact(CWzdExchange* wx, UINT message = IDS_ERR_CONTACT, const SWzdContactIds& ids = {});
+
+/// The register at which the data table starts, within CWzdDlgBase::GetDataTableRange; it is operand `operand`.
+void WDX_TableStart(CWzdExchange* wx, UINT edit, UINT rangeLabel, int operand = 0);
+
+/// The pulse output, a constant operand; without an instruction ("Only a data table is created.") there is no choice.
+void WDX_Output(CWzdExchange* wx, UINT combo, CWzdChoices choices, int operand = 1);
+
+/// The control code, the hexadecimal entry at the head of the data table. The codes declared after it are its bits.
+void WDX_ControlCode(CWzdExchange* wx, EDataType type);
+
+/// A field of the control code. `alsoRestores` pairs further codes with the positions of the list: those under which
+/// the other variant of a dialog stored the same choice. A code that stands in neither list selects the first item.
+void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, CWzdChoices choices, CWzdChoices alsoRestores = {});
+
+/// A decimal entry of the data table: at most `limit` characters, checked against `range`, which `rangeLabel` shows when
+/// it is not fixed. The label before the edit is its comment.
+void WDX_Number(CWzdExchange* wx, UINT edit, SWzdEntry entry, int limit, SWzdRange range, UINT message,
+                UINT rangeLabel = 0);
+
+/// An entry of the data table that always has the same value.
+void WDX_Constant(CWzdExchange* wx, SWzdEntry entry, LONG value);

@@ -1,0 +1,78 @@
+#include "dialogs/base/WzdResults.h"
+
+#include "core/Devices.h"
+#include "core/FunWizard.h"
+
+void CWzdResults::AddContact(short kind, short code, int number)
+{
+    m_contacts.push_back({number, static_cast<DWORD>(MAKELONG(code, kind))});
+}
+
+void CWzdResults::SetOperand(int index, short code, int value)
+{
+    if (m_operands.size() <= static_cast<size_t>(index))
+        m_operands.resize(index + 1);
+    m_operands[index] = {value, static_cast<WORD>(code)};
+}
+
+void CWzdResults::AddData(SWzdEntry entry, EConstantFormat format, LONG value)
+{
+    m_data.push_back({entry, format, value});
+}
+
+void CWzdResults::AddControlCode(SWzdEntry entry)
+{
+    m_codeRecord = m_data.size();
+    AddData(entry, kHexadecimalConstant, 0);
+}
+
+void CWzdResults::AddToControlCode(DWORD bits)
+{
+    if (!m_codeEnded)
+        m_data.at(m_codeRecord).value |= static_cast<LONG>(bits);
+}
+
+void CWzdResults::AddComment(const CString& text) { m_comments.push_back(text); }
+
+bool CWzdResults::StoreIn(CFunWizard& wizard) const
+{
+    return StoreContacts(wizard) && StoreOperands(wizard) && StoreData(wizard) && StoreComments(wizard);
+}
+
+bool CWzdResults::StoreContacts(CFunWizard& wizard) const
+{
+    wizard.RemoveAllContInfo();
+    for (const SContact& contact : m_contacts)
+        if (!wizard.AddContInfo(contact.Kind(), contact.Code(), contact.number))
+            return false;
+    return true;
+}
+
+bool CWzdResults::StoreOperands(CFunWizard& wizard) const
+{
+    wizard.RemoveAllOprdInfo();
+    for (const SOperand& operand : m_operands)
+        if (!wizard.AddOprdInfo(operand.Code(), operand.value))
+            return false;
+    return true;
+}
+
+bool CWzdResults::StoreData(CFunWizard& wizard) const
+{
+    wizard.RemoveAllDataInfo();
+    for (const SData& data : m_data)
+        if (!wizard.AddDataInfo(kDeviceDT, m_tableStart + data.entry.offset, data.entry.type, data.format, data.value))
+            return false;
+    return true;
+}
+
+bool CWzdResults::StoreComments(CFunWizard& wizard) const
+{
+    if (!wizard.IsCmtRec())
+        return true;
+    wizard.RemoveAllCmtInfo();
+    for (const CString& comment : m_comments)
+        if (!wizard.AddCmtInfo(comment))
+            return false;
+    return true;
+}

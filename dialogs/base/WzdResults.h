@@ -1,0 +1,55 @@
+// The results of a dialog whose entries have all been accepted.
+#pragma once
+
+#include "dialogs/base/WzdField.h"
+
+#include <vector>
+
+class CFunWizard;
+
+/// Collects what the fields contribute and then replaces the wizard's lists as a whole. Running out of memory while
+/// collecting throws; the wizard's lists are not touched by then.
+class CWzdResults
+{
+public:
+    void AddContact(short kind, short code, int number);
+    /// Operands are numbered: the order in which fields are checked need not be theirs.
+    void SetOperand(int index, short code, int value);
+
+    /// The register at which the data table starts; the offsets of its entries count from it.
+    void SetTableStart(int number) { m_tableStart = number; }
+    void AddData(SWzdEntry entry, EConstantFormat format, LONG value);
+    /// Adds the control code as an entry of its own, its bits all 0.
+    void AddControlCode(SWzdEntry entry);
+    /// Sets bits of the control code.
+    void AddToControlCode(DWORD bits);
+    /// The control code is complete: bits that come later no longer count.
+    void EndControlCode() { m_codeEnded = true; }
+
+    void AddComment(const CString& text);
+
+    /// Replaces the contact, operand and data lists and, when the wizard asks for them, the comments. False when the
+    /// wizard ran out of memory: the lists are then as far as they were written.
+    [[nodiscard]] bool StoreIn(CFunWizard& wizard) const;
+
+private:
+    struct SData
+    {
+        SWzdEntry entry;
+        EConstantFormat format;
+        LONG value;
+    };
+
+    [[nodiscard]] bool StoreContacts(CFunWizard& wizard) const;
+    [[nodiscard]] bool StoreOperands(CFunWizard& wizard) const;
+    [[nodiscard]] bool StoreData(CFunWizard& wizard) const;
+    [[nodiscard]] bool StoreComments(CFunWizard& wizard) const;
+
+    std::vector<SContact> m_contacts;
+    std::vector<SOperand> m_operands;
+    std::vector<SData> m_data;
+    std::vector<CString> m_comments;
+    int m_tableStart = 0;
+    size_t m_codeRecord = 0;
+    bool m_codeEnded = false;
+};

@@ -1,0 +1,69 @@
+#include "dialogs/pulse/Spd1Dlg.h"
+
+namespace
+{
+
+constexpr SWzdChoice kOutputs[] = {{IDS_OUTPUT_Y, 0, 0}, {IDS_OUTPUT_Y, 1, 1}};
+
+constexpr DWORD kDuty50 = 0;
+constexpr SWzdChoice kPulseWidths[] = {{IDS_DUTY_50_PERCENT, kDuty50}, {IDS_FIXED_PULSE_WIDTH, 1}};
+
+constexpr SWzdChoice kTrapezoidalModes[] = {
+    {IDS_SPD1_INCREMENTAL_NO_DIRECTION, 0x00}, //
+    {IDS_SPD1_INCREMENTAL_FORWARD_OFF, 0x02},  //
+    {IDS_SPD1_INCREMENTAL_FORWARD_ON, 0x03},   //
+    {IDS_SPD1_ABSOLUTE_NO_DIRECTION, 0x10},    //
+    {IDS_SPD1_ABSOLUTE_FORWARD_OFF, 0x12},     //
+    {IDS_SPD1_ABSOLUTE_FORWARD_ON, 0x13},
+};
+
+constexpr SWzdChoice kHomeModes[] = {
+    {IDS_SPD1_HOMING1_NO_DIRECTION, 0x20},  //
+    {IDS_SPD1_HOMING1_DIRECTION_OFF, 0x22}, //
+    {IDS_SPD1_HOMING1_DIRECTION_ON, 0x23},  //
+    {IDS_SPD1_HOMING2_NO_DIRECTION, 0x24},  //
+    {IDS_SPD1_HOMING2_DIRECTION_OFF, 0x26}, //
+    {IDS_SPD1_HOMING2_DIRECTION_ON, 0x27},
+};
+
+} // namespace
+
+CSpd1Dlg::CSpd1Dlg(CFunWizard* wizard, bool homeReturn, CWnd* parent)
+    : CWzdDlgBase(wizard, homeReturn ? IDD_SPD1_HOME : IDD_SPD1_TRAPEZOIDAL, parent), m_homeReturn(homeReturn)
+{
+}
+
+int CSpd1Dlg::TableWords() const { return m_homeReturn ? 4 : 7; }
+
+// clang-format off
+void CSpd1Dlg::DoFieldExchange(CWzdExchange* wx)
+{
+    const CWzdChoices modes      = m_homeReturn ? CWzdChoices(kHomeModes) : CWzdChoices(kTrapezoidalModes);
+    const CWzdChoices otherModes = m_homeReturn ? CWzdChoices(kTrapezoidalModes) : CWzdChoices(kHomeModes);
+
+    WDX_Contact    (wx);
+    WDX_TableStart (wx, IDC_SPD1_START, IDC_SPD1_START_RANGE);
+    WDX_Output     (wx, IDC_SPD1_OUTPUT, kOutputs);
+
+    //              control              bits     items
+    WDX_ControlCode(wx, kOneRegister);
+    WDX_Code       (wx, IDC_SPD1_WIDTH,  {8, 4},  kPulseWidths);
+    WDX_Code       (wx, IDC_SPD1_MODE,   {0, 8},  modes, otherModes);
+
+    //              control              entry               limit  accepted             message when outside
+    WDX_Number     (wx, IDC_SPD1_INITIAL, {1, kOneRegister},  4,    {40, 5000},          IDS_ERR_INITIAL_SPEED);
+    WDX_Number     (wx, IDC_SPD1_MAXIMUM, {2, kOneRegister},  4,    MaximumSpeedRange(), IDS_ERR_MAXIMUM_SPEED,
+                    IDC_SPD1_MAXIMUM_RANGE);
+    WDX_Number     (wx, IDC_SPD1_TIME,    {3, kOneRegister},  5,    {30, 32767},         IDS_ERR_ACCELERATION_TIME);
+    if (m_homeReturn)
+        return;
+    WDX_Number     (wx, IDC_SPD1_TARGET,  {4, kTwoRegisters}, 8,    {-8388608, 8388607}, IDS_ERR_TARGET_VALUE);
+    WDX_Constant   (wx, {6, kOneRegister}, 0); // ends the table
+}
+// clang-format on
+
+// A pulse of fixed width leaves room for more of them.
+SWzdRange CSpd1Dlg::MaximumSpeedRange() const
+{
+    return {40, Selection(IDC_SPD1_WIDTH) == static_cast<int>(kDuty50) ? 6000 : 9500};
+}
