@@ -253,6 +253,20 @@ bool CWzdDlgBase::FillContactCombo(int comboId, int contactIndex)
     return true;
 }
 
+bool CWzdDlgBase::FillJogDirectionCombo()
+{
+    static constexpr SWzdChoice kDirections[] = {{IDS_JOG_FORWARD, 0}, {IDS_JOG_REVERSE, 1}};
+    if (!FillCombo(IDC_JOG_DIRECTION, kDirections))
+        return false;
+    short kind, code;
+    int number;
+    const int count = m_wizard->GetContInfoCount();
+    const bool reverse = count >= 3 && m_wizard->GetContInfo(count - 1, kind, code, number) && code == kDeviceY &&
+                         FormatDeviceNumber(kDeviceY, number).Right(1) == "4";
+    Select(IDC_JOG_DIRECTION, reverse ? 1 : 0);
+    return true;
+}
+
 bool CWzdDlgBase::GetSelectedDevice(int comboId, short& kind, short& code) const
 {
     const auto* list = static_cast<CComboBox*>(GetDlgItem(comboId));
@@ -331,6 +345,12 @@ bool CWzdDlgBase::ShowDataTableRange(UINT labelId)
 void CWzdDlgBase::ShowAxisRange(UINT editId) { ShowRange(ControlAfter(editId), {1, m_wizard->IsAxisType() ? 2 : 4}); }
 
 void CWzdDlgBase::ShowSlotRange(UINT editId) { ShowRange(ControlAfter(editId), {0, m_wizard->GetMaxSlot() - 1}); }
+
+DWORD CWzdDlgBase::StoredControlCode() const
+{
+    SFunSetData data;
+    return m_wizard->GetDataInfo(0, &data) && data.code == kDeviceDT ? static_cast<DWORD>(data.value) : 0;
+}
 
 // ---- Checking -------------------------------------------------------------------------------------------------------
 

@@ -54,6 +54,9 @@ public:
     bool ShowContactRange(UINT combo, UINT label);
     /// The same for the starting condition (0) or the second one (1).
     bool ShowContactRange(int which);
+    /// Fills the combo of the JOG direction and selects the direction of the start output that the contact list ends in:
+    /// the second one runs from relays whose number ends in 4. False when the list refuses an item.
+    [[nodiscard]] bool FillJogDirectionCombo();
     bool GetSelectedDevice(int comboId, short& kind, short& code) const;
     bool GetSelectedDeviceRange(int comboId, short& kind, short& code, int& low, int& high) const;
 
@@ -68,6 +71,11 @@ public:
     void ShowAxisRange(UINT editId);
     /// Shows the slots in the control after `editId`.
     void ShowSlotRange(UINT editId);
+
+    /// The control code that the data list begins with; 0 when it does not begin with a register.
+    DWORD StoredControlCode() const;
+    /// A field of it.
+    DWORD StoredControlCode(SWzdBits bits) const { return bits.Extract(StoredControlCode()); }
 
     // ---- Checking ---------------------------------------------------------------------------------------------------
 
