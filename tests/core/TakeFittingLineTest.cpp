@@ -1,0 +1,220 @@
+// Breaking a text into lines of a width, measured with a real device context.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/Values.h"
+#include "tests/core/ValueModels.h"
+
+namespace
+{
+
+const std::string kBreak = "\r\n";
+
+struct SBroken
+{
+    std::string line;
+    std::string rest;
+
+    bool operator==(const SBroken& other) const { return line == other.line && rest == other.rest; }
+};
+
+void PrintTo(const SBroken& broken, std::ostream* out)
+{
+    *out << "line \"" << broken.line << "\", rest \"" << broken.rest << "\"";
+}
+
+class TakeFittingLineTest : public ::testing::Test
+{
+protected:
+    SBroken Take(int width, const std::string& text)
+    {
+        CString rest = text.c_str();
+        const CString line = TakeFittingLine(&m_dc, width, rest);
+        return {static_cast<LPCSTR>(line), static_cast<LPCSTR>(rest)};
+    }
+
+    int Width(const std::string& text)
+    {
+        SIZE size = {};
+        ::GetTextExtentPoint32A(m_dc.GetSafeHdc(), text.c_str(), static_cast<int>(text.size()), &size);
+        return size.cx;
+    }
+
+    /// The text in characters of one or two bytes.
+    static std::vector<std::string> Characters(const std::string& text)
+    {
+        std::vector<std::string> characters;
+        for (size_t i = 0; i < text.size();)
+        {
+            const bool isDouble = ::IsDBCSLeadByte(static_cast<BYTE>(text[i])) && i + 1 < text.size();
+            characters.push_back(text.substr(i, isDouble ? 2 : 1));
+            i += characters.back().size();
+        }
+        return characters;
+    }
+
+    /// How the text is to be broken.
+    SBroken Expected(int width, const std::string& text)
+    {
+        const size_t cut = text.find(kBreak);
+        const std::string head = text.substr(0, cut);
+        const std::string aside = cut != std::string::npos ? text.substr(cut + 2) : "";
+        if (Width(head) <= width)
+            return {head, aside};
+        const size_t taken = FittingBytes(width, head);
+        return {head.substr(0, taken), head.substr(taken) + (cut != std::string::npos ? kBreak + aside : "")};
+    }
+
+    size_t FittingBytes(int width, const std::string& head)
+    {
+        std::string prefix;
+        size_t behindBlank = 0;
+        for (const std::string& character : Characters(head))
+        {
+            if (Width(prefix + character) > width)
+            {
+                if (behindBlank != 0 && character.size() == 1)
+                    return behindBlank;
+                return prefix.empty() ? character.size() : prefix.size();
+            }
+            prefix += character;
+            if (character == " ")
+                behindBlank = prefix.size();
+        }
+        return prefix.size();
+    }
+
+    CClientDC m_dc{CWnd::GetDesktopWindow()};
+};
+
+} // namespace
+
+TEST_F(TakeFittingLineTest, MeasuresSomething)
+{
+    ASSERT_GT(Width("W"), 0);
+    ASSERT_GT(Width("WW"), Width("W"));
+}
+
+TEST_F(TakeFittingLineTest, TakesATextThatFits)
+{
+    EXPECT_EQ(Take(Width("pulse output"), "pulse output"), (SBroken{"pulse output", ""}));
+    EXPECT_EQ(Take(100000, "pulse output"), (SBroken{"pulse output", ""}));
+    EXPECT_EQ(Take(100, ""), (SBroken{"", ""}));
+    EXPECT_EQ(Take(0, ""), (SBroken{"", ""}));
+    EXPECT_EQ(Take(-5, ""), (SBroken{"", ""}));
+}
+
+TEST_F(TakeFittingLineTest, BreaksBehindTheLastBlank)
+{
+    EXPECT_EQ(Take(Width("pulse output ") - 1, "pulse output"), (SBroken{"pulse output", ""}));
+    EXPECT_EQ(Take(Width("pulse output") - 1, "pulse output"), (SBroken{"pulse ", "output"}));
+    EXPECT_EQ(Take(Width("pulse o"), "pulse output"), (SBroken{"pulse ", "output"}));
+    EXPECT_EQ(Take(Width("one two th"), "one two three"), (SBroken{"one two ", "three"}));
+    EXPECT_EQ(Take(Width("a  b"), "a  bc"), (SBroken{"a  ", "bc"}));
+}
+
+TEST_F(TakeFittingLineTest, ABlankThatDoesNotFitIsNotPassed)
+{
+    EXPECT_EQ(Take(Width("pulse"), "pulse output"), (SBroken{"pulse", " output"}));
+    EXPECT_EQ(Take(Width("one two"), "one two three"), (SBroken{"one ", "two three"}));
+}
+
+TEST_F(TakeFittingLineTest, BreaksALongWordAtTheLastCharacterThatFits)
+{
+    EXPECT_EQ(Take(Width("trape"), "trapezoidal"), (SBroken{"trape", "zoidal"}));
+    EXPECT_EQ(Take(Width("trapez") - 1, "trapezoidal"), (SBroken{"trape", "zoidal"}));
+}
+
+TEST_F(TakeFittingLineTest, TakesAtLeastOneCharacter)
+{
+    for (const int width : {0, 1, -1, -1000})
+    {
+        EXPECT_EQ(Take(width, "WM"), (SBroken{"W", "M"}));
+        EXPECT_EQ(Take(width, "W" + kBreak + "M"), (SBroken{"W", "M"}));
+    }
+}
+
+TEST_F(TakeFittingLineTest, ALineBreakAlwaysEndsTheLine)
+{
+    EXPECT_EQ(Take(100000, "first" + kBreak + "second"), (SBroken{"first", "second"}));
+    EXPECT_EQ(Take(100000, "first" + kBreak + kBreak + "third"), (SBroken{"first", kBreak + "third"}));
+    EXPECT_EQ(Take(100000, kBreak + "second"), (SBroken{"", "second"}));
+    EXPECT_EQ(Take(0, kBreak + "second"), (SBroken{"", "second"}));
+    EXPECT_EQ(Take(100000, "first" + kBreak), (SBroken{"first", ""}));
+}
+
+TEST_F(TakeFittingLineTest, TheSetAsidePartFollowsTheRest)
+{
+    EXPECT_EQ(Take(Width("pulse o"), "pulse output" + kBreak + "second" + kBreak + "third"),
+              (SBroken{"pulse ", "output" + kBreak + "second" + kBreak + "third"}));
+}
+
+TEST_F(TakeFittingLineTest, LoneLineEndsAreCharacters)
+{
+    for (const std::string text : {"a\rb", "a\nb", "a\n\rb", "a\r"})
+        EXPECT_EQ(Take(100000, text), (SBroken{text, ""}));
+}
+
+TEST_F(TakeFittingLineTest, WorksWithAnyFont)
+{
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(240, "MS Sans Serif", &m_dc));
+    const int small = Width("pulse");
+    CFont* before = m_dc.SelectObject(&font);
+    EXPECT_GT(Width("pulse"), small);
+    EXPECT_EQ(Take(Width("pulse o"), "pulse output"), (SBroken{"pulse ", "output"}));
+    m_dc.SelectObject(before);
+    EXPECT_EQ(Width("pulse"), small);
+}
+
+TEST_F(TakeFittingLineTest, AgreesWithTheModelAndLosesNothing)
+{
+    values::CTextRandom random(21);
+    const std::string alphabet = "abcdefgWil.,-()  \t\x81\x83\xA0\xE0\xFC";
+    for (int round = 0; round < 3000; ++round)
+    {
+        std::string text = random.From(alphabet, random.Below(60));
+        if (random.Below(4) == 0)
+            text += kBreak + random.From(alphabet, 1 + random.Below(20));
+        const int width = static_cast<int>(random.Below(200)) - 5;
+        const SBroken broken = Take(width, text);
+        ASSERT_EQ(broken, Expected(width, text)) << "width " << width;
+        const std::string joined = broken.line + broken.rest;
+        ASSERT_TRUE(joined == text || broken.line + kBreak + broken.rest == text);
+    }
+}
+
+TEST_F(TakeFittingLineTest, ComesToAnEnd)
+{
+    values::CTextRandom random(22);
+    for (int round = 0; round < 200; ++round)
+    {
+        std::string text;
+        for (int i = 0; i < 5; ++i)
+            text += random.From("abc def\x81\x40 \r\n", random.Below(30)) + kBreak;
+        CString rest = text.c_str();
+        int lines = 0;
+        while (!rest.IsEmpty())
+        {
+            TakeFittingLine(&m_dc, static_cast<int>(random.Below(60)), rest);
+            ASSERT_LE(++lines, static_cast<int>(text.size()));
+        }
+    }
+}
+
+TEST_F(TakeFittingLineTest, NeverSplitsADoubleByteCharacter)
+{
+    if (!::IsDBCSLeadByte(0x83))
+        GTEST_SKIP() << "code page " << ::GetACP() << " has no double-byte characters";
+    const std::string wide = "\x83\x70\x83\x8B\x83\x58"; // three characters
+    const std::string one = wide.substr(0, 2);
+    EXPECT_EQ(Take(Width(wide) - 1, wide), (SBroken{wide.substr(0, 4), wide.substr(4)}));
+    EXPECT_EQ(Take(Width(one), wide), (SBroken{one, wide.substr(2)}));
+    EXPECT_EQ(Take(0, wide), (SBroken{one, wide.substr(2)}));
+    EXPECT_EQ(Take(Width("ab " + one), "ab " + wide), (SBroken{"ab " + one, wide.substr(2)}))
+        << "a double-byte character that does not fit breaks before itself";
+    EXPECT_EQ(Take(Width("ab " + wide), "ab " + wide + "cd"), (SBroken{"ab ", wide + "cd"}))
+        << "a single-byte one behind the last blank";
+}
