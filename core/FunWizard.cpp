@@ -43,8 +43,9 @@ IMPLEMENT_DYNAMIC(CFunWizard, CObject)
 
 CFunWizard::CFunWizard()
     : m_library(nullptr), m_dialogFont(nullptr), m_dialogData(nullptr), m_deviceRanges(kDeviceBlock), m_unitMode(0),
-      m_axisType(1), m_lastInstruction(-1), m_lastVariant(0),
-      m_channels{kDefaultChannels, kDefaultChannels, kDefaultChannels, kDefaultChannels, kDefaultChannels},
+      m_axisType(1), m_lastInstruction(-1),
+      m_lastVariant(0), m_channels{kDefaultChannels, kDefaultChannels, kDefaultChannels, kDefaultChannels,
+                                   kDefaultChannels},
       m_onlyDataTable(0), m_commentRecord(1), m_startType(0), m_plcType(0), m_options{1, 0, 1, 0}
 {
     SetDefaultMaxSlot();
@@ -97,9 +98,11 @@ void CFunWizard::SetAppName(const char* name)
 
 int CFunWizard::EntrySupportFunInfo(int instruction)
 {
-    for (int i = 0; GetSupportFunNum(i) != instruction; i++)
-        if (GetSupportFunNum(i) < 0)
-            return 1;
+    int index = 0;
+    while (GetSupportFunNum(index) >= 0 && GetSupportFunNum(index) != instruction)
+        index++;
+    if (GetSupportFunNum(index) < 0)
+        return 1;
     if (!FindSupportFun(instruction))
         (void)WithMemory([=, this] { m_supported.Add(instruction); });
     return 0;
@@ -146,8 +149,13 @@ int CFunWizard::IsSameCondition() const
         return 1;
     const SContact first = m_contacts[0];
     const SContact second = m_contacts[count - 2];
-    return first.Code() == second.Code() &&
-           FormatDeviceNumber(first.Code(), first.number) == FormatDeviceNumber(second.Code(), second.number);
+    if (first.Code() != second.Code())
+        return 0;
+    bool same = false;
+    (void)WithMemory([&] {
+        same = FormatDeviceNumber(first.Code(), first.number) == FormatDeviceNumber(second.Code(), second.number);
+    });
+    return same;
 }
 
 void CFunWizard::SetDlgDataPtr(void* data) { m_dialogData = data; }

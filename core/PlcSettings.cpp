@@ -60,8 +60,9 @@ int CFunWizard::GetSeqDevInfo(int index, short& kind, short& code, unsigned char
 
 int CFunWizard::GetChannelTypeIndex(int instruction) const
 {
-    const int index = instruction - kFirstChannelInstruction;
-    return instruction >= kFirstChannelInstruction && index < kChannelInstructions ? index : -1;
+    if (instruction < kFirstChannelInstruction || instruction >= kFirstChannelInstruction + kChannelInstructions)
+        return -1;
+    return instruction - kFirstChannelInstruction;
 }
 
 const WORD* CFunWizard::ChannelMask(int instruction) const
