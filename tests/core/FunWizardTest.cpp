@@ -380,5 +380,5 @@ TEST(ResetContents, LeavesAUsableObject)
     EXPECT_EQ(wizard->FindSupportFun(177), 1);
     EXPECT_EQ(wizard->GetOprdInfoCount(), 1);
     EXPECT_EQ(wizard->CreateInstCode(), 1);
-    EXPECT_STREQ(ProgramText(*wizard).c_str(), "2 3 5\n8 -1 0\n-1 11 4\n-1 9 1\n2 3 5\n8 -1 -1\n-1 11 3\n");
+    EXPECT_STREQ(ProgramText(*wizard).c_str(), "2 3 5\n17 -1 0\n8 -1 0\n-1 11 4\n-1 9 1\n");
 }

@@ -79,7 +79,7 @@ TEST(ParseDeviceNumber, ReadsBackEveryOtherNotation)
         ASSERT_TRUE(ParseDeviceNumber(kHex, FormatDeviceNumber(kHex, written), number));
         EXPECT_EQ(number, written);
     }
-    for (const DWORD packed : {Packed(25, 68), Packed(25, 69, 1), Packed(16777215, 80), Packed(1, 30), DWORD(0)})
+    for (const DWORD packed : {Packed(25, 68), Packed(25, 69, 1), Packed(9999999, 80), Packed(1, 33), DWORD(0)})
     {
         int number = 4711;
         ASSERT_TRUE(ParseDeviceNumber(kReal, FormatDeviceNumber(kReal, static_cast<int>(packed)), number));
