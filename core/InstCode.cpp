@@ -30,8 +30,7 @@ constexpr int kFirstScanRelay = 901 * 16 + 3;
 
 bool IsSpecialStart(const SContact& contact)
 {
-    return contact.Code() == kDeviceSpecialR &&
-           (contact.number == kAlwaysOnRelay || contact.number == kFirstScanRelay);
+    return contact.Code() == kDeviceSpecialR && (contact.number == kAlwaysOnRelay || contact.number == kFirstScanRelay);
 }
 
 bool IsScaling(int instruction) { return instruction == 282 || instruction == 283 || instruction == 354; }

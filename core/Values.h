@@ -30,8 +30,8 @@ int ParseBitDeviceNumber(LPCSTR text, int& number);
 /// The name of a device, "DT" say, in the current language; empty for an unknown code.
 CString FormatDeviceName(short code);
 
-/// A device number in the notation of its device: bit devices as FormatBitDeviceNumber (compact), H in hexadecimal, f as
-/// FormatPackedReal, everything else, and a bit number without a notation, in decimal.
+/// A device number in the notation of its device: bit devices as FormatBitDeviceNumber (compact), H in hexadecimal, f
+/// as FormatPackedReal, everything else, and a bit number without a notation, in decimal.
 CString FormatDeviceNumber(short code, int number);
 
 /// Reads back what FormatDeviceNumber writes, blanks around it trimmed. A well-formed number outside the 32-bit range
@@ -54,9 +54,9 @@ constexpr int kPackedRealBuffer = 50;
 /// characters; a longer text is cut. Returns the buffer.
 char* FormatPackedReal(DWORD packed, char* buffer, BOOL exponentNotation);
 
-/// Reads a real number into its packed form. In `realMode` 1 it must have a single-precision magnitude and at most seven
-/// significant digits, else it must fit the packed form. `sign` 0 or 1 is the sign to store; when negative the text's own
-/// sign counts. Returns 0, with `packed` untouched, for anything else.
+/// Reads a real number into its packed form. In `realMode` 1 it must have a single-precision magnitude and at most
+/// seven significant digits, else it must fit the packed form. `sign` 0 or 1 is the sign to store; when negative the
+/// text's own sign counts. Returns 0, with `packed` untouched, for anything else.
 int ParsePackedReal(LPCSTR text, DWORD& packed, BYTE realMode, signed char sign);
 
 /// Takes the first line that fits into `width` pixels off `text`, broken after the last blank that fits, or before the

@@ -21,8 +21,10 @@ constexpr SWzdChoice kCurve[] = {
     {IDS_CODE_SIN_CURVE, 0}, {IDS_CODE_SECONDARY_CURVE, 1}, {IDS_CODE_CYCLOID_CURVE, 2}, {IDS_CODE_THIRD_CURVE, 3}};
 constexpr SWzdChoice kRotation[] = {{IDS_CODE_FORWARD_ROTATION, 0}, {IDS_CODE_REVERSE_ROTATION, 1}};
 constexpr SWzdChoice kInputCount[] = {{IDS_CODE_COUNT_AVAILABLE, 0}, {IDS_CODE_COUNT_MASKED, 1}};
-constexpr SWzdChoice kInputMode[] = {{IDS_CODE_INPUT_2_PHASE, 0}, {IDS_CODE_INPUT_DIRECTION, 1}, {IDS_CODE_INPUT_INDIVIDUAL, 2}};
-constexpr SWzdChoice kInputMultiple[] = {{IDS_CODE_MULTIPLE, 0, 1}, {IDS_CODE_MULTIPLE, 1, 2}, {IDS_CODE_MULTIPLE, 2, 4}};
+constexpr SWzdChoice kInputMode[] = {
+    {IDS_CODE_INPUT_2_PHASE, 0}, {IDS_CODE_INPUT_DIRECTION, 1}, {IDS_CODE_INPUT_INDIVIDUAL, 2}};
+constexpr SWzdChoice kInputMultiple[] = {
+    {IDS_CODE_MULTIPLE, 0, 1}, {IDS_CODE_MULTIPLE, 1, 2}, {IDS_CODE_MULTIPLE, 2, 4}};
 constexpr SWzdChoice kOutputMode[] = {{IDS_CODE_PULSE_SIGN, 0}, {IDS_CODE_CW_CCW, 1}};
 constexpr SWzdChoice kDividedMode[] = {
     {IDS_CODE_DIVIDED, 0, 1},  {IDS_CODE_DIVIDED, 1, 2},  {IDS_CODE_DIVIDED, 2, 4},  {IDS_CODE_DIVIDED, 3, 8},
@@ -32,10 +34,10 @@ constexpr SWzdChoice kClearTime[] = {{IDS_CODE_MILLISECONDS, 0, 1}, {IDS_CODE_MI
 
 // In the order of EAxisCode.
 constexpr SAxisCodeField kFields[] = {
-    {{0, 1}, kPositionCommand}, {{1, 1}, kAcceleration},    {{2, 1}, kHomeReturnDirection}, {{3, 1}, kStartupSpeed},
-    {{4, 1}, kOffFirst},        {{5, 1}, kOnFirst},         {{6, 1}, kHomeSearch},          {{7, 1}, kOffFirst},
-    {{8, 3}, kPulsarMultiple},  {{12, 2}, kCurve},          {{16, 1}, kRotation},           {{17, 1}, kInputCount},
-    {{18, 2}, kInputMode},      {{20, 2}, kInputMultiple},  {{24, 1}, kRotation},           {{25, 1}, kOutputMode},
+    {{0, 1}, kPositionCommand}, {{1, 1}, kAcceleration},   {{2, 1}, kHomeReturnDirection}, {{3, 1}, kStartupSpeed},
+    {{4, 1}, kOffFirst},        {{5, 1}, kOnFirst},        {{6, 1}, kHomeSearch},          {{7, 1}, kOffFirst},
+    {{8, 3}, kPulsarMultiple},  {{12, 2}, kCurve},         {{16, 1}, kRotation},           {{17, 1}, kInputCount},
+    {{18, 2}, kInputMode},      {{20, 2}, kInputMultiple}, {{24, 1}, kRotation},           {{25, 1}, kOutputMode},
     {{28, 3}, kDividedMode},    {{31, 1}, kClearTime},
 };
 

@@ -91,10 +91,7 @@ struct SFamilyRow
     int instruction;
     SForms a, b, c;
 
-    const SForms& In(EPlcFamily family) const
-    {
-        return family == EPlcFamily::A ? a : family == EPlcFamily::B ? b : c;
-    }
+    const SForms& In(EPlcFamily family) const { return family == EPlcFamily::A ? a : family == EPlcFamily::B ? b : c; }
 };
 
 constexpr SFamilyRow kExplanations[] = {

@@ -13,8 +13,8 @@ namespace
 // The position of a code in a list, or -1.
 int Find(CWzdChoices choices, DWORD code)
 {
-    const auto found = std::find_if(choices.begin(), choices.end(),
-                                    [code](const SWzdChoice& choice) { return choice.code == code; });
+    const auto found =
+        std::find_if(choices.begin(), choices.end(), [code](const SWzdChoice& choice) { return choice.code == code; });
     return found != choices.end() ? static_cast<int>(found - choices.begin()) : -1;
 }
 

@@ -75,8 +75,7 @@ private:
 class CConstantField : public CWzdField
 {
 public:
-    CConstantField(CWzdDlgBase& dialog, SWzdEntry entry, LONG value)
-        : CWzdField(dialog), m_entry(entry), m_value(value)
+    CConstantField(CWzdDlgBase& dialog, SWzdEntry entry, LONG value) : CWzdField(dialog), m_entry(entry), m_value(value)
     {
     }
 

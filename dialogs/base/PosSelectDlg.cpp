@@ -215,7 +215,8 @@ void CPosSelectDlg::OnSelectionChanged() { ShowExplanation(); }
 
 void CPosSelectDlg::OnHelpTopic()
 {
-    AfxHtmlHelp(m_wizard->GetHelpPath(), m_mode == kPulseInstructions ? HELP_TOPIC_INSTRUCTIONS : HELP_TOPIC_UNIT_OPERATIONS);
+    AfxHtmlHelp(m_wizard->GetHelpPath(),
+                m_mode == kPulseInstructions ? HELP_TOPIC_INSTRUCTIONS : HELP_TOPIC_UNIT_OPERATIONS);
 }
 
 void CPosSelectDlg::OnOK()

@@ -30,8 +30,8 @@ CWnd* Neighbour(CWnd* control, UINT direction, int steps)
 CStartOutputGroup::CStartOutputGroup(CWnd* dialog, bool extended) : m_dialog(dialog), m_extended(extended)
 {
     m_complete = true;
-    for (const int id : {IDC_START_OUTPUT_ENABLE, IDC_START_OUTPUT_WORD, IDC_START_OUTPUT_RANGE,
-                         IDC_UNIT_CLEAR_SETTINGS})
+    for (const int id :
+         {IDC_START_OUTPUT_ENABLE, IDC_START_OUTPUT_WORD, IDC_START_OUTPUT_RANGE, IDC_UNIT_CLEAR_SETTINGS})
         m_complete = m_complete && dialog->GetDlgItem(id) != nullptr;
 }
 

@@ -194,9 +194,10 @@ bool CWzdDlgBase::FillCombo(UINT combo, CWzdChoices choices)
     for (const SWzdChoice& choice : choices)
     {
         CString text;
-        text.LoadString(choice.text);
-        if (choice.argument != SWzdChoice::kPlainText)
-            text.Format(CString(text), choice.argument);
+        if (choice.argument == SWzdChoice::kPlainText)
+            text.LoadString(choice.text);
+        else
+            text.Format(choice.text, choice.argument);
         if (text.IsEmpty() || list->AddString(text) < 0)
             return false;
     }
@@ -291,8 +292,7 @@ bool CWzdDlgBase::ShowContactRange(UINT combo, UINT label)
     if (!GetSelectedDeviceRange(combo, kind, code, low, high))
         return false;
     CString text;
-    text.LoadString(IDS_RANGE_TEXT);
-    text.Format(CString(text), static_cast<LPCSTR>(FormatDeviceNumber(code, low)),
+    text.Format(IDS_RANGE_TEXT, static_cast<LPCSTR>(FormatDeviceNumber(code, low)),
                 static_cast<LPCSTR>(FormatDeviceNumber(code, high)));
     SetItemText(label, text);
     return true;
@@ -328,8 +328,7 @@ void CWzdDlgBase::ShowRange(CWnd* label, SWzdRange range)
     if (label == nullptr)
         return;
     CString text;
-    text.LoadString(IDS_RANGE_DECIMAL);
-    text.Format(CString(text), static_cast<int>(range.low), static_cast<int>(range.high));
+    text.Format(IDS_RANGE_DECIMAL, static_cast<int>(range.low), static_cast<int>(range.high));
     label->SetWindowText(text);
 }
 

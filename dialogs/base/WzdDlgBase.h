@@ -54,8 +54,8 @@ public:
     bool ShowContactRange(UINT combo, UINT label);
     /// The same for the starting condition (0) or the second one (1).
     bool ShowContactRange(int which);
-    /// Fills the combo of the JOG direction and selects the direction of the start output that the contact list ends in:
-    /// the second one runs from relays whose number ends in 4. False when the list refuses an item.
+    /// Fills the combo of the JOG direction and selects the direction of the start output that the contact list ends
+    /// in: the second one runs from relays whose number ends in 4. False when the list refuses an item.
     [[nodiscard]] bool FillJogDirectionCombo();
     bool GetSelectedDevice(int comboId, short& kind, short& code) const;
     bool GetSelectedDeviceRange(int comboId, short& kind, short& code, int& low, int& high) const;

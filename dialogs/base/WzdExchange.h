@@ -81,8 +81,8 @@ void WDX_ControlCode(CWzdExchange* wx, EDataType type);
 /// the other variant of a dialog stored the same choice. A code that stands in neither list selects the first item.
 void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, CWzdChoices choices, CWzdChoices alsoRestores = {});
 
-/// A decimal entry of the data table: at most `limit` characters, checked against `range`, which `rangeLabel` shows when
-/// it is not fixed. The label before the edit is its comment.
+/// A decimal entry of the data table: at most `limit` characters, checked against `range`, which `rangeLabel` shows
+/// when it is not fixed. The label before the edit is its comment.
 void WDX_Number(CWzdExchange* wx, UINT edit, SWzdEntry entry, int limit, SWzdRange range, UINT message,
                 UINT rangeLabel = 0);
 
