@@ -21,6 +21,9 @@ struct SFunWizardTest
     static int LastInstruction(const CFunWizard& wizard) { return wizard.m_lastInstruction; }
     static int LastVariant(const CFunWizard& wizard) { return wizard.m_lastVariant; }
 
+    /// The wizard frees the library with itself.
+    static void SetLibrary(CFunWizard& wizard, HINSTANCE library) { wizard.m_library = library; }
+
     static void SetAxisFlag(CFunWizard& wizard, BYTE flag) { wizard.m_axisType = flag; }
     static int AxisFlag(const CFunWizard& wizard) { return wizard.m_axisType; }
 
