@@ -66,9 +66,9 @@ CString TakeColumn(CString& text)
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPosSelectDlg, CDialog)
-ON_LBN_SELCHANGE(IDC_SELECT_LIST, OnSelectionChanged)
-ON_LBN_DBLCLK(IDC_SELECT_LIST, OnOK)
-ON_BN_CLICKED(IDC_HELP_TOPIC, OnHelpTopic)
+ON_LBN_SELCHANGE(IDC_SELECT_LIST, &CPosSelectDlg::OnSelectionChanged)
+ON_LBN_DBLCLK(IDC_SELECT_LIST, &CPosSelectDlg::OnOK)
+ON_BN_CLICKED(IDC_HELP_TOPIC, &CPosSelectDlg::OnHelpTopic)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 

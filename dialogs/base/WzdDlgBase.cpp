@@ -20,10 +20,10 @@ constexpr short kRangeKind = -1; // Under which hosts set the device ranges.
 
 // Every combo may change what another field shows or accepts, so a selection refreshes them all.
 BEGIN_MESSAGE_MAP(CWzdDlgBase, CDialog)
-ON_CONTROL_RANGE(CBN_SELCHANGE, kFirstControl, kLastControl, OnSelectionChanged)
-ON_BN_CLICKED(IDC_ONLY_DATA_TABLE, OnOnlyDataTable)
-ON_BN_CLICKED(IDC_CLEAR_SETTINGS, OnClearSettings)
-ON_BN_CLICKED(IDC_UNIT_CLEAR_SETTINGS, OnClearSettings)
+ON_CONTROL_RANGE(CBN_SELCHANGE, kFirstControl, kLastControl, &CWzdDlgBase::OnSelectionChanged)
+ON_BN_CLICKED(IDC_ONLY_DATA_TABLE, &CWzdDlgBase::OnOnlyDataTable)
+ON_BN_CLICKED(IDC_CLEAR_SETTINGS, &CWzdDlgBase::OnClearSettings)
+ON_BN_CLICKED(IDC_UNIT_CLEAR_SETTINGS, &CWzdDlgBase::OnClearSettings)
 END_MESSAGE_MAP()
 
 CWzdDlgBase::CWzdDlgBase(CFunWizard* wizard, UINT templateId, CWnd* parent)
@@ -374,7 +374,7 @@ bool CWzdDlgBase::Refuse(UINT edit, UINT message)
     return false;
 }
 
-int CWzdDlgBase::ShowWarning(UINT stringId, UINT flags) const
+int CWzdDlgBase::ShowWarning(UINT stringId, UINT flags)
 {
     // Without allocating: the message may be that memory has run out.
     char text[512];

@@ -84,7 +84,7 @@ public:
     /// Selects the whole text of an edit, gives it the focus and shows the message. Always false.
     bool Refuse(UINT edit, UINT message);
     /// Shows a message box with an exclamation mark above the active window; returns the button pressed.
-    int ShowWarning(UINT stringId, UINT flags = 0) const;
+    int ShowWarning(UINT stringId, UINT flags = 0);
 
     /// Only the first control and Back stay usable: there is no room for the data table.
     void DisableAllButFirstAndBack();
