@@ -1,0 +1,3 @@
+#include "afx/Screenshot.h"
+
+BOOL AfxSaveScreenshot(HWND, LPCSTR) { return FALSE; }

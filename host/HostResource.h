@@ -1,0 +1,30 @@
+// The ids of the ladder tool's own resources.
+
+#ifndef LADDERHOST_RESOURCE_H
+#define LADDERHOST_RESOURCE_H
+
+#define IDD_HOST 100
+
+#define IDC_HOST_PLC 1001
+#define IDC_HOST_LANGUAGE 1002
+#define IDC_HOST_HELP_PATH 1003
+
+#define IDC_HOST_PULSE 1011
+#define IDC_HOST_UNIT 1012
+#define IDC_HOST_PID 1013
+#define IDC_HOST_SCAL 1014
+#define IDC_HOST_DSCAL 1015
+#define IDC_HOST_FSCAL 1016
+#define IDC_HOST_SCREEN 1017
+#define IDC_HOST_CODE 1018
+#define IDC_HOST_CODE_TEXT 1019
+
+#define IDC_HOST_LADDER 1021
+#define IDC_HOST_STATUS 1022
+#define IDC_HOST_RESULTS 1023
+
+#ifndef IDC_STATIC
+#define IDC_STATIC (-1)
+#endif
+
+#endif

@@ -1,0 +1,105 @@
+#include "host/ResultText.h"
+
+#include "host/DeviceText.h"
+
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+namespace
+{
+template <typename... T>
+std::string Print(const char* format, T... values)
+{
+    std::vector<char> text(static_cast<size_t>(std::snprintf(nullptr, 0, format, values...)) + 1);
+    std::snprintf(text.data(), text.size(), format, values...);
+    return text.data();
+}
+
+std::string List(const char* name, int count, const std::string& entries)
+{
+    return Print("%s: %d\n", name, count) + entries;
+}
+
+const char* WidthText(int type)
+{
+    constexpr const char* kWidths[] = {"1 word", "2 words", "real"};
+    return type < 3 ? kWidths[type] : "?";
+}
+
+int ConstantCode(int format)
+{
+    constexpr int kCodes[] = {11, 12, 20}; // K, H, f
+    return format < 3 ? kCodes[format] : -1;
+}
+
+// The library copies into a buffer that must be large enough, but does not tell how large; it fills it with zeros
+// first.
+std::string Comment(const CFunWizard& wizard, int index)
+{
+    std::vector<char> text(4096);
+    wizard.GetCmtInfo(index, text.data());
+    return text.data();
+}
+} // namespace
+
+std::string ContactsText(const CFunWizard& wizard)
+{
+    std::string text;
+    short kind, code;
+    int number;
+    for (int i = 0; wizard.GetContInfo(i, kind, code, number) != 0; ++i)
+        text += Print("%4d  kind %-2d  %s\n", i, kind, DeviceText(code, number).c_str());
+    return text;
+}
+
+std::string OperandsText(const CFunWizard& wizard)
+{
+    std::string text;
+    short code;
+    int value;
+    for (int i = 0; wizard.GetOprdInfo(i, code, value) != 0; ++i)
+        text += Print("%4d  %s\n", i, DeviceText(code, value).c_str());
+    return text;
+}
+
+std::string DataTableText(const CFunWizard& wizard)
+{
+    std::string text;
+    SFunSetData data;
+    for (int i = 0; wizard.GetDataInfo(i, &data) != 0; ++i)
+    {
+        text += Print("%4d  %-10s  %-7s  %s\n", i, DeviceText(data.code, data.number).c_str(), WidthText(data.type),
+                      DeviceText(ConstantCode(data.format), data.value).c_str());
+    }
+    return text;
+}
+
+std::string CommentsText(const CFunWizard& wizard)
+{
+    std::string text;
+    for (int i = 0; i < wizard.GetCmtInfoCount(); ++i)
+        text += Print("%4d  %s\n", i, Comment(wizard, i).c_str());
+    return text;
+}
+
+std::string InstructionsText(const CFunWizard& wizard)
+{
+    std::string text;
+    SFWzdInstCode record;
+    for (int i = 0; wizard.GetInstCodeInfo(i, &record) != 0; ++i)
+    {
+        text +=
+            Print("%4d  %3d %6d %11d  %d %d\n", i, record.kind, record.code, record.value, record.flag1, record.flag2);
+    }
+    return text;
+}
+
+std::string ResultText(const CFunWizard& wizard)
+{
+    return List("Contacts", wizard.GetContInfoCount(), ContactsText(wizard)) +
+           List("Operands", wizard.GetOprdInfoCount(), OperandsText(wizard)) +
+           List("Data table", wizard.GetDataInfoCount(), DataTableText(wizard)) +
+           List("Comments", wizard.GetCmtInfoCount(), CommentsText(wizard)) +
+           List("Instructions", wizard.GetInstCodeCount(), InstructionsText(wizard));
+}

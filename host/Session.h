@@ -1,0 +1,81 @@
+// A recorded session: what a user did in the wizard's dialogs, read from a JSON file. README.md describes the form.
+#pragma once
+
+#include "host/Plc.h"
+
+#include <array>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/// A file that is no session: the message says where and why.
+class CSessionError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class EVerb
+{
+    Type,        ///< text into an edit, key by key
+    Set,         ///< text into a control, at once
+    SelectIndex, ///< the item at `number` of a list
+    SelectText,  ///< the item `text` of a list
+    Check,
+    Uncheck,
+    Click,
+    DoubleClick,
+    Focus,
+    Press, ///< the key `number`
+    Shot   ///< a picture named `text`
+};
+
+/// One thing the user did in a dialog.
+struct SStep
+{
+    EVerb verb = EVerb::Click;
+    unsigned control = 0;
+    int number = 0;
+    std::string text;
+    std::string where;              ///< its place in the file
+    std::optional<unsigned> answer; ///< to the message box that comes up: IDOK, IDYES, ...
+};
+
+using CDialogSteps = std::vector<SStep>;
+
+enum class EWizard
+{
+    Pulse,
+    Unit,
+    Pid,
+    Scaling,
+    Screen,
+    ControlCode
+};
+
+/// One opening of a wizard, and what was done in each dialog that came up.
+struct SRun
+{
+    EWizard wizard = EWizard::Pulse;
+    std::string name; ///< of the wizard, as the file has it
+    int workArea = 30;
+    int instruction = 282;
+    unsigned controlCode = 0;
+    std::optional<std::array<unsigned long long, 4>> permitted;
+    std::vector<CDialogSteps> dialogs;
+};
+
+struct SSession
+{
+    std::string title;
+    SPlc plc;
+    int language = 0;
+    std::string help;
+    bool comments = true;
+    std::vector<SRun> runs;
+};
+
+/// Both throw CSessionError.
+SSession ParseSession(const std::string& json);
+SSession LoadSession(const std::string& path);

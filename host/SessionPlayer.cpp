@@ -1,0 +1,229 @@
+#include "host/SessionPlayer.h"
+
+#include "afx/DialogRobot.h"
+#include "afx/Screenshot.h"
+#include "host/Ladder.h"
+#include "host/ResultText.h"
+
+#include <array>
+#include <cctype>
+#include <cstdio>
+#include <filesystem>
+#include <ostream>
+
+namespace
+{
+std::string Quoted(const std::string& text) { return '"' + text + '"'; }
+
+std::string Std(const CString& text) { return static_cast<LPCSTR>(text); }
+
+// What a step did, as the report tells it.
+std::string Describe(const SStep& step)
+{
+    const std::string control = std::to_string(step.control);
+    switch (step.verb)
+    {
+    case EVerb::Type:
+        return "type " + Quoted(step.text) + " in " + control;
+    case EVerb::Set:
+        return "set " + Quoted(step.text) + " in " + control;
+    case EVerb::SelectIndex:
+        return "select " + std::to_string(step.number) + " in " + control;
+    case EVerb::SelectText:
+        return "select " + Quoted(step.text) + " in " + control;
+    case EVerb::Check:
+        return "check " + control;
+    case EVerb::Uncheck:
+        return "uncheck " + control;
+    case EVerb::Click:
+        return "click " + control;
+    case EVerb::DoubleClick:
+        return "double-click " + control;
+    case EVerb::Focus:
+        return "focus " + control;
+    case EVerb::Press:
+        return "press " + step.text;
+    case EVerb::Shot:
+        return "shot " + step.text;
+    }
+    return {};
+}
+
+const char* ButtonName(UINT id)
+{
+    constexpr std::array kNames = {"closed", "OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
+    return id < kNames.size() ? kNames[id] : "?";
+}
+
+// A text as one line of the report.
+std::string OneLine(std::string text)
+{
+    for (size_t i = 0; (i = text.find_first_of("\r\n\t", i)) != std::string::npos;)
+        text.replace(i, 1, text[i] == '\n' ? "\\n" : text[i] == '\t' ? "\\t" : "");
+    return text;
+}
+
+// A caption as part of a file name.
+std::string FileName(std::string text)
+{
+    for (char& c : text)
+        c = std::isalnum(static_cast<unsigned char>(c)) ? static_cast<char>(std::tolower(c)) : '-';
+    return text;
+}
+} // namespace
+
+CSessionPlayer::CSessionPlayer(std::ostream& report, std::string shots) : m_report(report), m_shots(std::move(shots)) {}
+
+bool CSessionPlayer::Play(const SSession& session)
+{
+    m_success = true;
+    m_axes = session.plc.axes;
+    session.plc.Configure(m_wizard);
+    m_wizard.SetLanguageInfo(session.language);
+    m_wizard.SetHelpPath(session.help.c_str());
+    m_wizard.SetCmtRec(session.comments ? 1 : 0);
+
+    if (!session.title.empty())
+        m_report << session.title << '\n';
+    m_report << "PLC: " << session.plc.name << ", type " << session.plc.type << '\n';
+    for (const SRun& run : session.runs)
+        PlayRun(run);
+    return m_success;
+}
+
+void CSessionPlayer::PlayRun(const SRun& run)
+{
+    m_report << "\nOpen: " << run.name << '\n';
+    m_controlCode = run.controlCode;
+
+    std::vector<CDialogRobot::Scene> scenes;
+    for (const CDialogSteps& steps : run.dialogs)
+        scenes.emplace_back([this, &steps](CDialogRobot& robot) { PlayDialog(robot, steps); });
+    CDialogRobot robot;
+    const int result = robot.Play([&] { return Open(run); }, scenes);
+    m_report << "Result: " << result << '\n';
+    ReportFailures(robot, "");
+
+    if (run.wizard == EWizard::ControlCode)
+    {
+        char code[9];
+        std::snprintf(code, sizeof code, "%08X", static_cast<unsigned>(m_controlCode));
+        m_report << "Control code: " << code << '\n';
+        return;
+    }
+    const int generated = m_wizard.CreateInstCode();
+    m_report << '\n' << ResultText(m_wizard);
+    m_report << "Ladder: " << (generated != 0 ? "complete" : "incomplete") << '\n' << CLadder::Of(m_wizard).Text();
+}
+
+int CSessionPlayer::Open(const SRun& run)
+{
+    ULONGLONG permitted[4] = {};
+    if (run.permitted)
+        std::copy(run.permitted->begin(), run.permitted->end(), permitted);
+    ULONGLONG* masks = run.permitted ? permitted : nullptr;
+
+    const unsigned char axisFlag = m_axes == 2 ? 0 : 1;
+    switch (run.wizard)
+    {
+    case EWizard::Pulse:
+        return m_wizard.DoOpenPosDlg(0, axisFlag, nullptr);
+    case EWizard::Unit:
+        return m_wizard.DoOpenPosDlg(1, axisFlag, nullptr);
+    case EWizard::Pid:
+        return m_wizard.DoOpenPIDDlg(run.workArea, nullptr);
+    case EWizard::Scaling:
+        return m_wizard.DoOpenSCALDlg(masks, run.instruction == 282 ? 0 : run.instruction == 283 ? 1 : 2, nullptr);
+    case EWizard::Screen:
+        return m_wizard.DoOpenSCRDlg(masks, nullptr);
+    case EWizard::ControlCode:
+        return m_wizard.DoInputPosCtrlDlg(m_controlCode, nullptr);
+    }
+    return 0;
+}
+
+void CSessionPlayer::PlayDialog(CDialogRobot& robot, const CDialogSteps& steps)
+{
+    if (robot.IsMessageBox())
+        m_report << "Message box " << Quoted(Std(robot.Caption())) << ": " << Quoted(OneLine(Std(robot.Text(0))))
+                 << '\n';
+    else
+        m_report << "Dialog " << Quoted(Std(robot.Caption())) << '\n';
+
+    for (const SStep& step : steps)
+    {
+        if (&step == &steps.back())
+            SaveShot(robot, Std(robot.Caption()));
+        PlayStep(robot, step);
+    }
+}
+
+void CSessionPlayer::PlayStep(CDialogRobot& robot, const SStep& step)
+{
+    const size_t boxes = robot.MessageBoxes().size();
+
+    m_report << "  " << OneLine(Describe(step)) << '\n';
+    if (step.answer)
+        robot.Answering(*step.answer, [&] { Act(robot, step); });
+    else
+        Act(robot, step);
+
+    // An edit need not take everything that is typed.
+    if (step.verb == EVerb::Type && robot.IsOpen() && Std(robot.Text(step.control)) != step.text)
+        m_report << "    it holds " << Quoted(OneLine(Std(robot.Text(step.control)))) << '\n';
+    for (size_t i = boxes; i < robot.MessageBoxes().size(); ++i)
+    {
+        const SRobotMessageBox& box = robot.MessageBoxes()[i];
+        m_report << "    message box " << Quoted(Std(box.caption)) << ": " << Quoted(OneLine(Std(box.text))) << ", "
+                 << ButtonName(box.answer) << '\n';
+    }
+    ReportFailures(robot, " (" + step.where + ")");
+}
+
+void CSessionPlayer::Act(CDialogRobot& robot, const SStep& step)
+{
+    switch (step.verb)
+    {
+    case EVerb::Type:
+        return robot.Type(step.control, step.text.c_str());
+    case EVerb::Set:
+        return robot.SetText(step.control, step.text.c_str());
+    case EVerb::SelectIndex:
+        return robot.Select(step.control, step.number);
+    case EVerb::SelectText:
+        return robot.SelectText(step.control, step.text.c_str());
+    case EVerb::Check:
+        return robot.Check(step.control, true);
+    case EVerb::Uncheck:
+        return robot.Check(step.control, false);
+    case EVerb::Click:
+        return robot.Click(step.control);
+    case EVerb::DoubleClick:
+        return robot.DoubleClick(step.control);
+    case EVerb::Focus:
+        return robot.Focus(step.control);
+    case EVerb::Press:
+        return robot.PressKey(static_cast<UINT>(step.number));
+    case EVerb::Shot:
+        return SaveShot(robot, step.text);
+    }
+}
+
+void CSessionPlayer::SaveShot(CDialogRobot& robot, const std::string& name)
+{
+    if (m_shots.empty())
+        return;
+    char number[16];
+    std::snprintf(number, sizeof number, "%02d-", ++m_shotCount);
+    const std::string path = (std::filesystem::path(m_shots) / (number + FileName(name) + ".png")).string();
+    AfxSaveScreenshot(robot.Dialog()->m_hWnd, path.c_str());
+}
+
+// Failures are told where they happen, once.
+void CSessionPlayer::ReportFailures(CDialogRobot& robot, const std::string& where)
+{
+    for (const CString& failure : robot.Failures())
+        m_report << "FAILED: " << OneLine(Std(failure)) << where << '\n';
+    m_success = m_success && robot.Failures().empty();
+    robot.ClearFailures();
+}

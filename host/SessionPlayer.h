@@ -1,0 +1,38 @@
+// Plays a recorded session in the library's own dialogs and reports what came of it.
+#pragma once
+
+#include "host/Session.h"
+
+#include <iosfwd>
+#include <string>
+
+class CDialogRobot;
+
+class CSessionPlayer
+{
+public:
+    /// The report goes to `report`; with a folder in `shots` a picture of each dialog is saved there just before the
+    /// step that closes it, and wherever the session asks for one. Pictures need windows on a screen.
+    CSessionPlayer(std::ostream& report, std::string shots);
+
+    /// Plays every run on one wizard object. False when the dialogs did not do as the session said; the reasons are in
+    /// the report.
+    bool Play(const SSession& session);
+
+private:
+    void PlayRun(const SRun& run);
+    void PlayDialog(CDialogRobot& robot, const CDialogSteps& steps);
+    void PlayStep(CDialogRobot& robot, const SStep& step);
+    void Act(CDialogRobot& robot, const SStep& step);
+    void SaveShot(CDialogRobot& robot, const std::string& name);
+    int Open(const SRun& run);
+    void ReportFailures(CDialogRobot& robot, const std::string& where);
+
+    std::ostream& m_report;
+    std::string m_shots;
+    int m_shotCount = 0;
+    bool m_success = true;
+    CFunWizard m_wizard;
+    int m_axes = 4;
+    ULONG m_controlCode = 0;
+};
