@@ -4,12 +4,6 @@
 
 #include <cstdlib>
 
-STemporaries& AfxTemporaries()
-{
-    static STemporaries temporaries;
-    return temporaries;
-}
-
 IMPLEMENT_DYNAMIC(CGdiObject, CObject)
 IMPLEMENT_DYNAMIC(CFont, CGdiObject)
 IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
@@ -22,6 +16,8 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 namespace
 {
 
+STemporaries temporaries;
+
 HWND HandleOf(CWnd* window) { return window ? window->m_hWnd : nullptr; }
 
 void AttachOrThrow(CDC& dc, HDC handle)
@@ -31,6 +27,8 @@ void AttachOrThrow(CDC& dc, HDC handle)
 }
 
 } // namespace
+
+STemporaries& AfxTemporaries() { return temporaries; }
 
 // ---- Objects --------------------------------------------------------------------------------------------------------
 

@@ -12,16 +12,13 @@ IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 namespace
 {
 
-// The objects that are attached to a window. They are a handful, the last ones being asked for most.
-std::vector<CWnd*>& AttachedWindows()
-{
-    static std::vector<CWnd*> windows = [] {
-        std::vector<CWnd*> none;
-        none.reserve(64);
-        return none;
-    }();
-    return windows;
-}
+// The objects that are attached to a window. They are a handful, the last ones being asked for most. There is room from
+// the start, so that memory cannot fail while the system creates a window.
+std::vector<CWnd*> attachedWindows = [] {
+    std::vector<CWnd*> none;
+    none.reserve(64);
+    return none;
+}();
 
 // The object whose window CreateEx is about to create; the first message to an unknown window is for it.
 CWnd* windowInCreation = nullptr;
@@ -69,10 +66,9 @@ CWnd* PASCAL CWnd::FromHandle(HWND window)
 
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND window)
 {
-    const std::vector<CWnd*>& windows = AttachedWindows();
-    const auto found =
-        std::find_if(windows.rbegin(), windows.rend(), [window](CWnd* one) { return one->m_hWnd == window; });
-    return found != windows.rend() ? *found : nullptr;
+    const auto found = std::find_if(attachedWindows.rbegin(), attachedWindows.rend(),
+                                    [window](CWnd* one) { return one->m_hWnd == window; });
+    return found != attachedWindows.rend() ? *found : nullptr;
 }
 
 void PASCAL CWnd::DeleteTempMap() { AfxTemporaries().windows.ReleaseAll(); }
@@ -82,15 +78,14 @@ BOOL CWnd::Attach(HWND window)
     ASSERT(!m_hWnd);
     if (!window)
         return FALSE;
-    AttachedWindows().push_back(this);
+    attachedWindows.push_back(this);
     m_hWnd = window;
     return TRUE;
 }
 
 HWND CWnd::Detach()
 {
-    std::vector<CWnd*>& windows = AttachedWindows();
-    windows.erase(std::remove(windows.begin(), windows.end(), this), windows.end());
+    attachedWindows.erase(std::remove(attachedWindows.begin(), attachedWindows.end(), this), attachedWindows.end());
     return std::exchange(m_hWnd, nullptr);
 }
 
