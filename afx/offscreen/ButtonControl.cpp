@@ -1,0 +1,333 @@
+// The standard class "Button": push buttons, check boxes, radio buttons, group boxes, owner-drawn buttons.
+
+#include "afx/offscreen/Internal.h"
+
+namespace offscreen
+{
+namespace
+{
+struct ButtonState : ControlState
+{
+    UINT check = BST_UNCHECKED;
+    bool pushed = false;
+    bool focused = false;
+    bool spaceHeld = false;
+    HANDLE image = nullptr;
+};
+
+UINT KindOf(const Window& button) { return button.style & BS_TYPEMASK; }
+
+bool IsPush(UINT kind) { return kind == BS_PUSHBUTTON || kind == BS_DEFPUSHBUTTON; }
+bool IsRadio(UINT kind) { return kind == BS_RADIOBUTTON || kind == BS_AUTORADIOBUTTON; }
+bool IsThreeState(UINT kind) { return kind == BS_3STATE || kind == BS_AUTO3STATE; }
+bool IsCheckable(UINT kind)
+{
+    return kind == BS_CHECKBOX || kind == BS_AUTOCHECKBOX || IsRadio(kind) || IsThreeState(kind);
+}
+
+void SetCheck(Window& button, UINT check)
+{
+    auto& state = *StateOf<ButtonState>(button);
+    const UINT kind = KindOf(button);
+    if (!IsCheckable(kind))
+        return;
+    check = std::min<UINT>(check, IsThreeState(kind) ? BST_INDETERMINATE : BST_CHECKED);
+    if (IsRadio(kind))
+    {
+        // The checked button of a group is the one that the tab key stops at.
+        if (check)
+            button.style |= WS_TABSTOP;
+        else
+            button.style &= ~WS_TABSTOP;
+    }
+    if (state.check == check)
+        return;
+    state.check = check;
+    Invalidate(button);
+}
+
+// Unchecks the other automatic radio buttons of the group.
+void CheckRadioInGroup(Window& button)
+{
+    if (!button.IsChild())
+        return;
+    const HWND parent = ParentOf(button);
+    const HWND start = button.handle;
+    HWND sibling = start;
+    for (int steps = 0; steps < 10000; ++steps)
+    {
+        const Window* window = Find(sibling);
+        if (!window)
+            return;
+        const bool isRadio =
+            (Send(sibling, WM_GETDLGCODE) & DLGC_RADIOBUTTON) && KindOf(*window) == BS_AUTORADIOBUTTON;
+        if (isRadio)
+            Send(sibling, BM_SETCHECK, sibling == start ? BST_CHECKED : BST_UNCHECKED);
+        sibling = GetNextDlgGroupItem(parent, sibling, FALSE);
+        if (!sibling || sibling == start)
+            return;
+    }
+}
+
+void ChangeByClick(Window& button)
+{
+    auto& state = *StateOf<ButtonState>(button);
+    switch (KindOf(button))
+    {
+    case BS_AUTOCHECKBOX: SetCheck(button, state.check ? BST_UNCHECKED : BST_CHECKED); break;
+    case BS_AUTO3STATE: SetCheck(button, (state.check + 1) % 3); break;
+    case BS_AUTORADIOBUTTON: CheckRadioInGroup(button); break;
+    default: break;
+    }
+}
+
+void SetPushed(Window& button, bool pushed)
+{
+    auto& state = *StateOf<ButtonState>(button);
+    if (state.pushed == pushed)
+        return;
+    state.pushed = pushed;
+    Invalidate(button);
+}
+
+void NotifyIfAsked(const Window& button, int code)
+{
+    if (button.style & BS_NOTIFY)
+        NotifyParent(button, code);
+}
+
+void PressMouse(Window& button)
+{
+    SetCapture(button.handle);
+    SetFocus(button.handle);
+    if (!button.dead)
+        SetPushed(button, true);
+}
+
+bool IsOver(const Window& button, LPARAM lParam)
+{
+    const RECT client = ClientRectOf(button);
+    return PtInRect(&client, POINT{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+}
+
+void ReleaseMouse(Window& button, LPARAM lParam)
+{
+    auto& state = *StateOf<ButtonState>(button);
+    const bool wasPushed = state.pushed;
+    if (!wasPushed)
+    {
+        if (GetCapture() == button.handle)
+            ReleaseCapture();
+        return;
+    }
+    SetPushed(button, false);
+    const bool clicked = IsOver(button, lParam);
+    if (clicked)
+        ChangeByClick(button);
+    if (button.dead)
+        return;
+    if (GetCapture() == button.handle)
+        ReleaseCapture();
+    if (clicked && !button.dead)
+        NotifyParent(button, BN_CLICKED);
+}
+
+void Click(Window& button)
+{
+    PressMouse(button);
+    if (!button.dead && StateOf<ButtonState>(button)->pushed)
+        ReleaseMouse(button, 0);
+}
+
+LRESULT DialogCodeOf(const Window& button)
+{
+    switch (KindOf(button))
+    {
+    case BS_USERBUTTON:
+    case BS_PUSHBUTTON: return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
+    case BS_DEFPUSHBUTTON: return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
+    case BS_RADIOBUTTON:
+    case BS_AUTORADIOBUTTON: return DLGC_BUTTON | DLGC_RADIOBUTTON;
+    case BS_GROUPBOX: return DLGC_STATIC;
+    default: return DLGC_BUTTON;
+    }
+}
+
+UINT ItemState(const Window& button)
+{
+    const auto& state = *StateOf<ButtonState>(const_cast<Window&>(button));
+    return (state.pushed ? ODS_SELECTED : 0u) | (state.focused ? ODS_FOCUS : 0u) |
+           (button.style & WS_DISABLED ? ODS_DISABLED : 0u);
+}
+
+void PaintOn(Window& button, HDC dc, UINT action)
+{
+    SelectObject(dc, button.font);
+    if (KindOf(button) == BS_OWNERDRAW)
+    {
+        DRAWITEMSTRUCT item{};
+        item.CtlType = ODT_BUTTON;
+        item.itemAction = action;
+        item.itemState = ItemState(button);
+        item.hDC = dc;
+        item.rcItem = ClientRectOf(button);
+        DrawItem(button, item);
+        return;
+    }
+    const bool isButton = IsPush(KindOf(button)) || (button.style & BS_PUSHLIKE);
+    AskParentForColors(button, isButton ? WM_CTLCOLORBTN : WM_CTLCOLORSTATIC, dc);
+}
+
+void PaintNow(Window& button, UINT action)
+{
+    if (KindOf(button) != BS_OWNERDRAW || !IsEffectivelyVisible(button))
+    {
+        Invalidate(button);
+        return;
+    }
+    const HDC dc = GetDC(button.handle);
+    PaintOn(button, dc, action);
+    ReleaseDC(button.handle, dc);
+}
+
+LRESULT HandleFocus(Window& button, bool gained)
+{
+    auto& state = *StateOf<ButtonState>(button);
+    state.focused = gained;
+    if (gained)
+    {
+        PaintNow(button, ODA_FOCUS);
+        NotifyIfAsked(button, BN_SETFOCUS);
+        if (!button.dead && IsRadio(KindOf(button)) && !state.check && KindOf(button) == BS_AUTORADIOBUTTON)
+            NotifyParent(button, BN_CLICKED);
+        return 0;
+    }
+    if (state.spaceHeld || state.pushed)
+    {
+        state.spaceHeld = false;
+        SetPushed(button, false);
+        if (GetCapture() == button.handle)
+            ReleaseCapture();
+    }
+    PaintNow(button, ODA_FOCUS);
+    NotifyIfAsked(button, BN_KILLFOCUS);
+    return 0;
+}
+
+LRESULT HandleKey(Window& button, bool down, WPARAM key)
+{
+    auto& state = *StateOf<ButtonState>(button);
+    if (key != VK_SPACE)
+        return 0;
+    if (down)
+    {
+        state.spaceHeld = true;
+        SetPushed(button, true);
+        SetCapture(button.handle);
+        return 0;
+    }
+    if (!state.spaceHeld)
+        return 0;
+    state.spaceHeld = false;
+    SetPushed(button, false);
+    if (GetCapture() == button.handle)
+        ReleaseCapture();
+    ChangeByClick(button);
+    if (!button.dead)
+        NotifyParent(button, BN_CLICKED);
+    return 0;
+}
+
+LRESULT Create(Window& button)
+{
+    button.control = std::make_unique<ButtonState>();
+    if (KindOf(button) == BS_USERBUTTON)
+        button.style = (button.style & ~BS_TYPEMASK) | BS_PUSHBUTTON;
+    return 0;
+}
+} // namespace
+
+LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    Window* window = Find(handle);
+    if (!window)
+        return 0;
+    Window& button = *window;
+    const Pin pin(window);
+    if (message == WM_CREATE)
+        return Create(button);
+    auto* state = StateOf<ButtonState>(button);
+    if (!state)
+        return DefWindowProcA(handle, message, wParam, lParam);
+
+    switch (message)
+    {
+    case WM_GETDLGCODE: return DialogCodeOf(button);
+    case WM_ENABLE: Invalidate(button); return 0;
+    case WM_SETFONT:
+        button.font = reinterpret_cast<HFONT>(wParam);
+        if (lParam)
+            Invalidate(button);
+        return 0;
+    case WM_GETFONT: return reinterpret_cast<LRESULT>(button.font);
+    case WM_ERASEBKGND: return TRUE;
+    case WM_PAINT:
+    {
+        PAINTSTRUCT paint;
+        const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
+        PaintOn(button, dc, ODA_DRAWENTIRE);
+        if (!wParam)
+            EndPaint(handle, &paint);
+        return 0;
+    }
+    case WM_PRINTCLIENT: PaintOn(button, reinterpret_cast<HDC>(wParam), ODA_DRAWENTIRE); return 0;
+
+    case WM_SETFOCUS: return HandleFocus(button, true);
+    case WM_KILLFOCUS: return HandleFocus(button, false);
+    case WM_KEYDOWN:
+        if (wParam == VK_SPACE)
+            return HandleKey(button, true, wParam);
+        return DefWindowProcA(handle, message, wParam, lParam);
+    case WM_KEYUP:
+        if (wParam == VK_SPACE)
+            return HandleKey(button, false, wParam);
+        return DefWindowProcA(handle, message, wParam, lParam);
+
+    case WM_LBUTTONDBLCLK:
+        if ((button.style & BS_NOTIFY) || IsRadio(KindOf(button)) || KindOf(button) == BS_OWNERDRAW)
+        {
+            NotifyParent(button, BN_DOUBLECLICKED);
+            return 0;
+        }
+        [[fallthrough]];
+    case WM_LBUTTONDOWN: PressMouse(button); return 0;
+    case WM_LBUTTONUP: ReleaseMouse(button, lParam); return 0;
+    case WM_MOUSEMOVE:
+        if (GetCapture() == handle && (wParam & MK_LBUTTON))
+            SetPushed(button, IsOver(button, lParam));
+        return 0;
+    case WM_CAPTURECHANGED:
+        if (state->pushed)
+            SetPushed(button, false);
+        return 0;
+    case WM_NCHITTEST: return KindOf(button) == BS_GROUPBOX ? HTTRANSPARENT : HTCLIENT;
+
+    case BM_CLICK: Click(button); return 0;
+    case BM_GETCHECK: return static_cast<LRESULT>(state->check);
+    case BM_SETCHECK: SetCheck(button, static_cast<UINT>(wParam)); return 0;
+    case BM_GETSTATE:
+        return static_cast<LRESULT>(state->check | (state->pushed ? BST_PUSHED : 0u) |
+                                    (state->focused ? BST_FOCUS : 0u));
+    case BM_SETSTATE: SetPushed(button, wParam != 0); return 0;
+    case BM_SETSTYLE:
+        button.style = (button.style & ~BS_TYPEMASK) | (static_cast<UINT>(wParam) & BS_TYPEMASK);
+        if (lParam)
+            Invalidate(button);
+        return 0;
+    case BM_SETIMAGE: return reinterpret_cast<LRESULT>(std::exchange(state->image, reinterpret_cast<HANDLE>(lParam)));
+    case BM_GETIMAGE: return reinterpret_cast<LRESULT>(state->image);
+    default: return DefWindowProcA(handle, message, wParam, lParam);
+    }
+}
+} // namespace offscreen

@@ -1,0 +1,420 @@
+// The standard class "ComboBox" in the form of a drop-down list (CBS_DROPDOWNLIST). The list that drops down is no
+// window of its own here.
+
+#include "afx/offscreen/ItemList.h"
+
+namespace offscreen
+{
+namespace
+{
+struct ComboState : ControlState
+{
+    explicit ComboState(const ItemList::Traits& traits) : items(traits) {}
+
+    ItemList items;
+    bool dropped = false;
+    int selectionBefore = -1; // When the list dropped down; Esc goes back to it.
+    bool extended = false;
+    int itemHeight = 0;
+    int fieldHeight = 0; // Of the selection field.
+    int dropHeight = 0;  // The whole height that creation asked for, with the list.
+    int dropWidth = 0;
+    int extent = 0;
+    bool resizing = false;
+};
+
+constexpr int kBorder = 2;  // Around the selection field.
+constexpr int kPadding = 2; // Between it and the text.
+
+ComboState& Of(Window& combo) { return *StateOf<ComboState>(combo); }
+
+bool IsOwnerDrawn(const Window& combo) { return (combo.style & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0; }
+
+// The closed combo box is as high as its selection field, whatever height it is given.
+void AdjustHeight(Window& combo)
+{
+    ComboState& state = Of(combo);
+    const int height = state.fieldHeight + 2 * kBorder;
+    if (state.resizing || combo.rect.bottom - combo.rect.top == height)
+        return;
+    state.resizing = true;
+    SetWindowPos(combo.handle, nullptr, 0, 0, combo.rect.right - combo.rect.left, height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
+    if (combo.control)
+        Of(combo).resizing = false;
+}
+
+void MeasureText(Window& combo)
+{
+    ComboState& state = Of(combo);
+    const int height = MetricsOf(combo.font).height;
+    state.itemHeight = height;
+    state.fieldHeight = height + 2 * kPadding;
+}
+
+void MeasureItem(Window& combo)
+{
+    ComboState& state = Of(combo);
+    for (int part : {-1, 0})
+    {
+        MEASUREITEMSTRUCT measure{};
+        measure.CtlType = ODT_COMBOBOX;
+        measure.CtlID = static_cast<UINT>(combo.id);
+        measure.itemID = static_cast<UINT>(part);
+        measure.itemHeight = static_cast<UINT>(MetricsOf(combo.font).height);
+        Send(ParentOf(combo), WM_MEASUREITEM, measure.CtlID, reinterpret_cast<LPARAM>(&measure));
+        if (part == -1)
+            state.fieldHeight = static_cast<int>(measure.itemHeight) + 2 * kPadding;
+        else
+            state.itemHeight = static_cast<int>(measure.itemHeight);
+    }
+}
+
+LRESULT Create(Window& combo)
+{
+    if ((combo.style & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST || (combo.style & CBS_OWNERDRAWVARIABLE))
+        return NotModelled("combo boxes with an edit, and such with items of several heights", -1);
+    ItemList::Traits traits{};
+    traits.ownerDrawnType = IsOwnerDrawn(combo) ? ODT_COMBOBOX : 0;
+    traits.hasStrings = !traits.ownerDrawnType || (combo.style & CBS_HASSTRINGS);
+    traits.sorted = (combo.style & CBS_SORT) != 0;
+    traits.errorSpaceNotification = CBN_ERRSPACE;
+    if (!traits.ownerDrawnType)
+        combo.style |= CBS_HASSTRINGS;
+    // The frame is drawn by the control itself.
+    combo.exStyle &= ~(WS_EX_CLIENTEDGE | WS_EX_WINDOWEDGE);
+    combo.style &= ~(WS_BORDER | WS_HSCROLL);
+    combo.control = std::make_unique<ComboState>(traits);
+    Of(combo).dropHeight = combo.rect.bottom - combo.rect.top;
+    MeasureText(combo);
+    if (traits.ownerDrawnType)
+        MeasureItem(combo);
+    AdjustHeight(combo);
+    return 0;
+}
+
+// ----------------------------------------------------------------------------------------------------- dropping down
+
+void DropDown(Window& combo)
+{
+    ComboState& state = Of(combo);
+    NotifyParent(combo, CBN_DROPDOWN);
+    if (combo.dead)
+        return;
+    state.dropped = true;
+    state.selectionBefore = state.items.Selection();
+}
+
+void RollUp(Window& combo, bool accept)
+{
+    ComboState& state = Of(combo);
+    NotifyParent(combo, accept ? CBN_SELENDOK : CBN_SELENDCANCEL);
+    if (combo.dead || !state.dropped)
+        return;
+    state.dropped = false;
+    Invalidate(combo);
+    NotifyParent(combo, CBN_CLOSEUP);
+}
+
+void Toggle(Window& combo)
+{
+    if (Of(combo).dropped)
+        RollUp(combo, true);
+    else
+        DropDown(combo);
+}
+
+// -------------------------------------------------------------------------------------------------------- selecting
+
+void SelectByUser(Window& combo, int index)
+{
+    ComboState& state = Of(combo);
+    if (index < 0 || index >= state.items.Count() || index == state.items.Selection())
+        return;
+    state.items.Select(index);
+    Invalidate(combo);
+    if (!state.dropped)
+        NotifyParent(combo, CBN_SELENDOK);
+    if (!combo.dead)
+        NotifyParent(combo, CBN_SELCHANGE);
+}
+
+LRESULT SetSelection(Window& combo, int index)
+{
+    ItemList& items = Of(combo).items;
+    const bool valid = index >= 0 && index < items.Count();
+    items.Select(valid ? index : -1);
+    Invalidate(combo);
+    return valid ? index : CB_ERR;
+}
+
+int VisibleItems(const ComboState& state)
+{
+    return std::max((state.dropHeight - state.fieldHeight - 2 * kBorder) / std::max(state.itemHeight, 1), 1);
+}
+
+LRESULT HandleKey(Window& combo, UINT message, WPARAM key)
+{
+    ComboState& state = Of(combo);
+    const bool alt = message == WM_SYSKEYDOWN;
+    if (alt)
+    {
+        if (key == VK_UP || key == VK_DOWN)
+            Toggle(combo);
+        return 0;
+    }
+    const int count = state.items.Count();
+    int index = state.items.Selection();
+    switch (key)
+    {
+    case VK_RETURN:
+        if (state.dropped)
+            RollUp(combo, true);
+        return 0;
+    case VK_ESCAPE:
+        if (state.dropped)
+        {
+            state.items.Select(state.selectionBefore < count ? state.selectionBefore : -1);
+            RollUp(combo, false);
+        }
+        return 0;
+    case VK_F4:
+        if (!state.extended)
+            Toggle(combo);
+        return 0;
+    case VK_LEFT:
+    case VK_UP: index = std::max(index - 1, 0); break;
+    case VK_RIGHT:
+    case VK_DOWN: ++index; break;
+    case VK_PRIOR: index -= std::max(VisibleItems(state) - 1, 1); break;
+    case VK_NEXT: index = std::max(index, 0) + std::max(VisibleItems(state) - 1, 1); break;
+    case VK_HOME: index = 0; break;
+    case VK_END: index = count - 1; break;
+    default: return 0;
+    }
+    if (count)
+        SelectByUser(combo, std::clamp(index, 0, count - 1));
+    return 0;
+}
+
+// ---------------------------------------------------------------------------------------------------------- painting
+
+void PaintOn(Window& combo, HDC dc)
+{
+    ComboState& state = Of(combo);
+    SelectObject(dc, combo.font);
+    AskParentForColors(combo, combo.style & WS_DISABLED ? WM_CTLCOLORSTATIC : WM_CTLCOLORLISTBOX, dc);
+    if (!IsOwnerDrawn(combo) || combo.dead)
+        return;
+    const int selection = state.items.Selection();
+    const RECT client = ClientRectOf(combo);
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_COMBOBOX;
+    item.itemID = static_cast<UINT>(selection);
+    item.itemAction = ODA_DRAWENTIRE;
+    item.itemState = ODS_COMBOBOXEDIT | (GetFocus() == combo.handle ? ODS_FOCUS | ODS_SELECTED : 0u) |
+                     (combo.style & WS_DISABLED ? ODS_DISABLED : 0u);
+    item.hDC = dc;
+    item.rcItem = {kBorder + 1, kBorder + 1, client.right - kBorder - 1 - GetSystemMetrics(SM_CXVSCROLL),
+                   client.bottom - kBorder - 1};
+    item.itemData = selection >= 0 ? static_cast<ULONG_PTR>(state.items.Data(selection)) : 0;
+    DrawItem(combo, item);
+}
+
+LRESULT CopySelectedText(Window& combo, WPARAM size, LPARAM target)
+{
+    const ItemList& items = Of(combo).items;
+    const int selection = items.Selection();
+    return CopyText(selection >= 0 ? std::string_view(items.Text(selection)) : std::string_view(),
+                    reinterpret_cast<LPSTR>(target), size);
+}
+
+LRESULT FillInfo(Window& combo, COMBOBOXINFO& info)
+{
+    const RECT client = ClientRectOf(combo);
+    info.rcItem = {kBorder + 1, kBorder + 1, client.right - kBorder - GetSystemMetrics(SM_CXVSCROLL),
+                   client.bottom - kBorder - 1};
+    info.rcButton = {client.right - kBorder - GetSystemMetrics(SM_CXVSCROLL), kBorder, client.right - kBorder,
+                     client.bottom - kBorder};
+    info.stateButton = Of(combo).dropped ? 8 : 0;
+    info.hwndCombo = combo.handle;
+    info.hwndItem = combo.handle;
+    info.hwndList = nullptr;
+    return TRUE;
+}
+
+LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    ComboState& state = Of(combo);
+    ItemList& items = state.items;
+    const int start = static_cast<int>(wParam);
+    switch (message)
+    {
+    case CB_ADDSTRING: return items.Add(combo, lParam);
+    case CB_INSERTSTRING: return items.Insert(combo, start, lParam);
+    case CB_DELETESTRING:
+    {
+        const LRESULT left = items.Remove(combo, wParam);
+        Invalidate(combo);
+        return left;
+    }
+    case CB_RESETCONTENT:
+        items.Clear(combo);
+        Invalidate(combo);
+        return CB_OKAY;
+    case CB_GETCOUNT: return items.Count();
+    case CB_SETCURSEL: return SetSelection(combo, start);
+    case CB_GETCURSEL: return items.Selection();
+    case CB_GETLBTEXT: return items.CopyItem(wParam, lParam);
+    case CB_GETLBTEXTLEN: return items.TextLength(wParam);
+    case CB_GETITEMDATA: return items.IsIndex(wParam) ? items.Data(start) : CB_ERR;
+    case CB_SETITEMDATA:
+        if (!items.IsIndex(wParam))
+            return CB_ERR;
+        items.SetData(start, lParam);
+        return TRUE;
+    case CB_FINDSTRING: return items.FindPrefix(start, lParam);
+    case CB_FINDSTRINGEXACT: return items.FindExact(start, lParam);
+    case CB_SELECTSTRING:
+    {
+        const int index = items.FindPrefix(start, lParam);
+        return index >= 0 ? SetSelection(combo, index) : CB_ERR;
+    }
+    case CB_SHOWDROPDOWN:
+        if (wParam && !state.dropped)
+            DropDown(combo);
+        else if (!wParam && state.dropped)
+            RollUp(combo, false);
+        return TRUE;
+    case CB_GETDROPPEDSTATE: return state.dropped;
+    case CB_GETDROPPEDCONTROLRECT:
+    {
+        RECT rect = ScreenRectOf(combo);
+        rect.bottom = rect.top + std::max(state.dropHeight, combo.rect.bottom - combo.rect.top);
+        *reinterpret_cast<RECT*>(lParam) = rect;
+        return TRUE;
+    }
+    case CB_SETITEMHEIGHT:
+        if (start == -1)
+        {
+            state.fieldHeight = static_cast<int>(lParam) + 2 * kPadding;
+            AdjustHeight(combo);
+        }
+        else
+            state.itemHeight = static_cast<int>(lParam);
+        return CB_OKAY;
+    case CB_GETITEMHEIGHT: return start == -1 ? state.fieldHeight - 2 * kPadding : state.itemHeight;
+    case CB_SETEXTENDEDUI: state.extended = wParam != 0; return CB_OKAY;
+    case CB_GETEXTENDEDUI: return state.extended;
+    case CB_SETDROPPEDWIDTH: state.dropWidth = start; [[fallthrough]];
+    case CB_GETDROPPEDWIDTH: return std::max<int>(state.dropWidth, combo.rect.right - combo.rect.left);
+    case CB_SETHORIZONTALEXTENT: state.extent = start; return CB_OKAY;
+    case CB_GETHORIZONTALEXTENT: return state.extent;
+    case CB_GETTOPINDEX: return 0;
+    case CB_SETTOPINDEX: return items.IsIndex(wParam) ? CB_OKAY : CB_ERR;
+    case CB_INITSTORAGE: return items.Count() + static_cast<LRESULT>(wParam);
+    case CB_GETCOMBOBOXINFO: return FillInfo(combo, *reinterpret_cast<COMBOBOXINFO*>(lParam));
+    case CB_LIMITTEXT: return TRUE; // There is no edit to limit.
+    case CB_GETEDITSEL:
+    case CB_SETEDITSEL: return CB_ERR;
+    default: Fail("not modelled: combo box message 0x%04X", message); return CB_ERR;
+    }
+}
+} // namespace
+
+LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    Window* window = Find(handle);
+    if (!window)
+        return 0;
+    Window& combo = *window;
+    const Pin pin(window);
+    if (message == WM_CREATE)
+        return Create(combo);
+    if (!combo.control)
+        return DefWindowProcA(handle, message, wParam, lParam);
+    ComboState& state = Of(combo);
+    if (message >= CB_GETEDITSEL && message <= CB_GETCOMBOBOXINFO)
+        return HandleComboMessage(combo, message, wParam, lParam);
+
+    switch (message)
+    {
+    case WM_DESTROY: state.items.Clear(combo); return 0;
+    case WM_GETDLGCODE:
+    {
+        LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
+        // While the list is down, Enter and Esc belong to it.
+        const auto* key = reinterpret_cast<const MSG*>(lParam);
+        if (key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE) &&
+            state.dropped)
+            code |= DLGC_WANTMESSAGE;
+        return code;
+    }
+    case WM_SETFONT:
+        combo.font = reinterpret_cast<HFONT>(wParam);
+        if (!IsOwnerDrawn(combo))
+            MeasureText(combo);
+        AdjustHeight(combo);
+        if (lParam)
+            Invalidate(combo);
+        return 0;
+    case WM_GETFONT: return reinterpret_cast<LRESULT>(combo.font);
+    case WM_WINDOWPOSCHANGING:
+    {
+        // A new height is that of the list.
+        auto& position = *reinterpret_cast<WINDOWPOS*>(lParam);
+        if (!(position.flags & SWP_NOSIZE) && !state.resizing)
+        {
+            const int closed = state.fieldHeight + 2 * kBorder;
+            if (position.cy > closed)
+                state.dropHeight = position.cy;
+            position.cy = closed;
+        }
+        return 0;
+    }
+    case WM_ERASEBKGND: return TRUE;
+    case WM_PAINT:
+    {
+        PAINTSTRUCT paint;
+        const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
+        PaintOn(combo, dc);
+        if (!wParam)
+            EndPaint(handle, &paint);
+        return 0;
+    }
+    case WM_GETTEXT: return CopySelectedText(combo, wParam, lParam);
+    case WM_GETTEXTLENGTH:
+        return state.items.Selection() >= 0 ? state.items.TextLength(static_cast<WPARAM>(state.items.Selection())) : 0;
+    case WM_SETTEXT: return CB_ERR;
+    case WM_SETFOCUS:
+        Invalidate(combo);
+        NotifyParent(combo, CBN_SETFOCUS);
+        return 0;
+    case WM_KILLFOCUS:
+        RollUp(combo, false);
+        if (!combo.dead)
+        {
+            Invalidate(combo);
+            NotifyParent(combo, CBN_KILLFOCUS);
+        }
+        return 0;
+    case WM_ENABLE: Invalidate(combo); return 0;
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN: return HandleKey(combo, message, wParam);
+    case WM_CHAR: SelectByUser(combo, state.items.FindNext(static_cast<char>(wParam))); return 0;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        SetFocus(handle);
+        if (!combo.dead)
+            Toggle(combo);
+        return 0;
+    default: return DefWindowProcA(handle, message, wParam, lParam);
+    }
+}
+} // namespace offscreen
+
+BOOL GetComboBoxInfo(HWND combo, PCOMBOBOXINFO info)
+{
+    return static_cast<BOOL>(SendMessageA(combo, CB_GETCOMBOBOXINFO, 0, reinterpret_cast<LPARAM>(info)));
+}

@@ -1,0 +1,167 @@
+// DefWindowProc: what every window does with what it does not handle.
+
+#include "afx/offscreen/Internal.h"
+
+using namespace offscreen;
+
+namespace
+{
+LRESULT SetText(Window& window, LPCSTR text)
+{
+    window.text = text ? text : "";
+    Invalidate(window);
+    return TRUE;
+}
+
+// Alt with a letter, or F10, belongs to the menu bar of the top-level window.
+LRESULT HandleSystemKey(HWND window, UINT message, WPARAM wParam)
+{
+    if (message == WM_SYSKEYDOWN && wParam == VK_F4 && KeyIsDown(VK_MENU))
+        PostMessageA(GetAncestor(window, GA_ROOT), WM_SYSCOMMAND, SC_CLOSE, 0);
+    return 0;
+}
+
+LRESULT HandleSystemCommand(HWND window, WPARAM wParam)
+{
+    switch (wParam & 0xFFF0)
+    {
+    case SC_CLOSE: return SendMessageA(window, WM_CLOSE, 0, 0);
+    case SC_KEYMENU: return 0;
+    default: return NotModelled("WM_SYSCOMMAND other than SC_CLOSE", 0);
+    }
+}
+
+LRESULT ControlColors(UINT message, HDC dc)
+{
+    if (message == WM_CTLCOLORSCROLLBAR)
+        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_SCROLLBAR));
+    const bool white = message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX;
+    const int background = white ? COLOR_WINDOW : COLOR_BTNFACE;
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    SetBkColor(dc, GetSysColor(background));
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(background));
+}
+
+LRESULT PositionChanged(HWND window, const WINDOWPOS& position)
+{
+    Window* found = Find(window);
+    if (!found)
+        return 0;
+    const Pin pin(found);
+    if (!(position.flags & SWP_NOMOVE))
+        Send(window, WM_MOVE, 0, MAKELPARAM(found->rect.left, found->rect.top));
+    if (!(position.flags & SWP_NOSIZE) && !found->dead)
+    {
+        const RECT client = ClientRectOf(*found);
+        Send(window, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.right, client.bottom));
+    }
+    return 0;
+}
+
+LRESULT Paint(HWND window)
+{
+    PAINTSTRUCT paint;
+    if (BeginPaint(window, &paint))
+        EndPaint(window, &paint);
+    return 0;
+}
+} // namespace
+
+LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    Window* found = Find(window);
+    if (!found)
+        return 0;
+
+    switch (message)
+    {
+    case WM_NCCREATE:
+    {
+        const auto* create = reinterpret_cast<const CREATESTRUCTA*>(lParam);
+        // A text of the form 0xFF, id names an icon and is no text.
+        if (create->lpszName && static_cast<unsigned char>(create->lpszName[0]) != 0xFF)
+            found->text = create->lpszName;
+        return TRUE;
+    }
+    case WM_SETTEXT: return SetText(*found, reinterpret_cast<LPCSTR>(lParam));
+    case WM_GETTEXT: return wParam ? CopyText(found->text, reinterpret_cast<LPSTR>(lParam), wParam) : 0;
+    case WM_GETTEXTLENGTH: return static_cast<LRESULT>(found->text.size());
+
+    case WM_CLOSE: DestroyWindow(window); return 0;
+    case WM_QUERYENDSESSION: return TRUE;
+    case WM_ACTIVATE:
+        if (LOWORD(wParam) != WA_INACTIVE && !(found->style & WS_MINIMIZE))
+            SetFocus(window);
+        return 0;
+    case WM_NCACTIVATE: return TRUE;
+    case WM_MOUSEACTIVATE: return MA_ACTIVATE;
+    case WM_NCHITTEST: return HTCLIENT;
+    case WM_ERASEBKGND: return found->windowClass->background != nullptr;
+    case WM_PAINT: return Paint(window);
+    case WM_WINDOWPOSCHANGED: return PositionChanged(window, *reinterpret_cast<const WINDOWPOS*>(lParam));
+    case WM_SHOWWINDOW:
+        // Popups are hidden and shown with their owner.
+        if (lParam && (found->style & WS_POPUP))
+            ShowWindow(window, wParam ? SW_SHOWNOACTIVATE : SW_HIDE);
+        return 0;
+    case WM_SETREDRAW:
+        if (wParam)
+            found->style |= WS_VISIBLE;
+        else
+            found->style &= ~WS_VISIBLE;
+        return 0;
+
+    case WM_CTLCOLORMSGBOX:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORSCROLLBAR: return ControlColors(message, reinterpret_cast<HDC>(wParam));
+
+    case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
+    case WM_SYSCHAR: return HandleSystemKey(window, message, wParam);
+    case WM_SYSCOMMAND: return HandleSystemCommand(window, wParam);
+    case WM_RBUTTONUP:
+    {
+        POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+        ClientToScreen(window, &point);
+        Send(window, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window), MAKELPARAM(point.x, point.y));
+        return 0;
+    }
+    case WM_KEYUP:
+        if (wParam == VK_APPS)
+            Send(window, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window), -1);
+        return 0;
+    case WM_CONTEXTMENU:
+        if (found->IsChild())
+            Send(ParentOf(*found), WM_CONTEXTMENU, wParam, lParam);
+        return 0;
+    case WM_KEYDOWN:
+        if (wParam == VK_F1)
+        {
+            HELPINFO info{};
+            info.cbSize = sizeof info;
+            info.iContextType = 1;
+            info.iCtrlId = static_cast<int>(found->id);
+            info.hItemHandle = window;
+            Send(window, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+        }
+        return 0;
+    case WM_HELP:
+        if (found->IsChild())
+            return Send(ParentOf(*found), WM_HELP, wParam, lParam);
+        return 0;
+    case WM_MOUSEWHEEL:
+        if (found->IsChild())
+            return Send(ParentOf(*found), WM_MOUSEWHEEL, wParam, lParam);
+        return 0;
+    case WM_NOTIFYFORMAT: return 1; // NFR_ANSI
+    case WM_DRAWITEM:
+    case WM_VKEYTOITEM:
+    case WM_CHARTOITEM: return message == WM_DRAWITEM ? 0 : -1;
+    default: return 0;
+    }
+}

@@ -1,0 +1,85 @@
+// The functions that reach a control through its dialog and its id.
+
+#include "afx/offscreen/Internal.h"
+
+#include <climits>
+#include <cstdlib>
+
+using namespace offscreen;
+
+LRESULT SendDlgItemMessageA(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    return control ? SendMessageA(control, message, wParam, lParam) : 0;
+}
+
+BOOL CheckDlgButton(HWND dialog, int id, UINT check)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    if (!control)
+        return FALSE;
+    SendMessageA(control, BM_SETCHECK, check, 0);
+    return TRUE;
+}
+
+UINT IsDlgButtonChecked(HWND dialog, int id)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    return control ? static_cast<UINT>(SendMessageA(control, BM_GETCHECK, 0, 0)) : 0;
+}
+
+BOOL CheckRadioButton(HWND dialog, int first, int last, int checked)
+{
+    Inside inside;
+    const Window* window = Lookup(dialog);
+    if (!window)
+        return FALSE;
+    const int low = std::min(first, last);
+    const int high = std::max(first, last);
+    std::vector<HWND> buttons;
+    for (const Window* child = window->firstChild; child; child = child->next)
+        if (child->id >= low && child->id <= high)
+            buttons.push_back(child->handle);
+    for (HWND button : buttons)
+        Send(button, BM_SETCHECK, GetDlgCtrlID(button) == checked ? BST_CHECKED : BST_UNCHECKED);
+    return TRUE;
+}
+
+BOOL SetDlgItemTextA(HWND dialog, int id, LPCSTR text)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    return control && SetWindowTextA(control, text);
+}
+
+UINT GetDlgItemTextA(HWND dialog, int id, LPSTR text, int size)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    if (text && size > 0)
+        text[0] = 0;
+    return control ? static_cast<UINT>(GetWindowTextA(control, text, size)) : 0;
+}
+
+BOOL SetDlgItemInt(HWND dialog, int id, UINT value, BOOL isSigned)
+{
+    Inside inside;
+    const std::string text = isSigned ? std::to_string(static_cast<int>(value)) : std::to_string(value);
+    return SetDlgItemTextA(dialog, id, text.c_str());
+}
+
+UINT GetDlgItemInt(HWND dialog, int id, BOOL* translated, BOOL isSigned)
+{
+    Inside inside;
+    if (translated)
+        *translated = FALSE;
+    char text[30];
+    if (!GetDlgItemTextA(dialog, id, text, sizeof text))
+        return 0;
+    char* end = nullptr;
+    const long long value = std::strtoll(text, &end, 10);
+    const bool inRange = isSigned ? value >= INT_MIN && value <= INT_MAX : value >= 0 && value <= UINT_MAX;
+    if (end == text || *end || !inRange)
+        return 0;
+    if (translated)
+        *translated = TRUE;
+    return static_cast<UINT>(value);
+}

@@ -1,0 +1,373 @@
+// Creating dialogs from templates, modal loops and EndDialog.
+
+#include "afx/offscreen/DialogState.h"
+#include "afx/offscreen/DialogTemplate.h"
+
+namespace offscreen
+{
+namespace
+{
+const char* ClassOfOrdinal(int ordinal)
+{
+    switch (ordinal)
+    {
+    case 0x80: return "Button";
+    case 0x81: return "Edit";
+    case 0x82: return "Static";
+    case 0x83: return "ListBox";
+    case 0x84: return "ScrollBar";
+    case 0x85: return "ComboBox";
+    default: return "";
+    }
+}
+
+int Scaled(int value, int unit, int divisor) { return MulDiv(value, unit, divisor); }
+
+HFONT MakeFont(const TemplateFont& font)
+{
+    LOGFONTA logFont{};
+    // Negative sizes are pixels already.
+    logFont.lfHeight = font.pointSize < 0 ? font.pointSize : -MulDiv(font.pointSize, 96, 72);
+    logFont.lfWeight = font.weight;
+    logFont.lfItalic = font.italic;
+    logFont.lfCharSet = font.charSet;
+    CopyText(font.face, logFont.lfFaceName, sizeof logFont.lfFaceName);
+    return CreateFontIndirectA(&logFont);
+}
+
+struct Place
+{
+    int x;
+    int y;
+    int width;
+    int height;
+};
+
+// Keeps a rectangle of the given size on the screen.
+void KeepOnScreen(int& x, int& y, int width, int height)
+{
+    const RECT screen = DesktopWindow().rect;
+    x = std::max<int>(std::min<int>(x, screen.right - width), screen.left);
+    y = std::max<int>(std::min<int>(y, screen.bottom - height), screen.top);
+}
+
+Place DialogPlace(const Template& tmpl, const BaseUnits& units, DWORD style, DWORD exStyle, HWND owner)
+{
+    RECT frame{};
+    FrameOf(style, exStyle, frame);
+    Place place{};
+    place.width = Scaled(tmpl.width, units.x, 4) + frame.left + frame.right;
+    place.height = Scaled(tmpl.height, units.y, 8) + frame.top + frame.bottom;
+
+    const RECT screen = DesktopWindow().rect;
+    const bool isChild = (style & WS_CHILD) != 0;
+    if (tmpl.x == static_cast<short>(0x8000))
+        return {0, 0, place.width, place.height};
+    if (style & DS_CENTER)
+    {
+        place.x = (screen.left + screen.right - place.width) / 2;
+        place.y = (screen.top + screen.bottom - place.height) / 2;
+        return place;
+    }
+    place.x = Scaled(tmpl.x, units.x, 4) - frame.left;
+    place.y = Scaled(tmpl.y, units.y, 8) - frame.top;
+    if (isChild)
+        return place;
+    if (owner && !(style & DS_ABSALIGN))
+    {
+        POINT point = {Scaled(tmpl.x, units.x, 4), Scaled(tmpl.y, units.y, 8)};
+        ClientToScreen(owner, &point);
+        place.x = point.x - frame.left;
+        place.y = point.y - frame.top;
+    }
+    KeepOnScreen(place.x, place.y, place.width, place.height);
+    return place;
+}
+
+bool CreateControl(HWND dialog, HINSTANCE instance, const TemplateControl& control)
+{
+    DialogState* state = DialogStateOf(dialog);
+    const std::string& className =
+        control.className.ordinal >= 0 ? ClassOfOrdinal(control.className.ordinal) : control.className.text;
+    std::string title = control.title.text;
+    if (control.title.ordinal >= 0)
+        title = "#" + std::to_string(control.title.ordinal);
+
+    DWORD style = control.style | WS_CHILD;
+    DWORD exStyle = control.exStyle | WS_EX_NOPARENTNOTIFY;
+    if (style & WS_BORDER) // Dialogs give their controls sunken edges in place of plain borders.
+    {
+        style &= ~WS_BORDER;
+        exStyle |= WS_EX_CLIENTEDGE;
+    }
+    const BaseUnits units = state->units;
+    const HWND window = CreateWindowExA(
+        exStyle, className.c_str(), title.c_str(), style, Scaled(control.x, units.x, 4), Scaled(control.y, units.y, 8),
+        Scaled(control.width, units.x, 4), Scaled(control.height, units.y, 8), dialog,
+        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(control.id)), instance, const_cast<void*>(control.data));
+    state = DialogStateOf(dialog);
+    if (!state)
+        return false;
+    if (!window)
+        return (GetWindowLongA(dialog, GWL_STYLE) & DS_NOFAILCREATE) != 0;
+    if (state->font)
+        Send(window, WM_SETFONT, reinterpret_cast<WPARAM>(state->font), 0);
+    if (DialogCode(window) & DLGC_DEFPUSHBUTTON)
+    {
+        state = DialogStateOf(dialog);
+        if (!state)
+            return false;
+        // There can be only one default button: the last one.
+        if (const HWND before = state->defaultId ? GetDlgItem(dialog, state->defaultId) : nullptr)
+            Send(before, BM_SETSTYLE, BS_PUSHBUTTON, FALSE);
+        state->defaultId = GetDlgCtrlID(window);
+    }
+    return DialogStateOf(dialog) != nullptr;
+}
+
+void GiveFirstFocus(HWND dialog)
+{
+    if (const HWND control = FirstControl(dialog))
+        FocusControl(control);
+    else
+        SetFocus(dialog);
+}
+
+bool DisableOwner(HWND owner)
+{
+    if (!Find(owner) || !IsWindowEnabled(owner))
+        return false;
+    EnableWindow(owner, FALSE);
+    return true;
+}
+
+// Initializes the dialog and shows it. False when it did not survive that.
+bool Initialize(HWND dialog, DWORD style, LPARAM param)
+{
+    const HWND first = FirstControl(dialog);
+    const bool wantsFocus = Send(dialog, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), param) != 0;
+    if (!Find(dialog))
+        return false;
+    if (wantsFocus && (!(style & DS_CONTROL) || (style & WS_VISIBLE)))
+        GiveFirstFocus(dialog);
+    if (!Find(dialog))
+        return false;
+    if ((style & WS_VISIBLE) && !(GetWindowLongA(dialog, GWL_STYLE) & WS_VISIBLE) && !DialogStateOf(dialog)->ended)
+        ShowWindow(dialog, SW_SHOWNORMAL);
+    return Find(dialog) != nullptr;
+}
+
+HWND Create(HINSTANCE instance, const void* data, const void* end, HWND owner, DLGPROC procedure, LPARAM param,
+            bool modal)
+{
+    DesktopWindow();
+    if (!data)
+        return nullptr;
+    const Template tmpl = ReadTemplate(data, end);
+
+    HFONT font = nullptr;
+    BaseUnits units = SystemBaseUnits();
+    if (tmpl.font && tmpl.font->pointSize != 0x7FFF)
+    {
+        font = MakeFont(*tmpl.font);
+        units = BaseUnitsOf(font);
+    }
+
+    DWORD style = tmpl.style;
+    DWORD exStyle = tmpl.exStyle;
+    if (style & DS_MODALFRAME)
+        exStyle |= WS_EX_DLGMODALFRAME;
+    if ((style & DS_CONTROL) || !(style & WS_CHILD))
+        exStyle |= WS_EX_CONTROLPARENT;
+    if (style & WS_CHILD)
+        style &= ~WS_POPUP;
+    const Place place = DialogPlace(tmpl, units, style, exStyle, owner);
+
+    HMENU menu = nullptr;
+    if (!tmpl.menu.IsEmpty())
+        menu = tmpl.menu.ordinal >= 0 ? LoadMenuA(instance, MAKEINTRESOURCEA(tmpl.menu.ordinal))
+                                      : LoadMenuA(instance, tmpl.menu.text.c_str());
+
+    const bool enableOwner = modal && DisableOwner(owner);
+    std::string className = tmpl.className.ordinal >= 0 ? "" : tmpl.className.text;
+    if (className.empty())
+        className = "#32770";
+    const HWND dialog =
+        CreateWindowExA(exStyle, className.c_str(), tmpl.title.text.c_str(), style & ~WS_VISIBLE, place.x, place.y,
+                        place.width, place.height, owner, menu, instance, nullptr);
+    Window* window = Find(dialog);
+    if (!window)
+    {
+        if (font)
+            DeleteObject(font);
+        if (enableOwner)
+            EnableWindow(owner, TRUE);
+        return nullptr;
+    }
+
+    auto state = std::make_unique<DialogState>();
+    state->font = font;
+    state->units = units;
+    state->enableOwner = enableOwner;
+    window->dialog = std::move(state);
+    window->extra.resize(std::max<std::size_t>(window->extra.size(), DLGWINDOWEXTRA));
+    SetWindowLongPtrA(dialog, static_cast<int>(DWLP_DLGPROC), reinterpret_cast<LONG_PTR>(procedure));
+    if (font)
+        Send(dialog, WM_SETFONT, reinterpret_cast<WPARAM>(font), 0);
+
+    for (const TemplateControl& control : tmpl.controls)
+    {
+        if (CreateControl(dialog, instance, control))
+            continue;
+        if (Find(dialog))
+            DestroyWindow(dialog);
+        if (enableOwner && Find(owner))
+            EnableWindow(owner, TRUE);
+        return nullptr;
+    }
+    if (!procedure && !tmpl.className.IsEmpty() && tmpl.controls.empty())
+        return dialog;
+    if (!Initialize(dialog, tmpl.style, param))
+    {
+        if (enableOwner && Find(owner))
+            EnableWindow(owner, TRUE);
+        return nullptr;
+    }
+    return dialog;
+}
+} // namespace
+
+INT_PTR RunModal(HWND dialog, HWND owner)
+{
+    const bool wantsIdle = !(GetWindowLongA(dialog, GWL_STYLE) & DS_NOIDLEMSG);
+    MSG msg{};
+    while (DialogState* state = DialogStateOf(dialog))
+    {
+        if (state->ended)
+            break;
+        if (!PeekMessageA(&msg, nullptr, 0, 0, PM_NOREMOVE))
+        {
+            // A dialog that is not visible yet appears when there is nothing else to do.
+            if (!(GetWindowLongA(dialog, GWL_STYLE) & WS_VISIBLE))
+                ShowWindow(dialog, SW_SHOWNORMAL);
+            if (wantsIdle && Find(owner))
+                Send(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(dialog));
+            state = DialogStateOf(dialog);
+            if (!state || state->ended)
+                break;
+        }
+        if (!GetMessageA(&msg, nullptr, 0, 0))
+        {
+            // The loops below this one shall end too.
+            PostQuitMessage(static_cast<int>(msg.wParam));
+            break;
+        }
+        if (!Find(dialog) || CallMsgFilterA(&msg, MSGF_DIALOGBOX) || IsDialogMessageA(dialog, &msg))
+            continue;
+        TranslateMessage(&msg);
+        DispatchMessageA(&msg);
+    }
+
+    const DialogState* state = DialogStateOf(dialog);
+    const INT_PTR result = state ? state->result : -1;
+    if (state && !state->ended && state->enableOwner && Find(owner))
+        EnableWindow(owner, TRUE);
+    if (Find(dialog))
+        DestroyWindow(dialog);
+    return result;
+}
+} // namespace offscreen
+
+using namespace offscreen;
+
+HWND CreateDialogIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
+                                LPARAM param)
+{
+    Inside inside;
+    return Create(instance, dialogTemplate, nullptr, owner, procedure, param, false);
+}
+
+HWND CreateDialogParamA(HINSTANCE instance, LPCSTR name, HWND owner, DLGPROC procedure, LPARAM param)
+{
+    Inside inside;
+    const Bytes bytes = FindResourceBytes(instance, name, RT_DIALOG);
+    return bytes.data ? Create(instance, bytes.data, bytes.data + bytes.size, owner, procedure, param, false) : nullptr;
+}
+
+INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
+                                LPARAM param)
+{
+    Inside inside;
+    if (owner && !Find(owner))
+    {
+        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+        return 0;
+    }
+    const HWND dialog = Create(instance, dialogTemplate, nullptr, owner, procedure, param, true);
+    return dialog ? RunModal(dialog, owner) : -1;
+}
+
+INT_PTR DialogBoxParamA(HINSTANCE instance, LPCSTR name, HWND owner, DLGPROC procedure, LPARAM param)
+{
+    Inside inside;
+    const Bytes bytes = FindResourceBytes(instance, name, RT_DIALOG);
+    const HWND dialog =
+        bytes.data ? Create(instance, bytes.data, bytes.data + bytes.size, owner, procedure, param, true) : nullptr;
+    return dialog ? RunModal(dialog, owner) : -1;
+}
+
+BOOL EndDialog(HWND dialog, INT_PTR result)
+{
+    Inside inside;
+    Window* window = Lookup(dialog);
+    if (!window)
+        return FALSE;
+    DialogState* state = DialogStateOf(dialog);
+    if (!state)
+        return FALSE;
+    const bool wasEnabled = !(window->style & WS_DISABLED);
+    state->result = result;
+    state->ended = true;
+
+    const HWND owner = window->owner;
+    if (owner && state->enableOwner)
+    {
+        state->enableOwner = false;
+        if (Find(owner))
+            EnableWindow(owner, TRUE);
+    }
+    if (!Find(dialog))
+        return TRUE;
+    // The focus must not stay with a control of a window that is about to disappear.
+    if (const HWND focus = Input().focus; focus && IsChild(dialog, focus) && wasEnabled)
+        SetFocus(dialog);
+    if (!Find(dialog))
+        return TRUE;
+    SetWindowPos(dialog, nullptr, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
+    if (dialog == Input().active)
+        ActivateAnother(dialog);
+    // Wakes the modal loop.
+    if (Find(dialog))
+        PostMessageA(dialog, WM_NULL, 0, 0);
+    return TRUE;
+}
+
+LONG GetDialogBaseUnits()
+{
+    Inside inside;
+    const BaseUnits units = SystemBaseUnits();
+    return MAKELONG(units.x, units.y);
+}
+
+BOOL MapDialogRect(HWND dialog, LPRECT rect)
+{
+    Inside inside;
+    const DialogState* state = DialogStateOf(dialog);
+    if (!state)
+        return FALSE;
+    const BaseUnits units = state->units;
+    *rect = {MulDiv(rect->left, units.x, 4), MulDiv(rect->top, units.y, 8), MulDiv(rect->right, units.x, 4),
+             MulDiv(rect->bottom, units.y, 8)};
+    return TRUE;
+}

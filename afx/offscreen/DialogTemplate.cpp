@@ -1,0 +1,156 @@
+#include "afx/offscreen/DialogTemplate.h"
+
+#include <cstring>
+
+namespace offscreen
+{
+namespace
+{
+// Reads a template's words. Past the end everything is zero, so that a damaged template makes a poor dialog, not a crash.
+class Reader
+{
+public:
+    Reader(const void* data, const void* end)
+        : m_start(static_cast<const BYTE*>(data)), m_position(m_start), m_end(static_cast<const BYTE*>(end))
+    {
+    }
+
+    bool AtEnd() const { return m_end && m_position >= m_end; }
+
+    WORD Word() { return Number<WORD>(); }
+    DWORD Double() { return Number<DWORD>(); }
+    short Short() { return static_cast<short>(Word()); }
+
+    BYTE Byte() { return Number<BYTE>(); }
+
+    void Align() { m_position = m_start + ((m_position - m_start + 3) & ~std::ptrdiff_t{3}); }
+    void Skip(std::size_t bytes) { m_position += m_end ? std::min<std::size_t>(bytes, Left()) : bytes; }
+    const BYTE* Position() const { return m_position; }
+
+    std::string Text()
+    {
+        std::u16string wide;
+        while (const WORD c = Word())
+            wide.push_back(static_cast<char16_t>(c));
+        return ToAnsi(wide);
+    }
+
+    TemplateName Name()
+    {
+        TemplateName name;
+        const BYTE* before = m_position;
+        if (Word() == 0xFFFF)
+        {
+            name.ordinal = Word();
+            return name;
+        }
+        m_position = before;
+        name.text = Text();
+        return name;
+    }
+
+private:
+    std::size_t Left() const { return m_position < m_end ? static_cast<std::size_t>(m_end - m_position) : 0; }
+
+    template <class T> T Number()
+    {
+        T value{};
+        if (m_end && Left() < sizeof(T))
+        {
+            m_position = m_end;
+            return value;
+        }
+        std::memcpy(&value, m_position, sizeof(T));
+        m_position += sizeof(T);
+        return value;
+    }
+
+    const BYTE* m_start;
+    const BYTE* m_position;
+    const BYTE* m_end;
+};
+
+void ReadPlace(Reader& reader, short& x, short& y, short& width, short& height)
+{
+    x = reader.Short();
+    y = reader.Short();
+    width = reader.Short();
+    height = reader.Short();
+}
+
+TemplateFont ReadFont(Reader& reader, bool extended)
+{
+    TemplateFont font;
+    font.pointSize = reader.Short();
+    if (extended)
+    {
+        font.weight = reader.Word();
+        font.italic = reader.Byte() != 0;
+        font.charSet = reader.Byte();
+    }
+    font.face = reader.Text();
+    return font;
+}
+
+TemplateControl ReadControl(Reader& reader, bool extended)
+{
+    TemplateControl control;
+    reader.Align();
+    if (extended)
+    {
+        control.helpId = reader.Double();
+        control.exStyle = reader.Double();
+        control.style = reader.Double();
+    }
+    else
+    {
+        control.style = reader.Double();
+        control.exStyle = reader.Double();
+    }
+    ReadPlace(reader, control.x, control.y, control.width, control.height);
+    control.id = extended ? reader.Double() : reader.Word();
+    control.className = reader.Name();
+    control.title = reader.Name();
+    const WORD extra = reader.Word();
+    if (extra == 0)
+        return control;
+    // In the plain form the size counts itself, in the extended one it does not.
+    const std::size_t bytes = extended ? extra : extra - std::min<std::size_t>(extra, sizeof(WORD));
+    control.data = extended ? reader.Position() : reader.Position() - sizeof(WORD);
+    reader.Skip(bytes);
+    return control;
+}
+} // namespace
+
+Template ReadTemplate(const void* data, const void* end)
+{
+    Reader reader(data, end);
+    Template result;
+    WORD version = reader.Word();
+    const WORD signature = reader.Word();
+    const bool extended = version == 1 && signature == 0xFFFF;
+    WORD count = 0;
+    if (extended)
+    {
+        reader.Double(); // Help id
+        result.exStyle = reader.Double();
+        result.style = reader.Double();
+    }
+    else
+    {
+        result.style = static_cast<DWORD>(signature) << 16 | version;
+        result.exStyle = reader.Double();
+    }
+    count = reader.Word();
+    ReadPlace(reader, result.x, result.y, result.width, result.height);
+    result.menu = reader.Name();
+    result.className = reader.Name();
+    result.title.text = reader.Text();
+    if (result.style & DS_SETFONT)
+        result.font = ReadFont(reader, extended);
+    result.controls.reserve(std::min<std::size_t>(count, 512));
+    for (WORD i = 0; i < count && !reader.AtEnd(); ++i)
+        result.controls.push_back(ReadControl(reader, extended));
+    return result;
+}
+} // namespace offscreen

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "afx/offscreen/Internal.h"
+
+#include <optional>
+
+namespace offscreen
+{
+// A class, title or menu in a dialog template: a text or an ordinal.
+struct TemplateName
+{
+    std::string text;
+    int ordinal = -1;
+    bool IsEmpty() const { return ordinal < 0 && text.empty(); }
+};
+
+struct TemplateControl
+{
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    DWORD helpId = 0;
+    short x = 0;
+    short y = 0;
+    short width = 0;
+    short height = 0;
+    DWORD id = 0;
+    TemplateName className;
+    TemplateName title;
+    const void* data = nullptr; // Creation data, nothing when empty.
+};
+
+struct TemplateFont
+{
+    int pointSize = 0;
+    int weight = FW_DONTCARE;
+    bool italic = false;
+    BYTE charSet = DEFAULT_CHARSET;
+    std::string face;
+};
+
+// A dialog template in either form, DLGTEMPLATE or DLGTEMPLATEEX, taken apart. Its texts are in the ANSI code page.
+struct Template
+{
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    short x = 0;
+    short y = 0;
+    short width = 0;
+    short height = 0;
+    TemplateName menu;
+    TemplateName className;
+    TemplateName title;
+    std::optional<TemplateFont> font;
+    std::vector<TemplateControl> controls;
+};
+
+// `end` is the end of the readable memory when it is known, else null.
+Template ReadTemplate(const void* data, const void* end);
+} // namespace offscreen

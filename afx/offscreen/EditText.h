@@ -1,0 +1,74 @@
+#pragma once
+
+#include "afx/offscreen/Internal.h"
+
+namespace offscreen
+{
+// The lines of a multi-line edit: where each one starts, broken at "\r\n" and, when a width is given, between words.
+class EditLines
+{
+public:
+    static constexpr int kNoWrapping = 0x7FFFFFFF;
+
+    void Break(std::string_view text, const FontMetrics& metrics, int width);
+
+    int Count() const { return static_cast<int>(m_starts.size()); }
+    int StartOf(int line) const { return m_starts[static_cast<std::size_t>(line)]; }
+    // Characters of the line without its line break.
+    int LengthOf(int line) const { return m_lengths[static_cast<std::size_t>(line)]; }
+    int LineOf(int position) const;
+
+private:
+    void BreakParagraph(std::string_view text, int start, int end, const FontMetrics& metrics, int width);
+
+    std::vector<int> m_starts{0};
+    std::vector<int> m_lengths{0};
+};
+
+inline void EditLines::Break(std::string_view text, const FontMetrics& metrics, int width)
+{
+    m_starts.clear();
+    m_lengths.clear();
+    std::size_t start = 0;
+    for (;;)
+    {
+        const std::size_t end = text.find("\r\n", start);
+        const bool last = end == std::string_view::npos;
+        BreakParagraph(text, static_cast<int>(start), static_cast<int>(last ? text.size() : end), metrics, width);
+        if (last)
+            return;
+        start = end + 2;
+    }
+}
+
+inline void EditLines::BreakParagraph(std::string_view text, int start, int end, const FontMetrics& metrics, int width)
+{
+    do
+    {
+        int position = start;
+        int afterSpace = start;
+        int used = 0;
+        while (position < end)
+        {
+            const int length = CharacterLength(text, static_cast<std::size_t>(position));
+            used += TextWidth(metrics, text.substr(static_cast<std::size_t>(position), static_cast<std::size_t>(length)));
+            if (used > width && position > start)
+                break;
+            position += length;
+            if (text[static_cast<std::size_t>(position - 1)] == ' ')
+                afterSpace = position;
+        }
+        if (position < end && afterSpace > start)
+            position = afterSpace;
+        m_starts.push_back(start);
+        m_lengths.push_back(position - start);
+        start = position;
+    } while (start < end);
+}
+
+inline int EditLines::LineOf(int position) const
+{
+    const auto next = std::upper_bound(m_starts.begin(), m_starts.end(), position);
+    return static_cast<int>(next - m_starts.begin()) - 1;
+}
+} // namespace offscreen

@@ -1,0 +1,341 @@
+// Which window is active, which has the focus, what the keyboard and the mouse do.
+
+#include "afx/offscreen/Internal.h"
+
+#include <cstring>
+
+namespace offscreen
+{
+InputState& Input()
+{
+    static auto* state = new InputState;
+    return *state;
+}
+
+bool KeyIsDown(int key) { return (Input().keys[key & 0xFF] & 0x80) != 0; }
+
+// Whether the user could switch to the window.
+bool CanBeActivated(const Window& window)
+{
+    return (window.style & (WS_DISABLED | WS_CHILD)) == 0 && (window.style & WS_VISIBLE) &&
+           window.parent == &DesktopWindow() && !window.dying && !(window.exStyle & WS_EX_NOACTIVATE);
+}
+
+void ChangeFocus(HWND window)
+{
+    InputState& input = Input();
+    const HWND previous = input.focus;
+    if (previous == window)
+        return;
+    input.focus = window;
+    if (Find(previous))
+    {
+        Send(previous, WM_KILLFOCUS, reinterpret_cast<WPARAM>(window));
+        if (input.focus != window) // The window that lost the focus gave it to yet another.
+            return;
+    }
+    if (Find(window))
+        Send(window, WM_SETFOCUS, reinterpret_cast<WPARAM>(previous));
+}
+
+bool Activate(HWND window, bool byMouse, bool moveFocus)
+{
+    InputState& input = Input();
+    const HWND previous = input.active;
+    if (previous == window)
+    {
+        if (moveFocus && window && !input.focus)
+            ChangeFocus(window);
+        return true;
+    }
+
+    CBTACTIVATESTRUCT data{byMouse, previous};
+    LRESULT refused = 0;
+    if (window && RunHooks(WH_CBT, HCBT_ACTIVATE, reinterpret_cast<WPARAM>(window), reinterpret_cast<LPARAM>(&data),
+                           &refused) &&
+        refused)
+        return false;
+
+    if (Find(previous))
+    {
+        Send(previous, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(window));
+        Send(previous, WM_ACTIVATE, WA_INACTIVE, reinterpret_cast<LPARAM>(window));
+    }
+    if (window && !Find(window))
+        return false;
+    input.active = window;
+    if (Window* found = Find(window))
+    {
+        RaiseToTop(*found);
+        // The window at the end of the chain of owners remembers who was active last among its popups.
+        const HWND rootOwner = GetAncestor(window, GA_ROOTOWNER);
+        if (Window* root = Find(rootOwner))
+            root->lastActivePopup = window;
+        if (Window* owner = Find(found->owner))
+            owner->lastActivePopup = window;
+        Send(window, WM_NCACTIVATE, TRUE, reinterpret_cast<LPARAM>(previous));
+        Send(window, WM_ACTIVATE, byMouse ? WA_CLICKACTIVE : WA_ACTIVE, reinterpret_cast<LPARAM>(previous));
+    }
+    if (moveFocus && input.active == window)
+    {
+        const bool focusIsInside = input.focus && window && GetAncestor(input.focus, GA_ROOT) == window;
+        if (!focusIsInside)
+            ChangeFocus(window);
+    }
+    return input.active == window;
+}
+
+// Activates the window that takes over when `instead` disappears: its owner, else the topmost one that can be active.
+void ActivateAnother(HWND instead)
+{
+    const Window* leaving = Find(instead);
+    if (leaving && (leaving->style & WS_POPUP) && leaving->owner)
+    {
+        const Window* owner = RootOf(Find(leaving->owner));
+        if (owner && CanBeActivated(*owner))
+        {
+            Activate(owner->handle, false, true);
+            return;
+        }
+    }
+    for (const Window* window = DesktopWindow().firstChild; window; window = window->next)
+        if (window->handle != instead && CanBeActivated(*window))
+        {
+            Activate(window->handle, false, true);
+            return;
+        }
+    Activate(nullptr, false, true);
+}
+} // namespace offscreen
+
+using namespace offscreen;
+
+HWND SetFocus(HWND window)
+{
+    Inside inside;
+    InputState& input = Input();
+    const HWND previous = input.focus;
+    if (!window)
+    {
+        ChangeFocus(nullptr);
+        return previous;
+    }
+    Window* found = Lookup(window);
+    if (!found)
+        return nullptr;
+    if (window == previous)
+        return previous;
+    if (found->parent == nullptr)
+        return nullptr;
+
+    const Window* top = found;
+    for (;; top = top->parent)
+    {
+        if (top->style & (WS_MINIMIZE | WS_DISABLED))
+            return nullptr;
+        if (!top->IsChild() || !top->parent || !top->parent->parent)
+            break;
+    }
+    const HWND topHandle = top->handle;
+    if (topHandle != input.active)
+    {
+        if (!Activate(topHandle, false, false) || !Find(window) || input.active != topHandle)
+            return nullptr;
+    }
+    ChangeFocus(window);
+    return previous;
+}
+
+HWND GetFocus() { return Input().focus; }
+
+HWND SetActiveWindow(HWND window)
+{
+    Inside inside;
+    const HWND previous = Input().active;
+    if (window)
+    {
+        const Window* found = Lookup(window);
+        if (!found || found->IsChild() || (found->style & WS_DISABLED))
+            return nullptr;
+    }
+    return Activate(window, false, true) ? previous : nullptr;
+}
+
+HWND GetActiveWindow() { return Input().active; }
+HWND GetForegroundWindow() { return Input().active; }
+
+BOOL SetForegroundWindow(HWND window)
+{
+    Inside inside;
+    Window* found = Lookup(window);
+    return found && Activate(RootOf(found)->handle, false, true);
+}
+
+BOOL BringWindowToTop(HWND window) { return SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE); }
+
+BOOL ShowWindow(HWND window, int command)
+{
+    Inside inside;
+    Window* found = Lookup(window);
+    if (!found)
+        return FALSE;
+    const Pin pin(found);
+    const bool wasVisible = (found->style & WS_VISIBLE) != 0;
+    UINT flags = SWP_NOMOVE | SWP_NOSIZE;
+    bool show = true;
+    switch (command)
+    {
+    case SW_HIDE:
+        if (!wasVisible)
+            return FALSE;
+        show = false;
+        flags |= SWP_HIDEWINDOW;
+        break;
+    case SW_SHOWNOACTIVATE:
+    case SW_SHOWNA:
+    case SW_SHOWMINNOACTIVE: flags |= SWP_SHOWWINDOW | SWP_NOACTIVATE | SWP_NOZORDER; break;
+    case SW_SHOWMINIMIZED:
+    case SW_SHOWMAXIMIZED:
+    case SW_MINIMIZE: return NotModelled("minimized and maximized windows", FALSE);
+    default: flags |= SWP_SHOWWINDOW; break;
+    }
+    if (found->IsChild())
+        flags |= SWP_NOACTIVATE | SWP_NOZORDER;
+    if (!show)
+        flags |= SWP_NOACTIVATE | SWP_NOZORDER;
+    if (show && wasVisible && found->IsChild())
+        return TRUE;
+
+    if (show != wasVisible)
+    {
+        Send(window, WM_SHOWWINDOW, show, 0);
+        if (found->dead)
+            return wasVisible;
+    }
+    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, flags);
+    if (found->dead || show)
+        return wasVisible;
+
+    InputState& input = Input();
+    if (input.active == window)
+        ActivateAnother(window);
+    // A hidden child passes the focus on to its parent.
+    if (found->IsChild() && (input.focus == window || IsChild(window, input.focus)))
+        SetFocus(ParentOf(*found));
+    return wasVisible;
+}
+
+HWND SetCapture(HWND window)
+{
+    Inside inside;
+    InputState& input = Input();
+    const HWND previous = input.capture;
+    if (window && !Lookup(window))
+        return nullptr;
+    input.capture = window;
+    if (previous && previous != window)
+        Send(previous, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
+    return previous;
+}
+
+BOOL ReleaseCapture()
+{
+    Inside inside;
+    const HWND previous = Input().capture;
+    Input().capture = nullptr;
+    if (previous)
+        Send(previous, WM_CAPTURECHANGED);
+    return TRUE;
+}
+
+HWND GetCapture() { return Input().capture; }
+
+SHORT GetKeyState(int key)
+{
+    const BYTE state = Input().keys[key & 0xFF];
+    return static_cast<SHORT>((state & 0x80 ? 0x8000 : 0) | (state & 1));
+}
+
+SHORT GetAsyncKeyState(int key) { return static_cast<SHORT>(GetKeyState(key) & 0x8000); }
+
+BOOL GetKeyboardState(PBYTE keys)
+{
+    std::memcpy(keys, Input().keys, sizeof Input().keys);
+    return TRUE;
+}
+
+BOOL SetKeyboardState(LPBYTE keys)
+{
+    std::memcpy(Input().keys, keys, sizeof Input().keys);
+    return TRUE;
+}
+
+BOOL GetCursorPos(LPPOINT point)
+{
+    *point = Input().cursor;
+    return TRUE;
+}
+
+BOOL SetCursorPos(int x, int y)
+{
+    Input().cursor = {x, y};
+    return TRUE;
+}
+
+HCURSOR SetCursor(HCURSOR cursor)
+{
+    static HCURSOR current = nullptr;
+    return std::exchange(current, cursor);
+}
+
+// The system's cursors and icons have no looks here; a handle that is not null is all that anybody needs.
+HCURSOR LoadCursorA(HINSTANCE, LPCSTR name)
+{
+    return reinterpret_cast<HCURSOR>(static_cast<ULONG_PTR>(0x10000) + LOWORD(name));
+}
+
+HICON LoadIconA(HINSTANCE, LPCSTR name)
+{
+    return reinterpret_cast<HICON>(static_cast<ULONG_PTR>(0x20000) + LOWORD(name));
+}
+
+namespace
+{
+struct Caret
+{
+    HWND window = nullptr;
+    POINT position{};
+};
+Caret g_caret;
+} // namespace
+
+BOOL CreateCaret(HWND window, HBITMAP, int, int)
+{
+    Inside inside;
+    if (!Lookup(window))
+        return FALSE;
+    g_caret = {window, {}};
+    return TRUE;
+}
+
+BOOL DestroyCaret()
+{
+    const bool existed = g_caret.window != nullptr;
+    g_caret = {};
+    return existed;
+}
+
+BOOL SetCaretPos(int x, int y)
+{
+    g_caret.position = {x, y};
+    return TRUE;
+}
+
+BOOL GetCaretPos(LPPOINT point)
+{
+    *point = g_caret.position;
+    return TRUE;
+}
+
+BOOL ShowCaret(HWND window) { return g_caret.window && (!window || window == g_caret.window); }
+BOOL HideCaret(HWND window) { return g_caret.window && (!window || window == g_caret.window); }

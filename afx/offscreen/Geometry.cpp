@@ -1,0 +1,437 @@
+// Rectangles: of windows, of their client areas, and by themselves.
+
+#include "afx/offscreen/Internal.h"
+
+namespace offscreen
+{
+namespace
+{
+constexpr int kEdge = 2;
+constexpr int kBorder = 1;
+constexpr int kDialogFrame = 3;
+constexpr int kSizingFrame = 4;
+constexpr int kCaption = 19;
+constexpr int kSmallCaption = 16;
+constexpr int kScrollBar = 17;
+
+RECT Moved(RECT rect, POINT by)
+{
+    return {rect.left + by.x, rect.top + by.y, rect.right + by.x, rect.bottom + by.y};
+}
+
+void SendPositionChanges(Window& window, const RECT& before, UINT flags)
+{
+    WINDOWPOS position{};
+    position.hwnd = window.handle;
+    position.x = window.rect.left;
+    position.y = window.rect.top;
+    position.cx = window.rect.right - window.rect.left;
+    position.cy = window.rect.bottom - window.rect.top;
+    position.flags = flags;
+    if (before.left == position.x && before.top == position.y)
+        position.flags |= SWP_NOMOVE;
+    if (before.right - before.left == position.cx && before.bottom - before.top == position.cy)
+        position.flags |= SWP_NOSIZE;
+    // DefWindowProc turns this into WM_MOVE and WM_SIZE.
+    Send(window.handle, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
+}
+
+void Reorder(Window& window, HWND after)
+{
+    if (!window.parent)
+        return;
+    Window& parent = *window.parent;
+    Window* behind = nullptr;
+    if (after == HWND_BOTTOM)
+        behind = parent.lastChild;
+    else if (after != HWND_TOP && after != HWND_TOPMOST && after != HWND_NOTOPMOST)
+        behind = Find(after);
+    if (behind == &window || (behind && behind->parent != &parent))
+        return;
+
+    (window.previous ? window.previous->next : parent.firstChild) = window.next;
+    (window.next ? window.next->previous : parent.lastChild) = window.previous;
+    window.previous = behind;
+    window.next = behind ? behind->next : parent.firstChild;
+    (window.previous ? window.previous->next : parent.firstChild) = &window;
+    (window.next ? window.next->previous : parent.lastChild) = &window;
+}
+} // namespace
+
+void FrameOf(DWORD style, DWORD exStyle, RECT& margins)
+{
+    int frame = 0;
+    if (exStyle & WS_EX_STATICEDGE && !(exStyle & WS_EX_DLGMODALFRAME))
+        frame = kBorder;
+    else if ((exStyle & WS_EX_DLGMODALFRAME) || (style & (WS_DLGFRAME | WS_THICKFRAME)))
+        frame = kEdge;
+    if (style & WS_THICKFRAME)
+        frame += kSizingFrame - kDialogFrame;
+    if ((style & (WS_BORDER | WS_DLGFRAME)) || (exStyle & WS_EX_DLGMODALFRAME))
+        frame += kBorder;
+    margins = {frame, frame, frame, frame};
+    if ((style & WS_CAPTION) == WS_CAPTION)
+        margins.top += exStyle & WS_EX_TOOLWINDOW ? kSmallCaption : kCaption;
+    if (exStyle & WS_EX_CLIENTEDGE)
+        margins = {margins.left + kEdge, margins.top + kEdge, margins.right + kEdge, margins.bottom + kEdge};
+}
+
+RECT ClientRectOf(const Window& window)
+{
+    RECT margins{};
+    FrameOf(window.style, window.exStyle, margins);
+    int width = window.rect.right - window.rect.left - margins.left - margins.right;
+    int height = window.rect.bottom - window.rect.top - margins.top - margins.bottom;
+    if ((window.style & WS_VSCROLL) && width >= kScrollBar)
+        width -= kScrollBar;
+    if ((window.style & WS_HSCROLL) && height >= kScrollBar)
+        height -= kScrollBar;
+    return {0, 0, std::max(width, 0), std::max(height, 0)};
+}
+
+POINT ClientOrigin(const Window& window)
+{
+    POINT origin{};
+    for (const Window* w = &window; w; w = w->parent)
+    {
+        RECT margins{};
+        if (w->parent)
+            FrameOf(w->style, w->exStyle, margins);
+        origin.x += w->rect.left + margins.left;
+        origin.y += w->rect.top + margins.top;
+    }
+    return origin;
+}
+
+RECT ScreenRectOf(const Window& window)
+{
+    return window.parent ? Moved(window.rect, ClientOrigin(*window.parent)) : window.rect;
+}
+} // namespace offscreen
+
+using namespace offscreen;
+
+BOOL SetWindowPos(HWND window, HWND after, int x, int y, int width, int height, UINT flags)
+{
+    Inside inside;
+    Window* found = Lookup(window);
+    if (!found)
+        return FALSE;
+    if (!found->parent)
+        return FALSE;
+    const Pin pin(found);
+    const RECT before = found->rect;
+
+    WINDOWPOS position{window, after, x, y, width, height, flags};
+    if (flags & SWP_NOMOVE)
+    {
+        position.x = before.left;
+        position.y = before.top;
+    }
+    if (flags & SWP_NOSIZE)
+    {
+        position.cx = before.right - before.left;
+        position.cy = before.bottom - before.top;
+    }
+    if (!(flags & SWP_NOSENDCHANGING))
+        Send(window, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
+    if (found->dead)
+        return FALSE;
+
+    RECT rect = before;
+    if (!(position.flags & SWP_NOMOVE))
+    {
+        rect.right += position.x - rect.left;
+        rect.bottom += position.y - rect.top;
+        rect.left = position.x;
+        rect.top = position.y;
+    }
+    if (!(position.flags & SWP_NOSIZE))
+    {
+        rect.right = rect.left + std::max(position.cx, 0);
+        rect.bottom = rect.top + std::max(position.cy, 0);
+    }
+    found->rect = rect;
+
+    if (!(position.flags & SWP_NOZORDER))
+        Reorder(*found, position.hwndInsertAfter);
+
+    const bool wasVisible = (found->style & WS_VISIBLE) != 0;
+    UINT done = position.flags;
+    if (position.flags & SWP_SHOWWINDOW)
+    {
+        found->style |= WS_VISIBLE;
+        if (wasVisible)
+            done &= ~static_cast<UINT>(SWP_SHOWWINDOW);
+    }
+    else if (position.flags & SWP_HIDEWINDOW)
+    {
+        found->style &= ~WS_VISIBLE;
+        if (!wasVisible)
+            done &= ~static_cast<UINT>(SWP_HIDEWINDOW);
+        if (window == Input().capture)
+            ReleaseCapture();
+    }
+    if (!(position.flags & SWP_NOREDRAW))
+        InvalidateTree(*found);
+
+    if (!(position.flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW)) && !found->IsChild() && CanBeActivated(*found))
+        Activate(window, false, true);
+    if (!found->dead)
+        SendPositionChanges(*found, before, done);
+    return TRUE;
+}
+
+BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint)
+{
+    return SetWindowPos(window, nullptr, x, y, width, height,
+                        SWP_NOZORDER | SWP_NOACTIVATE | (repaint ? 0u : static_cast<UINT>(SWP_NOREDRAW)));
+}
+
+namespace
+{
+struct Deferred
+{
+    std::vector<WINDOWPOS> positions;
+};
+} // namespace
+
+HDWP BeginDeferWindowPos(int)
+{
+    Inside inside;
+    return reinterpret_cast<HDWP>(new Deferred);
+}
+
+HDWP DeferWindowPos(HDWP positions, HWND window, HWND after, int x, int y, int width, int height, UINT flags)
+{
+    Inside inside;
+    auto* deferred = reinterpret_cast<Deferred*>(positions);
+    if (!deferred || !Lookup(window))
+    {
+        delete deferred;
+        return nullptr;
+    }
+    deferred->positions.push_back({window, after, x, y, width, height, flags});
+    return positions;
+}
+
+BOOL EndDeferWindowPos(HDWP positions)
+{
+    Inside inside;
+    const std::unique_ptr<Deferred> deferred(reinterpret_cast<Deferred*>(positions));
+    if (!deferred)
+        return FALSE;
+    for (const WINDOWPOS& p : deferred->positions)
+        SetWindowPos(p.hwnd, p.hwndInsertAfter, p.x, p.y, p.cx, p.cy, p.flags);
+    return TRUE;
+}
+
+BOOL GetWindowRect(HWND window, LPRECT rect)
+{
+    Inside inside;
+    const Window* found = Lookup(window);
+    if (!found)
+        return FALSE;
+    *rect = ScreenRectOf(*found);
+    return TRUE;
+}
+
+BOOL GetClientRect(HWND window, LPRECT rect)
+{
+    Inside inside;
+    const Window* found = Lookup(window);
+    if (!found)
+        return FALSE;
+    *rect = found->parent ? ClientRectOf(*found) : found->rect;
+    return TRUE;
+}
+
+BOOL ScreenToClient(HWND window, LPPOINT point)
+{
+    Inside inside;
+    const Window* found = Lookup(window);
+    if (!found)
+        return FALSE;
+    const POINT origin = ClientOrigin(*found);
+    point->x -= origin.x;
+    point->y -= origin.y;
+    return TRUE;
+}
+
+BOOL ClientToScreen(HWND window, LPPOINT point)
+{
+    Inside inside;
+    const Window* found = Lookup(window);
+    if (!found)
+        return FALSE;
+    const POINT origin = ClientOrigin(*found);
+    point->x += origin.x;
+    point->y += origin.y;
+    return TRUE;
+}
+
+int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count)
+{
+    Inside inside;
+    const Window* source = from ? Lookup(from) : &DesktopWindow();
+    const Window* target = to ? Lookup(to) : &DesktopWindow();
+    if (!source || !target)
+        return 0;
+    const POINT a = ClientOrigin(*source);
+    const POINT b = ClientOrigin(*target);
+    const int dx = a.x - b.x;
+    const int dy = a.y - b.y;
+    for (UINT i = 0; i < count; ++i)
+    {
+        points[i].x += dx;
+        points[i].y += dy;
+    }
+    return MAKELONG(dx, dy);
+}
+
+BOOL AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle)
+{
+    RECT margins{};
+    FrameOf(style, exStyle, margins);
+    rect->left -= margins.left;
+    rect->top -= margins.top + (menu ? GetSystemMetrics(SM_CYMENU) : 0);
+    rect->right += margins.right;
+    rect->bottom += margins.bottom;
+    return TRUE;
+}
+
+BOOL AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu) { return AdjustWindowRectEx(rect, style, menu, 0); }
+
+int GetSystemMetrics(int index)
+{
+    Inside inside;
+    switch (index)
+    {
+    case SM_CXSCREEN: return DesktopWindow().rect.right;
+    case SM_CYSCREEN: return DesktopWindow().rect.bottom;
+    case SM_CXVSCROLL:
+    case SM_CYHSCROLL:
+    case SM_CYVSCROLL: return kScrollBar;
+    case SM_CYCAPTION:
+    case SM_CYMENU: return kCaption;
+    case SM_CXBORDER:
+    case SM_CYBORDER: return kBorder;
+    case SM_CXDLGFRAME:
+    case SM_CYDLGFRAME: return kDialogFrame;
+    case SM_CXFRAME:
+    case SM_CYFRAME:
+    case SM_CXDOUBLECLK:
+    case SM_CYDOUBLECLK: return 4;
+    case SM_DBCSENABLED: return GetACP() >= 932 && GetACP() <= 950;
+    case SM_CXEDGE:
+    case SM_CYEDGE: return kEdge;
+    default: return NotModelled("GetSystemMetrics with this index", 0);
+    }
+}
+
+BOOL SystemParametersInfoA(UINT action, UINT, LPVOID value, UINT)
+{
+    Inside inside;
+    if (action != SPI_GETWORKAREA)
+        return NotModelled("SystemParametersInfo with this action", FALSE);
+    *static_cast<RECT*>(value) = DesktopWindow().rect;
+    return TRUE;
+}
+
+HWND WindowFromPoint(POINT point)
+{
+    Inside inside;
+    const Window* window = &DesktopWindow();
+    for (const Window* child = window->firstChild; child;)
+    {
+        const RECT rect = ScreenRectOf(*child);
+        if ((child->style & WS_VISIBLE) && PtInRect(&rect, point))
+        {
+            window = child;
+            child = child->firstChild;
+        }
+        else
+            child = child->next;
+    }
+    return window->handle;
+}
+
+HWND ChildWindowFromPoint(HWND parent, POINT point)
+{
+    Inside inside;
+    const Window* found = Lookup(parent);
+    if (!found)
+        return nullptr;
+    const RECT client = ClientRectOf(*found);
+    if (!PtInRect(&client, point))
+        return nullptr;
+    for (const Window* child = found->firstChild; child; child = child->next)
+        if (PtInRect(&child->rect, point))
+            return child->handle;
+    return parent;
+}
+
+// ------------------------------------------------------------------------------------------------ rectangle functions
+
+BOOL SetRect(LPRECT rect, int left, int top, int right, int bottom)
+{
+    *rect = {left, top, right, bottom};
+    return TRUE;
+}
+
+BOOL SetRectEmpty(LPRECT rect)
+{
+    *rect = {};
+    return TRUE;
+}
+
+BOOL CopyRect(LPRECT target, const RECT* source)
+{
+    *target = *source;
+    return TRUE;
+}
+
+BOOL InflateRect(LPRECT rect, int dx, int dy)
+{
+    *rect = {rect->left - dx, rect->top - dy, rect->right + dx, rect->bottom + dy};
+    return TRUE;
+}
+
+BOOL OffsetRect(LPRECT rect, int dx, int dy)
+{
+    *rect = {rect->left + dx, rect->top + dy, rect->right + dx, rect->bottom + dy};
+    return TRUE;
+}
+
+BOOL PtInRect(const RECT* rect, POINT point)
+{
+    return point.x >= rect->left && point.x < rect->right && point.y >= rect->top && point.y < rect->bottom;
+}
+
+BOOL IsRectEmpty(const RECT* rect) { return rect->left >= rect->right || rect->top >= rect->bottom; }
+
+BOOL EqualRect(const RECT* a, const RECT* b)
+{
+    return a->left == b->left && a->top == b->top && a->right == b->right && a->bottom == b->bottom;
+}
+
+BOOL IntersectRect(LPRECT target, const RECT* a, const RECT* b)
+{
+    const RECT result = {std::max(a->left, b->left), std::max(a->top, b->top), std::min(a->right, b->right),
+                         std::min(a->bottom, b->bottom)};
+    const bool empty = IsRectEmpty(a) || IsRectEmpty(b) || IsRectEmpty(&result);
+    *target = empty ? RECT{} : result;
+    return !empty;
+}
+
+BOOL UnionRect(LPRECT target, const RECT* a, const RECT* b)
+{
+    if (IsRectEmpty(a) || IsRectEmpty(b))
+    {
+        *target = IsRectEmpty(a) ? (IsRectEmpty(b) ? RECT{} : *b) : *a;
+        return !IsRectEmpty(target);
+    }
+    *target = {std::min(a->left, b->left), std::min(a->top, b->top), std::max(a->right, b->right),
+               std::max(a->bottom, b->bottom)};
+    return TRUE;
+}

@@ -1,0 +1,391 @@
+// The standard class "ListBox" with single selection.
+
+#include "afx/offscreen/ItemList.h"
+
+namespace offscreen
+{
+namespace
+{
+struct ListBoxState : ControlState
+{
+    explicit ListBoxState(const ItemList::Traits& traits) : items(traits) {}
+
+    ItemList items;
+    int top = 0;
+    int itemHeight = 0;
+    int extent = 0;
+    std::vector<int> tabs; // In dialog units.
+    bool pressed = false;
+};
+
+bool IsOwnerDrawn(const Window& list) { return (list.style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0; }
+
+ListBoxState& Of(Window& list) { return *StateOf<ListBoxState>(list); }
+
+int VisibleItems(const Window& list, const ListBoxState& state)
+{
+    return std::max<int>(ClientRectOf(list).bottom / std::max(state.itemHeight, 1), 1);
+}
+
+void SetTop(Window& list, int top)
+{
+    ListBoxState& state = Of(list);
+    const int last = std::max(state.items.Count() - VisibleItems(list, state), 0);
+    state.top = std::clamp(top, 0, last);
+}
+
+void ShowItem(Window& list, int index)
+{
+    ListBoxState& state = Of(list);
+    if (index < 0)
+        return;
+    if (index < state.top)
+        SetTop(list, index);
+    else if (index >= state.top + VisibleItems(list, state))
+        SetTop(list, index - VisibleItems(list, state) + 1);
+}
+
+void Notify(const Window& list, int code)
+{
+    if (list.style & LBS_NOTIFY)
+        NotifyParent(list, code);
+}
+
+RECT ItemRect(Window& list, int index)
+{
+    const ListBoxState& state = Of(list);
+    const int top = (index - state.top) * state.itemHeight;
+    return {0, top, ClientRectOf(list).right, top + state.itemHeight};
+}
+
+// The item at a point of the client area, -1 beside the items.
+int ItemAt(Window& list, int y)
+{
+    const ListBoxState& state = Of(list);
+    const int index = state.top + y / std::max(state.itemHeight, 1);
+    return y >= 0 && index < state.items.Count() ? index : -1;
+}
+
+// A list that shows whole items only gives up the height of a cut one.
+void AdjustHeight(Window& list)
+{
+    const ListBoxState& state = Of(list);
+    if ((list.style & (LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWVARIABLE)) || state.itemHeight <= 0)
+        return;
+    const int height = ClientRectOf(list).bottom;
+    const int rest = height % state.itemHeight;
+    if (height > state.itemHeight && rest)
+        SetWindowPos(list.handle, nullptr, 0, 0, list.rect.right - list.rect.left,
+                     list.rect.bottom - list.rect.top - rest, SWP_NOZORDER | SWP_NOMOVE | SWP_NOACTIVATE);
+}
+
+void UpdateScrollBar(Window& list)
+{
+    if (!(list.style & (WS_VSCROLL | LBS_DISABLENOSCROLL)))
+        return;
+    SetTop(list, Of(list).top);
+}
+
+void PaintOn(Window& list, HDC dc)
+{
+    ListBoxState& state = Of(list);
+    SelectObject(dc, list.font);
+    AskParentForColors(list, WM_CTLCOLORLISTBOX, dc);
+    if (!IsOwnerDrawn(list))
+        return;
+    const int last = std::min(state.items.Count(), state.top + VisibleItems(list, state));
+    for (int index = state.top; index < last && !list.dead; ++index)
+    {
+        DRAWITEMSTRUCT item{};
+        item.CtlType = ODT_LISTBOX;
+        item.itemID = static_cast<UINT>(index);
+        item.itemAction = ODA_DRAWENTIRE;
+        item.itemState = (index == state.items.Selection() ? ODS_SELECTED : 0u) |
+                         (list.handle == GetFocus() && index == state.items.Selection() ? ODS_FOCUS : 0u) |
+                         (list.style & WS_DISABLED ? ODS_DISABLED : 0u);
+        item.hDC = dc;
+        item.rcItem = ItemRect(list, index);
+        item.itemData = static_cast<ULONG_PTR>(state.items.Data(index));
+        DrawItem(list, item);
+    }
+}
+
+// Selects as the user does; notifies when `index` is an item.
+void SelectByUser(Window& list, int index)
+{
+    if (index < 0)
+        return;
+    Of(list).items.Select(index);
+    ShowItem(list, index);
+    Invalidate(list);
+    Notify(list, LBN_SELCHANGE);
+}
+
+LRESULT HandleKey(Window& list, WPARAM key)
+{
+    ListBoxState& state = Of(list);
+    const int count = state.items.Count();
+    int index = state.items.Selection();
+    const int page = std::max(VisibleItems(list, state) - 1, 1);
+    switch (key)
+    {
+    case VK_LEFT:
+    case VK_UP: index = std::max(index - 1, 0); break;
+    case VK_RIGHT:
+    case VK_DOWN: ++index; break;
+    case VK_PRIOR: index -= page; break;
+    case VK_NEXT: index = std::max(index, 0) + page; break;
+    case VK_HOME: index = 0; break;
+    case VK_END: index = count - 1; break;
+    default: return DefWindowProcA(list.handle, WM_KEYDOWN, key, 0);
+    }
+    if (count)
+        SelectByUser(list, std::clamp(index, 0, count - 1));
+    return 0;
+}
+
+LRESULT HandleChar(Window& list, char c)
+{
+    const int index = Of(list).items.FindNext(c);
+    if (index >= 0)
+        SelectByUser(list, index);
+    return 0;
+}
+
+LRESULT HandleMouse(Window& list, UINT message, LPARAM lParam)
+{
+    ListBoxState& state = Of(list);
+    const int index = ItemAt(list, GET_Y_LPARAM(lParam));
+    switch (message)
+    {
+    case WM_LBUTTONDOWN:
+        SetFocus(list.handle);
+        if (list.dead || index < 0)
+            return 0;
+        state.pressed = true;
+        SetCapture(list.handle);
+        state.items.Select(index);
+        Invalidate(list);
+        return 0;
+    case WM_LBUTTONUP:
+        if (!state.pressed)
+            return 0;
+        state.pressed = false;
+        if (GetCapture() == list.handle)
+            ReleaseCapture();
+        Notify(list, LBN_SELCHANGE);
+        return 0;
+    default: // WM_LBUTTONDBLCLK
+        if (index < 0)
+            return 0;
+        state.items.Select(index);
+        Notify(list, LBN_DBLCLK);
+        return 0;
+    }
+}
+
+void SetItemHeight(Window& list)
+{
+    ListBoxState& state = Of(list);
+    if (!(list.style & LBS_OWNERDRAWFIXED) || state.itemHeight == 0)
+        state.itemHeight = MetricsOf(list.font).height;
+}
+
+void Measure(Window& list)
+{
+    MEASUREITEMSTRUCT measure{};
+    measure.CtlType = ODT_LISTBOX;
+    measure.CtlID = static_cast<UINT>(list.id);
+    measure.itemID = static_cast<UINT>(-1);
+    measure.itemHeight = static_cast<UINT>(Of(list).itemHeight);
+    Send(ParentOf(list), WM_MEASUREITEM, measure.CtlID, reinterpret_cast<LPARAM>(&measure));
+    if (measure.itemHeight)
+        Of(list).itemHeight = static_cast<int>(measure.itemHeight);
+}
+
+LRESULT Create(Window& list)
+{
+    constexpr DWORD kNot = LBS_MULTIPLESEL | LBS_EXTENDEDSEL | LBS_MULTICOLUMN | LBS_NODATA | LBS_WANTKEYBOARDINPUT |
+                           LBS_OWNERDRAWVARIABLE;
+    if (list.style & kNot)
+        return NotModelled("list boxes with several selections or columns, no data or variable items", -1);
+    ItemList::Traits traits{};
+    traits.ownerDrawnType = IsOwnerDrawn(list) ? ODT_LISTBOX : 0;
+    traits.hasStrings = !traits.ownerDrawnType || (list.style & LBS_HASSTRINGS);
+    traits.sorted = (list.style & LBS_SORT) != 0;
+    traits.errorSpaceNotification = LBN_ERRSPACE;
+    list.control = std::make_unique<ListBoxState>(traits);
+    SetItemHeight(list);
+    if (traits.ownerDrawnType)
+        Measure(list);
+    AdjustHeight(list);
+    return 0;
+}
+
+LRESULT SetSelection(Window& list, int index)
+{
+    ItemList& items = Of(list).items;
+    Invalidate(list);
+    if (index == -1)
+    {
+        items.Select(-1);
+        return LB_ERR;
+    }
+    if (index < 0 || index >= items.Count())
+        return LB_ERR;
+    items.Select(index);
+    ShowItem(list, index);
+    return index;
+}
+
+LRESULT SetTabs(Window& list, WPARAM count, const int* stops)
+{
+    if (!(list.style & LBS_USETABSTOPS))
+        return FALSE;
+    Of(list).tabs.assign(stops, stops + count);
+    return TRUE;
+}
+
+LRESULT HandleListMessage(Window& list, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    ListBoxState& state = Of(list);
+    ItemList& items = state.items;
+    const int start = static_cast<int>(wParam);
+    switch (message)
+    {
+    case LB_ADDSTRING:
+    case LB_INSERTSTRING:
+    {
+        const LRESULT index =
+            message == LB_ADDSTRING ? items.Add(list, lParam) : items.Insert(list, static_cast<int>(wParam), lParam);
+        Invalidate(list);
+        return index;
+    }
+    case LB_DELETESTRING:
+    {
+        const LRESULT left = items.Remove(list, wParam);
+        UpdateScrollBar(list);
+        Invalidate(list);
+        return left;
+    }
+    case LB_RESETCONTENT:
+        items.Clear(list);
+        state.top = 0;
+        Invalidate(list);
+        return LB_OKAY;
+    case LB_GETCOUNT: return items.Count();
+    case LB_SETCURSEL: return SetSelection(list, static_cast<int>(wParam));
+    case LB_GETCURSEL:
+    case LB_GETCARETINDEX: return items.Selection();
+    case LB_GETSEL: return items.IsIndex(wParam) ? static_cast<int>(wParam) == items.Selection() : LB_ERR;
+    case LB_GETTEXT: return items.CopyItem(wParam, lParam);
+    case LB_GETTEXTLEN: return items.TextLength(wParam);
+    case LB_GETITEMDATA: return items.IsIndex(wParam) ? items.Data(static_cast<int>(wParam)) : LB_ERR;
+    case LB_SETITEMDATA:
+        if (!items.IsIndex(wParam))
+            return LB_ERR;
+        items.SetData(static_cast<int>(wParam), lParam);
+        return TRUE;
+    case LB_FINDSTRING: return items.FindPrefix(start, lParam);
+    case LB_FINDSTRINGEXACT: return items.FindExact(start, lParam);
+    case LB_SELECTSTRING:
+    {
+        const int index = items.FindPrefix(start, lParam);
+        return index >= 0 ? SetSelection(list, index) : LB_ERR;
+    }
+    case LB_GETTOPINDEX: return state.top;
+    case LB_SETTOPINDEX:
+        if (!items.IsIndex(wParam))
+            return LB_ERR;
+        SetTop(list, static_cast<int>(wParam));
+        return LB_OKAY;
+    case LB_SETTABSTOPS: return SetTabs(list, wParam, reinterpret_cast<const int*>(lParam));
+    case LB_GETITEMHEIGHT: return state.itemHeight;
+    case LB_SETITEMHEIGHT: state.itemHeight = static_cast<int>(lParam); return LB_OKAY;
+    case LB_GETITEMRECT:
+        *reinterpret_cast<RECT*>(lParam) = ItemRect(list, start);
+        return items.IsIndex(wParam) ? LB_OKAY : LB_ERR;
+    case LB_ITEMFROMPOINT:
+    {
+        const int index = ItemAt(list, GET_Y_LPARAM(lParam));
+        return index >= 0 ? MAKELONG(index, 0) : MAKELONG(items.Count() - 1, 1);
+    }
+    case LB_SETHORIZONTALEXTENT: state.extent = static_cast<int>(wParam); return LB_OKAY;
+    case LB_GETHORIZONTALEXTENT: return state.extent;
+    case LB_SETCARETINDEX: return items.IsIndex(wParam) ? LB_OKAY : LB_ERR;
+    case LB_INITSTORAGE: return items.Count() + static_cast<LRESULT>(wParam);
+    case LB_SETSEL:
+    case LB_GETSELCOUNT:
+    case LB_GETSELITEMS: return LB_ERR; // Only lists with several selections answer these.
+    default: Fail("not modelled: list box message 0x%04X", message); return LB_ERR;
+    }
+}
+} // namespace
+
+std::vector<int> TabStops(HWND listBox)
+{
+    Window* window = Find(listBox);
+    if (!window || window->windowClass->procedure != ListBoxProc || !window->control)
+        return {};
+    return Of(*window).tabs;
+}
+
+LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    Window* window = Find(handle);
+    if (!window)
+        return 0;
+    Window& list = *window;
+    const Pin pin(window);
+    if (message == WM_CREATE)
+        return Create(list);
+    if (!list.control)
+        return DefWindowProcA(handle, message, wParam, lParam);
+    if (message >= LB_ADDSTRING && message <= LB_ITEMFROMPOINT)
+        return HandleListMessage(list, message, wParam, lParam);
+
+    switch (message)
+    {
+    case WM_DESTROY: Of(list).items.Clear(list); return 0;
+    case WM_GETDLGCODE: return DLGC_WANTARROWS | DLGC_WANTCHARS;
+    case WM_SETFONT:
+        list.font = reinterpret_cast<HFONT>(wParam);
+        SetItemHeight(list);
+        AdjustHeight(list);
+        if (lParam)
+            Invalidate(list);
+        return 0;
+    case WM_GETFONT: return reinterpret_cast<LRESULT>(list.font);
+    case WM_SIZE: AdjustHeight(list); return 0;
+    case WM_ERASEBKGND: return TRUE;
+    case WM_PAINT:
+    {
+        PAINTSTRUCT paint;
+        const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
+        PaintOn(list, dc);
+        if (!wParam)
+            EndPaint(handle, &paint);
+        return 0;
+    }
+    case WM_SETFOCUS:
+        Invalidate(list);
+        Notify(list, LBN_SETFOCUS);
+        return 0;
+    case WM_KILLFOCUS:
+        Invalidate(list);
+        Notify(list, LBN_KILLFOCUS);
+        return 0;
+    case WM_ENABLE: Invalidate(list); return 0;
+    case WM_KEYDOWN: return HandleKey(list, wParam);
+    case WM_CHAR: return HandleChar(list, static_cast<char>(wParam));
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK: return HandleMouse(list, message, lParam);
+    case WM_GETTEXT:
+    case WM_GETTEXTLENGTH:
+    case WM_SETTEXT: return DefWindowProcA(handle, message, wParam, lParam);
+    default: return DefWindowProcA(handle, message, wParam, lParam);
+    }
+}
+} // namespace offscreen

@@ -1,0 +1,478 @@
+// Sending, posting and fetching messages, timers and hooks.
+
+#include "afx/offscreen/Internal.h"
+
+#include <chrono>
+#include <list>
+
+namespace offscreen
+{
+namespace
+{
+struct Timer
+{
+    HWND window;
+    UINT_PTR id;
+    DWORD interval;
+    DWORD due;
+    TIMERPROC callback;
+};
+
+struct Hook
+{
+    int kind;
+    HOOKPROC procedure;
+    HHOOK handle;
+};
+
+struct MessageState
+{
+    std::deque<MSG> queue;
+    bool quitting = false;
+    int exitCode = 0;
+    bool hanging = false;
+    std::vector<Timer> timers;
+    UINT_PTR nextTimer = 0x7FFF;
+    std::list<Hook> hooks; // The newest first.
+    std::uintptr_t nextHook = 0;
+    std::vector<HHOOK> running; // Innermost last.
+    DWORD skippedTime = 0;
+    DWORD lastTime = 0;
+    std::vector<std::string> registered;
+};
+
+MessageState& State()
+{
+    static auto* state = new MessageState;
+    return *state;
+}
+
+DWORD Now()
+{
+    using namespace std::chrono;
+    static const auto start = steady_clock::now();
+    const auto elapsed = duration_cast<milliseconds>(steady_clock::now() - start).count();
+    return static_cast<DWORD>(elapsed) + State().skippedTime + 0x10000;
+}
+
+MSG MakeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    MSG msg{};
+    msg.hwnd = window;
+    msg.message = message;
+    msg.wParam = wParam;
+    msg.lParam = lParam;
+    msg.time = Now();
+    msg.pt = Input().cursor;
+    return msg;
+}
+
+bool IsWanted(const MSG& msg, HWND window, UINT first, UINT last)
+{
+    if (window == reinterpret_cast<HWND>(static_cast<LONG_PTR>(-1)) ? msg.hwnd != nullptr
+                                                                   : window && msg.hwnd != window &&
+                                                                         !IsChild(window, msg.hwnd))
+        return false;
+    return (first == 0 && last == 0) || (msg.message >= first && msg.message <= last);
+}
+
+bool TakePosted(MSG& msg, HWND window, UINT first, UINT last, bool remove)
+{
+    auto& queue = State().queue;
+    for (auto it = queue.begin(); it != queue.end(); ++it)
+    {
+        if (!IsWanted(*it, window, first, last))
+            continue;
+        msg = *it;
+        if (remove)
+            queue.erase(it);
+        return true;
+    }
+    return false;
+}
+
+bool TakeQuit(MSG& msg, bool remove)
+{
+    MessageState& state = State();
+    if (!state.quitting || !state.queue.empty())
+        return false;
+    msg = MakeMessage(nullptr, WM_QUIT, static_cast<WPARAM>(state.exitCode), 0);
+    if (remove)
+        state.quitting = false;
+    return true;
+}
+
+bool TakePaint(MSG& msg, HWND window, UINT first, UINT last)
+{
+    const Window* dirty = NextWindowToPaint();
+    if (!dirty)
+        return false;
+    msg = MakeMessage(dirty->handle, WM_PAINT, 0, 0);
+    return IsWanted(msg, window, first, last);
+}
+
+Timer* EarliestTimer()
+{
+    auto& timers = State().timers;
+    const auto earliest = std::min_element(timers.begin(), timers.end(),
+                                           [](const Timer& a, const Timer& b) { return a.due < b.due; });
+    return earliest == timers.end() ? nullptr : &*earliest;
+}
+
+// A timer that is due. Somebody who waits need not really wait: with `skipWaiting` the clock jumps to the next timer.
+bool TakeTimer(MSG& msg, HWND window, UINT first, UINT last, bool skipWaiting, bool remove)
+{
+    Timer* timer = EarliestTimer();
+    if (!timer)
+        return false;
+    const DWORD now = Now();
+    if (timer->due > now)
+    {
+        if (!skipWaiting)
+            return false;
+        State().skippedTime += timer->due - now;
+    }
+    msg = MakeMessage(timer->window, WM_TIMER, timer->id, reinterpret_cast<LPARAM>(timer->callback));
+    if (!IsWanted(msg, window, first, last))
+        return false;
+    if (remove)
+        timer->due = Now() + timer->interval;
+    return true;
+}
+
+bool Take(MSG& msg, HWND window, UINT first, UINT last, bool remove, bool waiting)
+{
+    if (!TakePosted(msg, window, first, last, remove) && !TakeQuit(msg, remove) &&
+        !TakePaint(msg, window, first, last) && !TakeTimer(msg, window, first, last, waiting, remove))
+        return false;
+    State().lastTime = msg.time;
+    RunHooks(WH_GETMESSAGE, HC_ACTION, remove ? PM_REMOVE : PM_NOREMOVE, reinterpret_cast<LPARAM>(&msg));
+    return true;
+}
+
+bool Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    State().queue.push_back(MakeMessage(window, message, wParam, lParam));
+    return true;
+}
+
+// The character that a key gives on a US keyboard; 0 when it gives none.
+char CharacterOf(WPARAM key)
+{
+    const bool shift = KeyIsDown(VK_SHIFT);
+    if (KeyIsDown(VK_CONTROL))
+        return key >= 'A' && key <= 'Z' ? static_cast<char>(key - 'A' + 1) : key == VK_RETURN ? '\n' : 0;
+    if (key >= 'A' && key <= 'Z')
+        return static_cast<char>(shift == ((Input().keys[VK_CAPITAL] & 1) != 0) ? key - 'A' + 'a' : key);
+    if (key >= '0' && key <= '9')
+        return shift ? ")!@#$%^&*("[key - '0'] : static_cast<char>(key);
+    if (key >= VK_NUMPAD0 && key <= VK_NUMPAD9)
+        return static_cast<char>(key - VK_NUMPAD0 + '0');
+    switch (key)
+    {
+    case VK_SPACE: return ' ';
+    case VK_RETURN: return '\r';
+    case VK_TAB: return '\t';
+    case VK_BACK: return '\b';
+    case VK_ESCAPE: return '\x1B';
+    case VK_MULTIPLY: return '*';
+    case VK_ADD: return '+';
+    case VK_SUBTRACT: return '-';
+    case VK_DECIMAL: return '.';
+    case VK_DIVIDE: return '/';
+    case 0xBA: return shift ? ':' : ';';
+    case 0xBB: return shift ? '+' : '=';
+    case 0xBC: return shift ? '<' : ',';
+    case VK_OEM_MINUS: return shift ? '_' : '-';
+    case VK_OEM_PERIOD: return shift ? '>' : '.';
+    case 0xBF: return shift ? '?' : '/';
+    case 0xC0: return shift ? '~' : '`';
+    case 0xDB: return shift ? '{' : '[';
+    case 0xDC: return shift ? '|' : '\\';
+    case 0xDD: return shift ? '}' : ']';
+    case 0xDE: return shift ? '"' : '\'';
+    default: return 0;
+    }
+}
+} // namespace
+
+LRESULT CallProc(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const Pin pin(Find(window));
+    Outside outside;
+    return procedure(window, message, wParam, lParam);
+}
+
+LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const Window* found = Find(window);
+    if (!found)
+        return 0;
+    if (!State().hooks.empty())
+    {
+        CWPSTRUCT data{lParam, wParam, message, window};
+        RunHooks(WH_CALLWNDPROC, HC_ACTION, 0, reinterpret_cast<LPARAM>(&data));
+        found = Find(window);
+        if (!found)
+            return 0;
+    }
+    return CallProc(found->procedure, window, message, wParam, lParam);
+}
+
+bool RunHooks(int kind, int code, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    MessageState& state = State();
+    for (const Hook& hook : state.hooks)
+    {
+        if (hook.kind != kind)
+            continue;
+        const HOOKPROC procedure = hook.procedure;
+        state.running.push_back(hook.handle);
+        LRESULT answer = 0;
+        {
+            Outside outside;
+            answer = procedure(code, wParam, lParam);
+        }
+        state.running.pop_back();
+        if (result)
+            *result = answer;
+        return true;
+    }
+    return false;
+}
+
+void ForgetMessages(HWND window)
+{
+    MessageState& state = State();
+    std::erase_if(state.queue, [=](const MSG& msg) { return msg.hwnd == window; });
+    std::erase_if(state.timers, [=](const Timer& timer) { return timer.window == window; });
+}
+
+bool QueueIsEmpty()
+{
+    const MessageState& state = State();
+    return state.queue.empty() && !state.quitting && !NextWindowToPaint();
+}
+
+void ReportHang(const char* where)
+{
+    MessageState& state = State();
+    if (!state.hanging)
+        Fail("%s would wait forever: the message queue is empty and there is no timer", where);
+    state.hanging = true;
+    state.quitting = true;
+}
+
+void ResetMessages()
+{
+    State() = MessageState{};
+}
+
+int CountTimers() { return static_cast<int>(State().timers.size()); }
+int CountHooks() { return static_cast<int>(State().hooks.size()); }
+std::size_t QueuedMessages() { return State().queue.size(); }
+} // namespace offscreen
+
+using namespace offscreen;
+
+LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    if (window == HWND_BROADCAST)
+        return NotModelled("SendMessage(HWND_BROADCAST)", 0);
+    return Lookup(window) ? Send(window, message, wParam, lParam) : 0;
+}
+
+LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    return procedure ? CallProc(procedure, window, message, wParam, lParam) : 0;
+}
+
+BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    if (window == HWND_BROADCAST)
+        return NotModelled("PostMessage(HWND_BROADCAST)", FALSE);
+    if (window && !Lookup(window))
+        return FALSE;
+    return Post(window, message, wParam, lParam);
+}
+
+BOOL PostThreadMessageA(DWORD threadId, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    return threadId == GetCurrentThreadId() && Post(nullptr, message, wParam, lParam);
+}
+
+void PostQuitMessage(int exitCode)
+{
+    State().quitting = true;
+    State().exitCode = exitCode;
+}
+
+BOOL GetMessageA(LPMSG message, HWND window, UINT first, UINT last)
+{
+    Inside inside;
+    if (!Take(*message, window, first, last, true, true))
+    {
+        ReportHang("GetMessage");
+        if (!TakeQuit(*message, true))
+            *message = MakeMessage(nullptr, WM_QUIT, 0, 0);
+    }
+    return message->message != WM_QUIT;
+}
+
+BOOL PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove)
+{
+    Inside inside;
+    return Take(*message, window, first, last, (remove & PM_REMOVE) != 0, false);
+}
+
+BOOL WaitMessage()
+{
+    Inside inside;
+    MSG msg{};
+    if (!Take(msg, nullptr, 0, 0, false, true))
+        ReportHang("WaitMessage");
+    return TRUE;
+}
+
+BOOL TranslateMessage(const MSG* message)
+{
+    Inside inside;
+    const bool system = message->message == WM_SYSKEYDOWN;
+    if (message->message != WM_KEYDOWN && !system)
+        return message->message == WM_KEYUP || message->message == WM_SYSKEYUP;
+    if (const char c = CharacterOf(message->wParam))
+        Post(message->hwnd, system ? WM_SYSCHAR : WM_CHAR, static_cast<unsigned char>(c), message->lParam);
+    return TRUE;
+}
+
+LRESULT DispatchMessageA(const MSG* message)
+{
+    Inside inside;
+    if (message->message == WM_TIMER && message->lParam)
+    {
+        const auto callback = reinterpret_cast<TIMERPROC>(message->lParam);
+        Outside outside;
+        callback(message->hwnd, WM_TIMER, message->wParam, GetTickCount());
+        return 0;
+    }
+    if (!message->hwnd)
+        return 0;
+    Window* found = Lookup(message->hwnd);
+    if (!found)
+        return 0;
+    // A procedure that ignores WM_PAINT would be asked again forever.
+    const Pin pin(found);
+    const LRESULT result = CallProc(found->procedure, message->hwnd, message->message, message->wParam, message->lParam);
+    if (message->message == WM_PAINT && !found->dead && found->needsPaint)
+        ForgetPaint(*found);
+    return result;
+}
+
+BOOL CallMsgFilterA(LPMSG message, int code)
+{
+    Inside inside;
+    LRESULT result = 0;
+    return RunHooks(WH_MSGFILTER, code, 0, reinterpret_cast<LPARAM>(message), &result) && result != 0;
+}
+
+BOOL InSendMessage() { return FALSE; }
+BOOL ReplyMessage(LRESULT) { return FALSE; }
+LPARAM GetMessageExtraInfo() { return 0; }
+DWORD GetMessagePos() { return static_cast<DWORD>(MAKELONG(Input().cursor.x, Input().cursor.y)); }
+LONG GetMessageTime() { return static_cast<LONG>(State().lastTime); }
+
+UINT RegisterWindowMessageA(LPCSTR name)
+{
+    Inside inside;
+    auto& registered = State().registered;
+    auto it = std::find(registered.begin(), registered.end(), name);
+    if (it == registered.end())
+        it = registered.insert(registered.end(), name);
+    return static_cast<UINT>(0xC000 + (it - registered.begin()));
+}
+
+UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callback)
+{
+    Inside inside;
+    if (window && !Lookup(window))
+        return 0;
+    auto& timers = State().timers;
+    const DWORD interval = std::max(milliseconds, 10u);
+    const DWORD due = Now() + interval;
+    for (Timer& timer : timers)
+        if (timer.window == window && timer.id == id && (window || id))
+        {
+            timer = {window, id, interval, due, callback};
+            return window ? TRUE : id;
+        }
+    const UINT_PTR newId = window ? id : State().nextTimer--;
+    timers.push_back({window, newId, interval, due, callback});
+    return newId ? newId : TRUE;
+}
+
+BOOL KillTimer(HWND window, UINT_PTR id)
+{
+    Inside inside;
+    const auto gone = std::erase_if(State().timers,
+                                    [=](const Timer& timer) { return timer.window == window && timer.id == id; });
+    std::erase_if(State().queue, [=](const MSG& msg) {
+        return msg.message == WM_TIMER && msg.hwnd == window && msg.wParam == id;
+    });
+    return gone > 0;
+}
+
+HHOOK SetWindowsHookExA(int kind, HOOKPROC procedure, HINSTANCE, DWORD threadId)
+{
+    Inside inside;
+    if (kind != WH_CBT && kind != WH_GETMESSAGE && kind != WH_MSGFILTER && kind != WH_CALLWNDPROC)
+        return NotModelled("SetWindowsHookEx of this kind", HHOOK{});
+    if (threadId && threadId != GetCurrentThreadId())
+        return nullptr;
+    MessageState& state = State();
+    const auto handle = reinterpret_cast<HHOOK>(0x700000 + ++state.nextHook);
+    state.hooks.push_front({kind, procedure, handle});
+    return handle;
+}
+
+BOOL UnhookWindowsHookEx(HHOOK hook)
+{
+    Inside inside;
+    auto& hooks = State().hooks;
+    const auto it = std::find_if(hooks.begin(), hooks.end(), [=](const Hook& h) { return h.handle == hook; });
+    if (it == hooks.end())
+        return FALSE;
+    hooks.erase(it);
+    return TRUE;
+}
+
+LRESULT CallNextHookEx(HHOOK, int code, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    MessageState& state = State();
+    if (state.running.empty())
+        return 0;
+    const HHOOK current = state.running.back();
+    auto it = std::find_if(state.hooks.begin(), state.hooks.end(), [=](const Hook& h) { return h.handle == current; });
+    if (it == state.hooks.end())
+        return 0;
+    const int kind = it->kind;
+    it = std::find_if(std::next(it), state.hooks.end(), [=](const Hook& h) { return h.kind == kind; });
+    if (it == state.hooks.end())
+        return 0;
+    const HOOKPROC procedure = it->procedure;
+    state.running.push_back(it->handle);
+    LRESULT result = 0;
+    {
+        Outside outside;
+        result = procedure(code, wParam, lParam);
+    }
+    state.running.pop_back();
+    return result;
+}
+
+DWORD GetTickCount() { return Now(); }
+UINT GetDoubleClickTime() { return 500; }
