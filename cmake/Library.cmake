@@ -1,0 +1,41 @@
+# The library: its objects, linked directly by tests, measurements and native programs, and on Windows the DLL.
+#
+#   afx      the part of MFC that the library is written against, over this desktop
+#   wizard   core and dialogs
+#   pexlo    both, with the module's own resources
+#   Pexlo    Pexlo.dll and libPexlo.dll.a (Windows only)
+
+
+if(WIN32)
+    set(desktop win32)
+else()
+    set(desktop offscreen)
+endif()
+file(GLOB afx_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/afx/*.cpp ${PROJECT_SOURCE_DIR}/afx/${desktop}/*.cpp)
+file(GLOB_RECURSE wizard_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/dialogs/*.cpp)
+if(PEXLO_WITH_MFC)
+    list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|HtmlHelp|System|DialogRobot|win32/Screenshot)\\.cpp$")
+endif()
+
+add_library(afx OBJECT ${afx_sources})
+add_library(wizard OBJECT ${wizard_sources})
+foreach(objects afx wizard)
+    target_compile_definitions(${objects} PRIVATE PEXLO_BUILD $<$<BOOL:${PEXLO_WITH_MFC}>:PEXLO_WITH_MFC>)
+    target_include_directories(${objects} PUBLIC ${PROJECT_SOURCE_DIR})
+endforeach()
+
+set(system_libraries $<$<BOOL:${WIN32}>:gdi32 user32 advapi32>)
+
+add_library(pexlo INTERFACE)
+target_sources(pexlo INTERFACE $<TARGET_OBJECTS:afx> $<TARGET_OBJECTS:wizard>)
+target_compile_definitions(pexlo INTERFACE PEXLO_STATIC)
+target_include_directories(pexlo INTERFACE ${PROJECT_SOURCE_DIR})
+target_link_libraries(pexlo INTERFACE module_resources ${system_libraries})
+
+if(WIN32)
+    add_library(Pexlo SHARED $<TARGET_OBJECTS:afx> $<TARGET_OBJECTS:wizard>)
+    set_target_properties(Pexlo PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
+    target_link_libraries(Pexlo PRIVATE module_resources ${system_libraries})
+    target_include_directories(Pexlo INTERFACE ${PROJECT_SOURCE_DIR})
+    target_link_options(Pexlo PRIVATE -Wl,--exclude-all-symbols $<$<CONFIG:Release>:-s>)
+endif()
