@@ -174,7 +174,7 @@ TEST(ArrayTest, AFailedGrowthLeavesTheArray)
         CArray<int, int> array;
         Fill(array, {1, 2, 3, 4});
         {
-            const CFailingMemory memory(0);
+            const CAllocationFaults memory(0);
             EXPECT_THROW(operation(array), CMemoryException*);
         }
         EXPECT_EQ(Elements(array), (std::vector<int>{1, 2, 3, 4}));
@@ -398,7 +398,7 @@ TEST(MapTest, AFailedTableLeavesTheMap)
     CNumbers map;
     map.InitHashTable(5);
     {
-        const CFailingMemory memory(0);
+        const CAllocationFaults memory(0);
         EXPECT_THROW(map.InitHashTable(1000), CMemoryException*);
     }
     EXPECT_EQ(map.GetHashTableSize(), 5u);

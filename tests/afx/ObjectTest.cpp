@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "afx/afx.h"
-#include "tests/core/FailingMemory.h"
+#include "tests/support/AllocationFaults.h"
 
 namespace
 {
@@ -51,7 +51,7 @@ TEST(ObjectTest, WindowClassesFormTheUsualTree)
 
 TEST(ObjectTest, NewWithoutMemoryThrowsAMemoryException)
 {
-    const CFailingMemory memory(0);
+    const CAllocationFaults memory(0);
     CMemoryException* caught = nullptr;
     try
     {
@@ -106,7 +106,7 @@ TEST(ObjectTest, AFailedReallocationLeavesTheBlock)
     char* block = static_cast<char*>(AfxAllocate(4));
     std::memcpy(block, "abc", 4);
     {
-        const CFailingMemory memory(0);
+        const CAllocationFaults memory(0);
         EXPECT_THROW(AfxReallocate(block, 1000), CMemoryException*);
     }
     EXPECT_STREQ(block, "abc");
