@@ -157,14 +157,11 @@ bool Initialize(HWND dialog, DWORD style, LPARAM param)
     return Find(dialog) != nullptr;
 }
 
-HWND Create(HINSTANCE instance, const void* data, const void* end, HWND owner, DLGPROC procedure, LPARAM param,
-            bool modal)
+} // namespace
+
+HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param, bool modal)
 {
     DesktopWindow();
-    if (!data)
-        return nullptr;
-    const Template tmpl = ReadTemplate(data, end);
-
     HFONT font = nullptr;
     BaseUnits units = SystemBaseUnits();
     if (tmpl.font && tmpl.font->pointSize != 0x7FFF)
@@ -234,6 +231,14 @@ HWND Create(HINSTANCE instance, const void* data, const void* end, HWND owner, D
         return nullptr;
     }
     return dialog;
+}
+namespace
+{
+HWND Create(HINSTANCE instance, const void* data, const void* end, HWND owner, DLGPROC procedure, LPARAM param,
+            bool modal)
+{
+    DesktopWindow();
+    return data ? CreateDialogFrom(ReadTemplate(data, end), instance, owner, procedure, param, modal) : nullptr;
 }
 } // namespace
 

@@ -56,4 +56,8 @@ struct Template
 
 // `end` is the end of the readable memory when it is known, else null.
 Template ReadTemplate(const void* data, const void* end);
+
+// Creates a dialog; `modal` disables the owner until EndDialog or the end of the modal loop.
+HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param,
+                      bool modal);
 } // namespace offscreen

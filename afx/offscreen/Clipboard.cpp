@@ -1,0 +1,215 @@
+// The clipboard, and the movable memory that its contents live in.
+
+#include "afx/offscreen/Internal.h"
+
+#include <cstring>
+#include <map>
+
+namespace offscreen
+{
+namespace
+{
+struct Memory
+{
+    std::vector<BYTE> bytes;
+    int locks = 0;
+    bool owned = false; // By the clipboard
+};
+
+struct ClipboardState
+{
+    HandleTable<Memory> movable{5};
+    std::map<const void*, std::unique_ptr<Memory>> fixed;
+    std::map<UINT, HANDLE> contents;
+    bool open = false;
+    HWND opener = nullptr;
+    HWND owner = nullptr;
+};
+
+ClipboardState& State()
+{
+    static auto* state = new ClipboardState;
+    return *state;
+}
+
+Memory* MemoryOf(HGLOBAL handle)
+{
+    ClipboardState& state = State();
+    if (Memory* movable = state.movable.Find(reinterpret_cast<std::uintptr_t>(handle)))
+        return movable;
+    const auto it = state.fixed.find(handle);
+    if (it != state.fixed.end())
+        return it->second.get();
+    SetLastError(ERROR_INVALID_HANDLE);
+    return nullptr;
+}
+
+void Free(HGLOBAL handle)
+{
+    ClipboardState& state = State();
+    if (Memory* movable = state.movable.Find(reinterpret_cast<std::uintptr_t>(handle)))
+    {
+        state.movable.Remove(reinterpret_cast<std::uintptr_t>(handle));
+        delete movable;
+    }
+    else
+        state.fixed.erase(handle);
+}
+
+void Empty()
+{
+    for (const auto& [format, data] : State().contents)
+        Free(data);
+    State().contents.clear();
+}
+} // namespace
+
+void ResetClipboard()
+{
+    ClipboardState& state = State();
+    std::vector<Memory*> movable;
+    state.movable.ForEach([&](Memory& memory) { movable.push_back(&memory); });
+    state = ClipboardState{};
+    for (Memory* memory : movable)
+        delete memory;
+}
+
+int CountGlobals()
+{
+    int count = static_cast<int>(State().fixed.size());
+    State().movable.ForEach([&](const Memory& memory) { count += !memory.owned; });
+    return count;
+}
+} // namespace offscreen
+
+using namespace offscreen;
+
+HGLOBAL GlobalAlloc(UINT flags, SIZE_T size)
+{
+    Inside inside;
+    ClipboardState& state = State();
+    auto memory = std::make_unique<Memory>();
+    memory->bytes.resize(std::max<SIZE_T>(size, 1));
+    if (flags & GMEM_MOVEABLE)
+        return reinterpret_cast<HGLOBAL>(state.movable.Add(memory.release()));
+    // Fixed memory is its own handle.
+    void* address = memory->bytes.data();
+    state.fixed[address] = std::move(memory);
+    return address;
+}
+
+HGLOBAL GlobalReAlloc(HGLOBAL handle, SIZE_T size, UINT)
+{
+    Inside inside;
+    Memory* memory = MemoryOf(handle);
+    if (!memory || memory->bytes.data() == handle)
+        return nullptr;
+    memory->bytes.resize(std::max<SIZE_T>(size, 1));
+    return handle;
+}
+
+LPVOID GlobalLock(HGLOBAL handle)
+{
+    Inside inside;
+    Memory* memory = MemoryOf(handle);
+    if (!memory)
+        return nullptr;
+    ++memory->locks;
+    return memory->bytes.data();
+}
+
+BOOL GlobalUnlock(HGLOBAL handle)
+{
+    Inside inside;
+    Memory* memory = MemoryOf(handle);
+    if (!memory || memory->locks == 0)
+        return FALSE;
+    SetLastError(NO_ERROR);
+    return --memory->locks > 0;
+}
+
+SIZE_T GlobalSize(HGLOBAL handle)
+{
+    Inside inside;
+    const Memory* memory = MemoryOf(handle);
+    return memory ? memory->bytes.size() : 0;
+}
+
+HGLOBAL GlobalFree(HGLOBAL handle)
+{
+    Inside inside;
+    const Memory* memory = MemoryOf(handle);
+    if (!memory || memory->owned)
+        return handle;
+    Free(handle);
+    return nullptr;
+}
+
+HGLOBAL GlobalHandle(LPCVOID address)
+{
+    Inside inside;
+    return MemoryOf(const_cast<void*>(address)) ? const_cast<void*>(address) : nullptr;
+}
+
+BOOL OpenClipboard(HWND window)
+{
+    Inside inside;
+    ClipboardState& state = State();
+    if (state.open && state.opener != window)
+        return FALSE;
+    state.open = true;
+    state.opener = window;
+    return TRUE;
+}
+
+BOOL CloseClipboard()
+{
+    ClipboardState& state = State();
+    if (!state.open)
+    {
+        SetLastError(ERROR_CLIPBOARD_NOT_OPEN);
+        return FALSE;
+    }
+    state.open = false;
+    state.opener = nullptr;
+    return TRUE;
+}
+
+BOOL EmptyClipboard()
+{
+    Inside inside;
+    ClipboardState& state = State();
+    if (!state.open)
+    {
+        SetLastError(ERROR_CLIPBOARD_NOT_OPEN);
+        return FALSE;
+    }
+    Empty();
+    state.owner = state.opener;
+    return TRUE;
+}
+
+HANDLE SetClipboardData(UINT format, HANDLE data)
+{
+    Inside inside;
+    ClipboardState& state = State();
+    Memory* memory = state.open ? MemoryOf(data) : nullptr;
+    if (!memory)
+        return nullptr;
+    if (const auto it = state.contents.find(format); it != state.contents.end())
+        Free(it->second);
+    memory->owned = true;
+    state.contents[format] = data;
+    return data;
+}
+
+HANDLE GetClipboardData(UINT format)
+{
+    Inside inside;
+    const ClipboardState& state = State();
+    const auto it = state.contents.find(format);
+    return state.open && it != state.contents.end() ? it->second : nullptr;
+}
+
+BOOL IsClipboardFormatAvailable(UINT format) { return State().contents.count(format) != 0; }
+HWND GetClipboardOwner() { return State().owner; }

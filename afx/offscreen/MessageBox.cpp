@@ -1,0 +1,138 @@
+// MessageBox: a real dialog with its own modal loop.
+
+#include "afx/offscreen/DialogTemplate.h"
+
+namespace offscreen
+{
+namespace
+{
+constexpr DWORD kTextId = 0xFFFF;
+constexpr DWORD kIconId = 20;
+
+struct Button
+{
+    int id;
+    const char* text;
+};
+
+constexpr Button kOk = {IDOK, "OK"};
+constexpr Button kCancel = {IDCANCEL, "Cancel"};
+constexpr Button kAbort = {IDABORT, "&Abort"};
+constexpr Button kRetry = {IDRETRY, "&Retry"};
+constexpr Button kIgnore = {IDIGNORE, "&Ignore"};
+constexpr Button kYes = {IDYES, "&Yes"};
+constexpr Button kNo = {IDNO, "&No"};
+
+std::vector<Button> ButtonsOf(UINT type)
+{
+    switch (type & MB_TYPEMASK)
+    {
+    case MB_OK: return {kOk};
+    case MB_OKCANCEL: return {kOk, kCancel};
+    case MB_ABORTRETRYIGNORE: return {kAbort, kRetry, kIgnore};
+    case MB_YESNOCANCEL: return {kYes, kNo, kCancel};
+    case MB_YESNO: return {kYes, kNo};
+    case MB_RETRYCANCEL: return {kRetry, kCancel};
+    default: return {};
+    }
+}
+
+TemplateControl Control(DWORD id, const char* className, std::string title, DWORD style, int x, int y, int width,
+                        int height)
+{
+    TemplateControl control;
+    control.id = id;
+    control.className.text = className;
+    control.title.text = std::move(title);
+    control.style = style | WS_VISIBLE;
+    control.x = static_cast<short>(x);
+    control.y = static_cast<short>(y);
+    control.width = static_cast<short>(width);
+    control.height = static_cast<short>(height);
+    return control;
+}
+
+Template BoxTemplate(LPCSTR text, LPCSTR caption, UINT type, const std::vector<Button>& buttons)
+{
+    constexpr int kWidth = 240;
+    constexpr int kButton = 50;
+    Template box;
+    box.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | DS_MODALFRAME | DS_CENTER | DS_NOIDLEMSG | DS_3DLOOK |
+                DS_SETFONT;
+    box.width = kWidth;
+    box.height = 80;
+    box.title.text = caption ? caption : "Error";
+    box.font = TemplateFont{8, FW_NORMAL, false, DEFAULT_CHARSET, "MS Shell Dlg"};
+    // The text comes before the icon, the buttons last, as in the system's own box.
+    box.controls.push_back(
+        Control(kIconId, "Static", "", SS_ICON, 8, 8, 20, 20));
+    if (!(type & MB_ICONMASK))
+        box.controls.back().style &= ~WS_VISIBLE;
+    box.controls.push_back(Control(kTextId, "Static", text ? text : "", SS_LEFT | SS_NOPREFIX, 36, 8, 196, 44));
+    const UINT defaultButton = std::min<UINT>((type & MB_DEFMASK) >> 8, static_cast<UINT>(buttons.size()) - 1);
+    int x = (kWidth - static_cast<int>(buttons.size()) * (kButton + 6)) / 2;
+    for (std::size_t i = 0; i < buttons.size(); ++i, x += kButton + 6)
+        box.controls.push_back(Control(static_cast<DWORD>(buttons[i].id), "Button", buttons[i].text,
+                                       WS_TABSTOP | (i == 0 ? WS_GROUP : 0) |
+                                           (i == defaultButton ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
+                                       x, 60, kButton, 14));
+    return box;
+}
+
+bool HasButton(HWND box, int id) { return GetDlgItem(box, id) != nullptr; }
+
+INT_PTR CALLBACK BoxProc(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    switch (message)
+    {
+    case WM_INITDIALOG:
+        // The default button has the focus from the start.
+        SetFocus(GetDlgItem(box, static_cast<int>(lParam)));
+        return FALSE;
+    case WM_COMMAND:
+    {
+        int id = LOWORD(wParam);
+        // Esc answers a box with the OK button alone, and only boxes that have a Cancel button otherwise.
+        if (id == IDCANCEL && !HasButton(box, IDCANCEL))
+            id = HasButton(box, IDOK) ? IDOK : 0;
+        if (id && HasButton(box, id))
+            EndDialog(box, id);
+        return TRUE;
+    }
+    default: return FALSE;
+    }
+}
+} // namespace
+} // namespace offscreen
+
+using namespace offscreen;
+
+int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type)
+{
+    Inside inside;
+    if (owner && !Lookup(owner))
+        return 0;
+    const std::vector<Button> buttons = ButtonsOf(type);
+    if (buttons.empty() || (type & MB_HELP))
+        return NotModelled("MessageBox with these buttons", 0);
+    MessageBeep(type & MB_ICONMASK);
+
+    std::vector<HWND> disabled;
+    if (!owner && (type & MB_TASKMODAL))
+    {
+        for (const Window* window = DesktopWindow().firstChild; window; window = window->next)
+            if ((window->style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE)
+                disabled.push_back(window->handle);
+        for (HWND window : disabled)
+            EnableWindow(window, FALSE);
+    }
+    const UINT defaultButton = std::min<UINT>((type & MB_DEFMASK) >> 8, static_cast<UINT>(buttons.size()) - 1);
+    const HWND box = CreateDialogFrom(BoxTemplate(text, caption, type, buttons), nullptr, owner, BoxProc,
+                                      buttons[defaultButton].id, true);
+    const INT_PTR result = box ? RunModal(box, owner) : 0;
+    for (HWND window : disabled)
+        if (Find(window))
+            EnableWindow(window, TRUE);
+    return static_cast<int>(result);
+}

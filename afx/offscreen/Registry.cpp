@@ -1,0 +1,140 @@
+// A registry that tests fill; it can be read only.
+
+#include "afx/offscreen/Internal.h"
+
+#include <cstring>
+#include <map>
+
+namespace offscreen
+{
+namespace
+{
+using Values = std::map<std::string, std::string>;
+
+struct RegistryState
+{
+    std::map<std::string, Values> keys; // By root and path, in lower case
+    HandleTable<std::string> open{6};   // The path of each open key
+};
+
+RegistryState& State()
+{
+    static auto* state = new RegistryState;
+    return *state;
+}
+
+bool IsRoot(HKEY key)
+{
+    return key == HKEY_CLASSES_ROOT || key == HKEY_CURRENT_USER || key == HKEY_LOCAL_MACHINE || key == HKEY_USERS;
+}
+
+std::string PathOf(HKEY key)
+{
+    if (IsRoot(key))
+        return std::to_string(reinterpret_cast<std::uintptr_t>(key) & 0xFF);
+    const std::string* path = State().open.Find(reinterpret_cast<std::uintptr_t>(key));
+    return path ? *path : std::string();
+}
+
+std::string Below(const std::string& path, LPCSTR subKey)
+{
+    return subKey && *subKey ? path + "\\" + LowerCase(subKey) : path;
+}
+
+// A key exists when it has values or another key below it has.
+bool Exists(const std::string& path)
+{
+    const auto it = State().keys.lower_bound(path);
+    return it != State().keys.end() && (it->first == path || it->first.starts_with(path + "\\"));
+}
+} // namespace
+
+void SetRegistryValue(HKEY root, const char* subKey, const char* name, const char* value)
+{
+    State().keys[Below(PathOf(root), subKey)][LowerCase(name ? name : "")] = value;
+}
+
+void ClearRegistry() { State().keys.clear(); }
+
+void ResetRegistry()
+{
+    RegistryState& state = State();
+    std::vector<std::string*> open;
+    state.open.ForEach([&](std::string& path) { open.push_back(&path); });
+    state = RegistryState{};
+    for (std::string* path : open)
+        delete path;
+}
+
+int CountKeys() { return State().open.Count(); }
+} // namespace offscreen
+
+using namespace offscreen;
+
+LSTATUS RegOpenKeyExA(HKEY key, LPCSTR subKey, DWORD, REGSAM, PHKEY result)
+{
+    Inside inside;
+    const std::string parent = PathOf(key);
+    if (parent.empty())
+        return ERROR_INVALID_HANDLE;
+    const std::string path = Below(parent, subKey);
+    if (!(IsRoot(key) && path == parent) && !Exists(path))
+        return ERROR_FILE_NOT_FOUND;
+    *result = reinterpret_cast<HKEY>(State().open.Add(new std::string(path)));
+    return ERROR_SUCCESS;
+}
+
+LSTATUS RegOpenKeyA(HKEY key, LPCSTR subKey, PHKEY result) { return RegOpenKeyExA(key, subKey, 0, KEY_READ, result); }
+
+LSTATUS RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD, LPDWORD type, LPBYTE data, LPDWORD size)
+{
+    Inside inside;
+    const std::string path = PathOf(key);
+    if (path.empty())
+        return ERROR_INVALID_HANDLE;
+    const auto values = State().keys.find(path);
+    if (values == State().keys.end())
+        return ERROR_FILE_NOT_FOUND;
+    const auto value = values->second.find(LowerCase(name ? name : ""));
+    if (value == values->second.end())
+        return ERROR_FILE_NOT_FOUND;
+    if (type)
+        *type = REG_SZ;
+    const auto needed = static_cast<DWORD>(value->second.size() + 1);
+    const DWORD room = size ? *size : 0;
+    if (size)
+        *size = needed;
+    if (!data)
+        return ERROR_SUCCESS;
+    if (room < needed)
+        return ERROR_MORE_DATA;
+    std::memcpy(data, value->second.c_str(), needed);
+    return ERROR_SUCCESS;
+}
+
+LSTATUS RegQueryValueA(HKEY key, LPCSTR subKey, LPSTR data, LONG* size)
+{
+    HKEY opened = nullptr;
+    LSTATUS status = RegOpenKeyExA(key, subKey, 0, KEY_READ, &opened);
+    if (status != ERROR_SUCCESS)
+        return status;
+    DWORD room = size ? static_cast<DWORD>(*size) : 0;
+    status = RegQueryValueExA(opened, nullptr, nullptr, nullptr, reinterpret_cast<LPBYTE>(data), &room);
+    if (size)
+        *size = static_cast<LONG>(room);
+    RegCloseKey(opened);
+    return status;
+}
+
+LSTATUS RegCloseKey(HKEY key)
+{
+    Inside inside;
+    if (IsRoot(key))
+        return ERROR_SUCCESS;
+    std::string* path = State().open.Find(reinterpret_cast<std::uintptr_t>(key));
+    if (!path)
+        return ERROR_INVALID_HANDLE;
+    State().open.Remove(reinterpret_cast<std::uintptr_t>(key));
+    delete path;
+    return ERROR_SUCCESS;
+}
