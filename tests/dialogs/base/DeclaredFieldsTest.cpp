@@ -1,0 +1,288 @@
+// What every dialog declares of its fields holds together. A new dialog is one more row of the table.
+#include "core/Values.h"
+#include "dialogs/pulse/Spd1Dlg.h"
+#include "tests/dialogs/base/FieldRecorder.h"
+#include "tests/resources/LanguageLibrary.h"
+#include "tests/support/Controller.h"
+#include "tests/support/DesktopTest.h"
+#include "tests/support/PrintTo.h"
+#include "tests/support/Results.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+
+namespace
+{
+
+enum ESources
+{
+    kEverywhere,
+    kLibrariesOnly ///< the module's own resources do not have the dialog
+};
+
+struct SDialogRow
+{
+    const char* name;
+    ESources sources;
+    std::unique_ptr<CWzdDlgBase> (*make)(CFunWizard* wizard);
+};
+
+template <typename TDialog, auto... arguments>
+std::unique_ptr<CWzdDlgBase> Make(CFunWizard* wizard)
+{
+    return std::make_unique<TDialog>(wizard, arguments..., nullptr);
+}
+
+const SDialogRow kDialogs[] = {
+    {"Spd1Trapezoidal", kEverywhere, Make<CSpd1Dlg, false>},
+    {"Spd1Home", kEverywhere, Make<CSpd1Dlg, true>},
+};
+
+std::ostream& operator<<(std::ostream& out, const SDialogRow& row) { return out << row.name; }
+
+class CDeclaredFieldsTest : public CDesktopTest, public testing::WithParamInterface<SDialogRow>
+{
+protected:
+    /// Opens the dialog in a language.
+    template <typename TLook>
+    int InDialog(int language, TLook look)
+    {
+        SCOPED_TRACE(testing::Message() << "language " << language);
+        CFunWizard wizard;
+        SetUpController(wizard);
+        if (language != kModule)
+            wizard.SetLanguageInfo(language);
+        return InDialog(wizard, look);
+    }
+    template <typename TLook>
+    int InDialog(CFunWizard& wizard, TLook look)
+    {
+        const auto dialog = GetParam().make(&wizard);
+        return Play([&] { return static_cast<int>(dialog->DoModal()); }, {[&](CDialogRobot& robot) {
+                        look(*dialog, robot);
+                        if (robot.IsOpen())
+                            robot.Click(IDCANCEL);
+                    }});
+    }
+
+    /// Looks at the fields in every state that the items of one combo lead to.
+    template <typename TLook>
+    void ForEachState(TLook look)
+    {
+        InDialog(kEnglish, [&](CWzdDlgBase& dialog, CDialogRobot&) {
+            look(dialog, RecordFields(dialog));
+            for (const SWzdFieldInfo& field : RecordFields(dialog))
+            {
+                for (size_t item = 0; item < field.choices.size(); ++item)
+                {
+                    SCOPED_TRACE(testing::Message() << "combo " << field.combo << ", item " << item);
+                    dialog.Select(field.combo, static_cast<int>(item));
+                    look(dialog, RecordFields(dialog));
+                }
+                if (!field.choices.empty())
+                    dialog.Select(field.combo, 0);
+            }
+        });
+    }
+
+    std::vector<int> Languages() const
+    {
+        std::vector<int> languages = BuiltLanguages();
+        if (GetParam().sources == kLibrariesOnly)
+            languages.erase(std::find(languages.begin(), languages.end(), kModule));
+        return languages;
+    }
+};
+
+int Length(LONGLONG number) { return FormatDecimal64(number).GetLength(); }
+
+bool IsNumber(const SWzdFieldInfo& field) { return field.edit != 0 && field.offset >= 0; }
+
+} // namespace
+
+TEST_P(CDeclaredFieldsTest, StandInTheTemplate)
+{
+    for (const int language : Languages())
+    {
+        InDialog(language, [&](CWzdDlgBase& dialog, CDialogRobot& robot) {
+            const auto fields = RecordFields(dialog);
+            EXPECT_FALSE(fields.empty());
+            std::map<UINT, CString> classes;
+            for (const SRobotControl& control : robot.Controls())
+                classes[control.id] = control.className;
+            for (const SWzdFieldInfo& field : fields)
+            {
+                if (field.combo != 0)
+                {
+                    EXPECT_EQ(classes[field.combo], "ComboBox") << field.combo;
+                }
+                if (field.edit != 0)
+                {
+                    EXPECT_EQ(classes[field.edit], "Edit") << field.edit;
+                }
+                if (field.rangeLabel != 0)
+                {
+                    EXPECT_EQ(classes[field.rangeLabel], "Static") << field.rangeLabel;
+                }
+            }
+        });
+    }
+}
+
+TEST_P(CDeclaredFieldsTest, HaveTheirTextsInEveryLanguage)
+{
+    ForEachState([&](CWzdDlgBase&, const std::vector<SWzdFieldInfo>& fields) {
+        for (const int language : Languages())
+        {
+            SCOPED_TRACE(testing::Message() << "language " << language);
+            const CLanguage scope(language);
+            for (const SWzdFieldInfo& field : fields)
+            {
+                EXPECT_EQ(field.message != 0, field.edit != 0) << "an edit has a message";
+                if (field.message != 0)
+                {
+                    EXPECT_TRUE(LoadText(field.message)) << "message " << field.message;
+                }
+                for (const SWzdChoice& choice : field.choices)
+                {
+                    const auto text = LoadText(choice.text);
+                    ASSERT_TRUE(text) << "item " << choice.text;
+                    EXPECT_FALSE(text->empty());
+                    if (choice.argument != SWzdChoice::kPlainText)
+                    {
+                        EXPECT_NE(text->find('%'), std::string::npos) << *text;
+                    }
+                }
+            }
+        }
+    });
+}
+
+TEST_P(CDeclaredFieldsTest, HaveControlsOfTheirOwn)
+{
+    ForEachState([](CWzdDlgBase&, const std::vector<SWzdFieldInfo>& fields) {
+        std::set<UINT> ids;
+        for (const SWzdFieldInfo& field : fields)
+            for (const UINT id : {field.combo, field.edit, field.rangeLabel})
+                if (id != 0)
+                {
+                    EXPECT_TRUE(ids.insert(id).second) << "control " << id << " belongs to two fields";
+                }
+    });
+}
+
+TEST_P(CDeclaredFieldsTest, HaveBitsOfTheirOwnThatHoldTheirCodes)
+{
+    ForEachState([](CWzdDlgBase&, const std::vector<SWzdFieldInfo>& fields) {
+        DWORD taken = 0;
+        for (const SWzdFieldInfo& field : fields)
+        {
+            std::set<DWORD> codes;
+            for (const SWzdChoice& choice : field.choices)
+                EXPECT_TRUE(codes.insert(choice.code).second) << "two items of " << field.combo << " share a code";
+            if (field.bits.width == 0)
+                continue;
+            EXPECT_FALSE(field.choices.empty());
+            ASSERT_GT(field.bits.width, 0);
+            ASSERT_GE(field.bits.shift, 0);
+            ASSERT_LE(field.bits.shift + field.bits.width, 32);
+            for (int bit = field.bits.shift; bit < field.bits.shift + field.bits.width; ++bit)
+            {
+                EXPECT_EQ(taken & 1u << bit, 0u) << "combo " << field.combo << " shares bit " << bit;
+                taken |= 1u << bit;
+            }
+            for (const SWzdChoice& choice : field.choices)
+                EXPECT_LT(static_cast<ULONGLONG>(choice.code), 1ull << field.bits.width) << "combo " << field.combo;
+        }
+    });
+}
+
+TEST_P(CDeclaredFieldsTest, CanBeEnteredToBothEndsOfTheirRanges)
+{
+    ForEachState([](CWzdDlgBase&, const std::vector<SWzdFieldInfo>& fields) {
+        for (const SWzdFieldInfo& field : fields)
+        {
+            if (!IsNumber(field))
+                continue;
+            EXPECT_LE(field.range.low, field.range.high) << "edit " << field.edit;
+            if (field.limit != 0)
+            {
+                EXPECT_LE(std::max(Length(field.range.low), Length(field.range.high)), field.limit)
+                    << "edit " << field.edit;
+            }
+        }
+    });
+}
+
+TEST_P(CDeclaredFieldsTest, HaveRegistersOfTheirOwnWithinTheTable)
+{
+    ForEachState([](CWzdDlgBase& dialog, const std::vector<SWzdFieldInfo>& fields) {
+        int lowest, highest, lowestStart, highestStart;
+        ASSERT_TRUE(dialog.Wizard().GetDevRange(-1, kDT, lowest, highest));
+        ASSERT_TRUE(dialog.GetDataTableRange(lowestStart, highestStart));
+        EXPECT_EQ(lowestStart, lowest);
+        const int words = highest - highestStart + 1;
+
+        std::set<int> taken;
+        for (const SWzdFieldInfo& field : fields)
+        {
+            if (field.offset < 0)
+                continue;
+            for (int word = field.offset; word < field.offset + Registers(field.type); ++word)
+            {
+                EXPECT_TRUE(taken.insert(word).second) << "two fields share word " << word;
+                EXPECT_LT(word, words);
+            }
+        }
+        EXPECT_EQ(static_cast<int>(taken.size()), words) << "words of the table that no field fills";
+    });
+}
+
+// Fills every edit and selects an item in every combo, and sees the same again after OK.
+TEST_P(CDeclaredFieldsTest, RestoreWhatTheyStored)
+{
+    CFunWizard wizard;
+    SetUpController(wizard);
+    const auto picture = [](CDialogRobot& robot) {
+        std::vector<CString> texts;
+        for (const SRobotControl& control : robot.Controls())
+            texts.push_back(control.text);
+        return texts;
+    };
+    for (int round = 0; round < 12; ++round)
+    {
+        SCOPED_TRACE(testing::Message() << "round " << round);
+        std::vector<CString> entered;
+        const int result = InDialog(wizard, [&](CWzdDlgBase& dialog, CDialogRobot& robot) {
+            for (const SWzdFieldInfo& field : RecordFields(dialog))
+                if (field.combo != 0)
+                    robot.Select(field.combo, round % static_cast<int>(robot.Items(field.combo).size()));
+            for (const SWzdFieldInfo& field : RecordFields(dialog)) // their ranges may depend on the combos
+            {
+                short kind, code;
+                int low, high;
+                if (IsNumber(field))
+                    robot.Type(field.edit, FormatDecimal64(round % 2 != 0 ? field.range.high : field.range.low));
+                else if (field.edit != 0 && dialog.GetSelectedDeviceRange(field.combo, kind, code, low, high))
+                    robot.Type(field.edit, FormatDeviceNumber(code, round % 2 != 0 ? high : low));
+                else if (field.edit != 0 && dialog.GetDataTableRange(low, high))
+                    robot.Type(field.edit, FormatDecimal64(round % 2 != 0 ? high : low));
+            }
+            entered = picture(robot);
+            robot.Click(IDOK);
+        });
+        ASSERT_EQ(result, 1);
+        const SResults results = ReadResults(wizard);
+        InDialog(wizard, [&](CWzdDlgBase&, CDialogRobot& robot) {
+            EXPECT_EQ(picture(robot), entered);
+            robot.Click(IDOK);
+        });
+        EXPECT_EQ(ReadResults(wizard), results);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Dialogs, CDeclaredFieldsTest, testing::ValuesIn(kDialogs),
+                         [](const auto& info) { return std::string(info.param.name); });
