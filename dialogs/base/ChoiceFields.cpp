@@ -155,6 +155,7 @@ public:
     {
         SWzdFieldInfo info;
         info.offset = 0;
+        info.type = m_type;
         return info;
     }
 

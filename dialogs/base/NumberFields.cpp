@@ -59,6 +59,7 @@ public:
         info.limit = m_limit;
         info.range = m_range;
         info.offset = m_entry.offset;
+        info.type = m_entry.type;
         return info;
     }
 
@@ -89,6 +90,7 @@ public:
     {
         SWzdFieldInfo info;
         info.offset = m_entry.offset;
+        info.type = m_entry.type;
         return info;
     }
 

@@ -61,7 +61,8 @@ struct SWzdFieldInfo
     SWzdRange range = {0, -1};
     SWzdBits bits = {0, 0};
     CWzdChoices choices;
-    int offset = -1; // in the data table
+    int offset = -1; // of its entry in the data table,
+    EDataType type = kOneRegister; // and what the entry takes
 };
 
 /// A field lives for the moment in which its dialog declares it; what it keeps between two such moments it keeps in the
