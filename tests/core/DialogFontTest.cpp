@@ -148,7 +148,7 @@ TEST(DialogFont, IsTheSameForTheDeviceOfAWindow)
 {
     CFunWizard wizard;
     const int height = Description(*wizard.CreateDlgFont(nullptr)).lfHeight;
-    CFont* font = wizard.CreateDlgFont(CWnd::GetDesktopWindow());
+    CFont* font = wizard.CreateDlgFont(CWnd::FromHandle(::GetDesktopWindow()));
     ASSERT_NE(font, nullptr);
     EXPECT_EQ(Description(*font).lfHeight, height);
 }

@@ -32,7 +32,7 @@ std::vector<SFunSetData> SomeData(int count)
     return data;
 }
 
-constexpr int kRounds = 6000;
+constexpr int kRounds = 10000;
 
 class InstCodeRandom : public ::testing::TestWithParam<EGenerator>
 {

@@ -6,6 +6,7 @@
 
 #include "core/Values.h"
 #include "tests/core/ValueModels.h"
+#include "tests/robust/CodePage.h"
 
 namespace
 {
@@ -28,6 +29,8 @@ void PrintTo(const SBroken& broken, std::ostream* out)
 class TakeFittingLineTest : public ::testing::Test
 {
 protected:
+    ~TakeFittingLineTest() override { UseCodePage(kCodePages[0]); }
+
     SBroken Take(int width, const std::string& text)
     {
         CString rest = text.c_str();
@@ -64,6 +67,8 @@ protected:
         if (Width(head) <= width)
             return {head, aside};
         const size_t taken = FittingBytes(width, head);
+        if (taken == head.size())
+            return {head, aside};
         return {head.substr(0, taken), head.substr(taken) + (cut != std::string::npos ? kBreak + aside : "")};
     }
 
@@ -86,7 +91,7 @@ protected:
         return prefix.size();
     }
 
-    CClientDC m_dc{CWnd::GetDesktopWindow()};
+    CClientDC m_dc{CWnd::FromHandle(::GetDesktopWindow())};
 };
 
 } // namespace
@@ -173,16 +178,20 @@ TEST_F(TakeFittingLineTest, AgreesWithTheModelAndLosesNothing)
 {
     values::CTextRandom random(21);
     const std::string alphabet = "abcdefgWil.,-()  \t\x81\x83\xA0\xE0\xFC";
-    for (int round = 0; round < 3000; ++round)
+    for (const unsigned codePage : kCodePages)
     {
-        std::string text = random.From(alphabet, random.Below(60));
-        if (random.Below(4) == 0)
-            text += kBreak + random.From(alphabet, 1 + random.Below(20));
-        const int width = static_cast<int>(random.Below(200)) - 5;
-        const SBroken broken = Take(width, text);
-        ASSERT_EQ(broken, Expected(width, text)) << "width " << width;
-        const std::string joined = broken.line + broken.rest;
-        ASSERT_TRUE(joined == text || broken.line + kBreak + broken.rest == text);
+        UseCodePage(codePage);
+        for (int round = 0; round < 1000; ++round)
+        {
+            std::string text = random.From(alphabet, random.Below(60));
+            if (random.Below(4) == 0)
+                text += kBreak + random.From(alphabet, 1 + random.Below(20));
+            const int width = static_cast<int>(random.Below(200)) - 5;
+            const SBroken broken = Take(width, text);
+            ASSERT_EQ(broken, Expected(width, text)) << "width " << width << ", code page " << codePage;
+            const std::string joined = broken.line + broken.rest;
+            ASSERT_TRUE(joined == text || broken.line + kBreak + broken.rest == text);
+        }
     }
 }
 
@@ -206,6 +215,7 @@ TEST_F(TakeFittingLineTest, ComesToAnEnd)
 
 TEST_F(TakeFittingLineTest, NeverSplitsADoubleByteCharacter)
 {
+    UseCodePage(932);
     if (!::IsDBCSLeadByte(0x83))
         GTEST_SKIP() << "code page " << ::GetACP() << " has no double-byte characters";
     const std::string wide = "\x83\x70\x83\x8B\x83\x58"; // three characters

@@ -100,6 +100,30 @@ TEST(ParseDecimal64, ReadsBackWhatIsWritten)
     }
 }
 
+TEST(ParseEntry64, StopsAtTheBoundsInsteadOfWrapping)
+{
+    const SDecimalCase cases[] = {
+        {" -12 ", 1, -12},
+        {"-", 1, 0},
+        {"9223372036854775807", 1, LLONG_MAX},
+        {"9223372036854775808", 1, LLONG_MAX},
+        {"18446744073709551616", 1, LLONG_MAX},
+        {"99999999999999999999999999", 1, LLONG_MAX},
+        {"-9223372036854775808", 1, LLONG_MIN},
+        {"-9223372036854775809", 1, LLONG_MIN},
+        {"-18446744073709551617", 1, LLONG_MIN},
+        {"", 0, 0},
+        {"1-2", 0, 0},
+        {"99999999999999999999x", 0, 0},
+    };
+    for (const SDecimalCase& c : cases)
+    {
+        BOOL ok = kUnwritten;
+        EXPECT_EQ(ParseEntry64(c.text, &ok), c.value) << c.text;
+        EXPECT_EQ(ok, c.ok) << c.text;
+    }
+}
+
 TEST(ParseHex32, ReadsEveryForm)
 {
     const SHexCase cases[] = {
@@ -211,6 +235,16 @@ TEST(ParseBitDeviceNumber, ReadsEveryForm)
         {
             EXPECT_EQ(number, c.number) << c.text;
         }
+    }
+}
+
+TEST(ParseBitDeviceNumber, StopsAtTheHighestNumber)
+{
+    for (const char* text : {"134217727F", "1342177280", "99999999999999999999F", "99999999999999999999"})
+    {
+        int number = 0;
+        EXPECT_EQ(ParseBitDeviceNumber(text, number), 1);
+        EXPECT_EQ(number, INT_MAX) << text;
     }
 }
 
