@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include "afx/System.h"
+#include "afx/afx.h"
+#include "tests/support/PrintTo.h"
+
+namespace
+{
+
+class ResourcesTest : public testing::Test
+{
+protected:
+    void TearDown() override { AfxSetResourceHandle(nullptr); }
+};
+
+TEST_F(ResourcesTest, TheModulesOwnAreInUseAtFirst)
+{
+    EXPECT_NE(AfxGetInstanceHandle(), nullptr);
+    EXPECT_EQ(AfxGetResourceHandle(), AfxGetInstanceHandle());
+}
+
+TEST_F(ResourcesTest, AnotherModulesAreInUseOnceItIsSet)
+{
+    const HINSTANCE other = reinterpret_cast<HINSTANCE>(this);
+    AfxSetResourceHandle(other);
+    EXPECT_EQ(AfxGetResourceHandle(), other);
+    EXPECT_EQ(AfxFindResourceHandle("any", reinterpret_cast<LPCSTR>(RT_DIALOG)), other);
+    EXPECT_NE(AfxGetInstanceHandle(), other);
+    AfxSetResourceHandle(nullptr);
+    EXPECT_EQ(AfxGetResourceHandle(), AfxGetInstanceHandle());
+}
+
+TEST_F(ResourcesTest, AStringThatIsNotThereIsEmpty)
+{
+    char text[8] = "before";
+    EXPECT_EQ(AfxLoadString(64999, text, sizeof text), 0);
+    EXPECT_STREQ(text, "");
+}
+
+TEST_F(ResourcesTest, ALibraryThatIsNotThereIsNotLoaded)
+{
+    EXPECT_EQ(AfxLoadLibrary("no such library.dll"), nullptr);
+    EXPECT_FALSE(AfxFreeLibrary(nullptr));
+}
+
+TEST_F(ResourcesTest, FoldersEndWithASeparator)
+{
+    for (HINSTANCE module : {AfxGetInstanceHandle(), static_cast<HINSTANCE>(nullptr)})
+    {
+        const CString folder = AfxGetModuleFolder(module);
+        ASSERT_FALSE(folder.IsEmpty());
+        EXPECT_GE(CString("\\/").Find(folder[folder.GetLength() - 1]), 0) << folder;
+    }
+}
+
+TEST_F(ResourcesTest, TheFolderOfAModuleThatIsNotLoadedIsUnknown)
+{
+    EXPECT_EQ(AfxGetModuleFolder(reinterpret_cast<HINSTANCE>(this)), "");
+}
+
+TEST_F(ResourcesTest, CharactersAreAtLeastAByteLong)
+{
+    EXPECT_EQ(AfxCharLength("a"), 1);
+    EXPECT_EQ(AfxCharLength("\x82"), 1); // half a character at the end of a text
+}
+
+} // namespace
