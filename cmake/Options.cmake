@@ -10,6 +10,8 @@ endif()
 
 if(PEXLO_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # A control is worked with as MFC programs do: the CWnd that GetDlgItem returns is cast to the class of the control.
+    add_compile_options(-fno-sanitize=vptr)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
