@@ -166,6 +166,12 @@ CString ItemText(HWND list, int index)
     return CString(text.data());
 }
 
+// As the Tab key moves it, so that the default button follows and an edit selects its text.
+void FocusControl(HWND control)
+{
+    SendMessageA(GetParent(control), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+}
+
 void ClickButton(HWND button)
 {
     Outside([&] { return SendMessageA(button, BM_CLICK, 0, 0); });
@@ -525,7 +531,7 @@ void CDialogRobot::Type(UINT id, LPCSTR text)
     if (edit == nullptr)
         return;
     Outside([&] {
-        SetFocus(edit);
+        FocusControl(edit);
         SendMessageA(edit, EM_SETSEL, 0, -1);
         SendMessageA(edit, WM_CLEAR, 0, 0);
     });
@@ -554,7 +560,7 @@ void CDialogRobot::Select(UINT id, int index)
         return;
     }
     Outside([&] {
-        SetFocus(list);
+        FocusControl(list);
         SendMessageA(list, messages.setSelection, static_cast<WPARAM>(index), 0);
     });
     if (messages.getCount == CB_GETCOUNT || (StyleOf(list) & LBS_NOTIFY) != 0)
@@ -604,7 +610,7 @@ void CDialogRobot::Focus(UINT id)
 {
     const CInside inside(true);
     if (HWND control = UsableControl(id))
-        Outside([&] { SetFocus(control); });
+        Outside([&] { FocusControl(control); });
 }
 
 void CDialogRobot::PressKey(UINT key, std::initializer_list<UINT> held)

@@ -5,8 +5,8 @@
 #include "host/Plc.h"
 #include "host/ResultText.h"
 
-#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace
 {
@@ -55,7 +55,12 @@ CHostDlg::CHostDlg() : CDialog(IDD_HOST, nullptr) {}
 BOOL CHostDlg::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    if (m_fixedFont.CreatePointFont(90, "Courier New"))
+    LOGFONT fixedPitch = {};
+    fixedPitch.lfHeight = 90; // tenths of a point
+    fixedPitch.lfCharSet = DEFAULT_CHARSET;
+    fixedPitch.lfPitchAndFamily = FIXED_PITCH; // where there is no such face, another one will do
+    std::strcpy(fixedPitch.lfFaceName, "Courier New");
+    if (m_fixedFont.CreatePointFontIndirect(&fixedPitch))
     {
         GetDlgItem(IDC_HOST_LADDER)->SetFont(&m_fixedFont);
         GetDlgItem(IDC_HOST_RESULTS)->SetFont(&m_fixedFont);

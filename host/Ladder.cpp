@@ -80,7 +80,8 @@ void CLadder::Add(const SFWzdInstCode& record)
         RungForOutput().outputs.push_back({{device}, true});
         break;
     case kFunction:
-        RungForOutput().outputs.push_back({{"F" + std::to_string(record.value), Mnemonic(record.value)}, false});
+        RungForOutput().outputs.push_back(
+            {{std::string("F") + std::to_string(record.value), Mnemonic(record.value)}, false});
         break;
     case kOperand:
         if (!m_rungs.empty() && !m_rungs.back().outputs.empty() && !m_rungs.back().outputs.back().isCoil)
@@ -90,7 +91,7 @@ void CLadder::Add(const SFWzdInstCode& record)
         }
         [[fallthrough]];
     default:
-        RungForContact().contacts.push_back("? " + std::to_string(record.kind) + " " + device + " ?");
+        RungForContact().contacts.push_back(std::string("? ") + std::to_string(record.kind) + " " + device + " ?");
     }
 }
 
@@ -118,7 +119,8 @@ std::string CLadder::Text() const
         std::string left = "|--";
         for (const std::string& contact : rung.contacts)
             left += contact + "--";
-        const std::string below = "|" + std::string(left.size() - 1, ' ');
+        std::string below(left.size(), ' ');
+        below.front() = '|';
 
         bool first = true;
         for (const SOutput& output : rung.outputs)

@@ -3,7 +3,9 @@
 //     LadderHost                                   opens the main window
 //     LadderHost --play session.json [--shots DIR] plays a recorded session and prints what came of it
 
+#include "afx/Console.h"
 #include "host/HostDlg.h"
+#include "host/HostName.h"
 #include "host/SessionPlayer.h"
 
 #include <CLI/CLI.hpp>
@@ -14,8 +16,6 @@
 
 namespace
 {
-constexpr const char* kName = "LadderHost";
-
 int PlaySession(const std::string& path, const std::string& shots)
 {
     try
@@ -27,7 +27,7 @@ int PlaySession(const std::string& path, const std::string& shots)
     }
     catch (const std::exception& error)
     {
-        std::cerr << kName << ": " << error.what() << '\n';
+        std::cerr << kHostName << ": " << error.what() << '\n';
         return 2;
     }
 }
@@ -35,14 +35,16 @@ int PlaySession(const std::string& path, const std::string& shots)
 
 int main(int argc, char** argv)
 {
-    CLI::App app("Enters PLC instructions with the wizard library.", kName);
+    CLI::App app("Enters PLC instructions with the wizard library.", kHostName);
     std::string session;
     std::string shots;
     CLI::Option* play = app.add_option("--play", session, "Play a recorded session and print the result lists");
     app.add_option("--shots", shots, "Save a picture of every dialog to this folder")->needs(play);
     CLI11_PARSE(app, argc, argv);
 
-    PexloDll_SetAppName(kName);
+    AfxSetBinaryOutput(); // reports have the same line ends everywhere
+    PexloDll_SetAppName(kHostName);
+    AfxSetResourceHandle(AfxGetProgramHandle());
     if (*play)
         return PlaySession(session, shots);
 

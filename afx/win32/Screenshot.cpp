@@ -76,7 +76,8 @@ bool CGdiPlus::SavePng(HBITMAP bitmap, const wchar_t* path) const
 // Windows are painted when nothing else is to be done; a dialog that is driven from inside never comes to that.
 void Paint(HWND window)
 {
-    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
+    ShowWindow(window, SW_SHOWNORMAL);
+    SetForegroundWindow(window);
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     MSG message;
     while (PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE))

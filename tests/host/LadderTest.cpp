@@ -19,7 +19,7 @@ TEST(LadderTest, NothingDrawsNothing) { EXPECT_EQ(Draw({}), ""); }
 
 TEST(LadderTest, DrawsAContactADifferentialAndAnInstruction)
 {
-    EXPECT_EQ(Draw({{2, 1, 266, 0, 0}, {17, -1, 0, 0, 0}, {8, -1, 168, 0, 0}, {-1, 9, 100, 0, 0}, {-1, 11, 1, 0, 0}}),
+    EXPECT_EQ(Draw({{2, 1, 170, 0, 0}, {17, -1, 0, 0, 0}, {8, -1, 168, 0, 0}, {-1, 9, 100, 0, 0}, {-1, 11, 1, 0, 0}}),
               "|--| R10A |--( DF )-----[ F168  SPD1  DT100  K1 ]--|\n");
 }
 
@@ -42,8 +42,13 @@ TEST(LadderTest, DrawsInstructionsOfOneRungBelowEachOther)
 
 TEST(LadderTest, BeginsARungAtAContactAfterAnOutput)
 {
-    EXPECT_EQ(Draw({{2, 1, 0, 0, 0}, {8, -1, 151, 0, 0}, {2, 1, 1, 0, 0}, {17, -1, 0, 0, 0}, {3, 2, 4, 0, 0}}),
-              "|--| R0 |-----[ F151   ]--|\n"
+    EXPECT_EQ(Draw({{2, 1, 0, 0, 0},
+                    {8, -1, 151, 0, 0},
+                    {-1, 11, 2, 0, 0},
+                    {2, 1, 1, 0, 0},
+                    {17, -1, 0, 0, 0},
+                    {3, 2, 4, 0, 0}}),
+              "|--| R0 |-----[ F151    K2 ]--|\n"
               "|--| R1 |--( DF )-----( Y4 )--|\n");
 }
 

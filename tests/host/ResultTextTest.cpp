@@ -11,7 +11,7 @@ TEST(ResultTextTest, NamesEmptyLists)
 TEST(ResultTextTest, WritesOneEntryALine)
 {
     CFunWizard wizard;
-    wizard.AddContInfo(2, 1, 266);
+    wizard.AddContInfo(2, 1, 170);
     wizard.AddContInfo(17, -1, 0);
     wizard.AddOprdInfo(9, 100);
     wizard.AddOprdInfo(-1, -1);

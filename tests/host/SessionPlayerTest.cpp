@@ -1,4 +1,5 @@
 #include "host/SessionPlayer.h"
+#include "host/HostName.h"
 
 #include "tests/support/DesktopTest.h"
 
@@ -27,6 +28,7 @@ struct SReport
 
 SReport Report(const SSession& session)
 {
+    PexloDll_SetAppName(kHostName);
     std::ostringstream report;
     const bool success = CSessionPlayer(report, "").Play(session);
     return {success, report.str()};

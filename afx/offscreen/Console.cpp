@@ -1,0 +1,3 @@
+#include "afx/Console.h"
+
+void AfxSetBinaryOutput() {} // it always does
