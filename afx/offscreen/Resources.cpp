@@ -11,9 +11,9 @@
 #include <cstdlib>
 #include <cstring>
 
-// The resources of the module itself, a PE image. A program that links none has none.
-extern "C" __attribute__((weak)) const unsigned char g_moduleImage[];
-extern "C" __attribute__((weak)) const unsigned char g_moduleImageEnd[];
+// The resources of the module itself, a PE image.
+extern "C" const unsigned char g_moduleImage[];
+extern "C" const unsigned char g_moduleImageEnd[];
 
 namespace offscreen
 {
@@ -56,9 +56,7 @@ ModuleState& State()
         auto* made = new ModuleState;
         made->own.handle = reinterpret_cast<HMODULE>(made->modules.Add(&made->own));
         made->own.path = ExecutablePath();
-        if (g_moduleImage)
-            made->own.image =
-                PeImage(g_moduleImage, static_cast<std::size_t>(g_moduleImageEnd - g_moduleImage));
+        made->own.image = PeImage(g_moduleImage, static_cast<std::size_t>(g_moduleImageEnd - g_moduleImage));
         return made;
     }();
     return *state;
