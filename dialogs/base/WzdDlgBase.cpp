@@ -218,7 +218,7 @@ void CWzdDlgBase::DisableAllButFirstAndBack()
             item->EnableWindow(FALSE);
     }
     if (CWnd* back = GetDlgItem(IDCANCEL))
-        back->SetFocus();
+        GotoDlgCtrl(back); // Enter presses it, too.
 }
 
 // ---- Contacts -------------------------------------------------------------------------------------------------------
@@ -366,8 +366,7 @@ bool CWzdDlgBase::Refuse(UINT edit, UINT message)
 {
     if (auto* item = static_cast<CEdit*>(GetDlgItem(edit)))
     {
-        item->SetSel(0, -1);
-        item->SendMessage(EM_SCROLLCARET);
+        item->SetSel(0, -1); // and scrolls it into view
         item->SetFocus();
     }
     ShowWarning(message);
