@@ -3,6 +3,8 @@
 #include "tests/dialogs/base/ProbeDlg.h"
 #include "tests/support/AllocationFaults.h"
 
+#include <optional>
+
 namespace
 {
 
@@ -208,15 +210,21 @@ TEST_F(CExchangeTest, CancelsWhenMemoryDoesNotSufficeToOpen)
     int failing = 0;
     for (int failures = 1; failures > 0; ++failing)
     {
-        CAllocationFaults faults(failing);
+        std::optional<CAllocationFaults> faults;
         bool opened = false;
-        const int result = m_robot.Play([&] { return static_cast<int>(m_probe.DoModal()); }, {[&](CDialogRobot& robot) {
-                                            faults.Pause();
-                                            opened = true;
-                                            robot.Click(IDCANCEL);
-                                        }});
-        faults.Pause();
-        failures = faults.Failures();
+        const int result = m_robot.Play(
+            [&] {
+                faults.emplace(failing);
+                const int closed = static_cast<int>(m_probe.DoModal());
+                faults->Pause();
+                return closed;
+            },
+            {[&](CDialogRobot& robot) {
+                faults->Pause();
+                opened = true;
+                robot.Click(IDCANCEL);
+            }});
+        failures = faults->Failures();
         EXPECT_TRUE(result == 2 || result == -1) << failing;
         EXPECT_EQ(ReadResults(m_wizard), ResultsBefore()) << failing;
         if (!opened && failures > 0)

@@ -4,6 +4,8 @@
 
 #include "dialogs/base/PosSelectDlg.h"
 
+#include <optional>
+
 namespace
 {
 
@@ -87,7 +89,11 @@ TEST_F(CPosSelectActionsTest, TakesADoubleClickEnterAndEscape)
     EXPECT_TRUE(m_instructions.GetChoice() == (SWizardChoice{170, 0}));
     EXPECT_EQ(choose([](CDialogRobot& robot) { robot.PressKey(VK_ESCAPE); }), 2);
     EXPECT_EQ(choose([](CDialogRobot& robot) { robot.Click(IDCANCEL); }), 2);
-    EXPECT_EQ(choose([](CDialogRobot& robot) { robot.Dialog()->SendMessage(WM_CLOSE); }), 2);
+    EXPECT_EQ(choose([](CDialogRobot& robot) {
+                  robot.Dialog()->PostMessage(WM_CLOSE);
+                  robot.Pump();
+              }),
+              2);
     EXPECT_TRUE(m_instructions.GetChoice() == SWizardChoice{});
 }
 
@@ -184,16 +190,21 @@ TEST_F(CPosSelectActionsTest, IsCancelledWhenMemoryDoesNotSufficeToOpenIt)
         int failing = 0;
         for (int failures = 1; failures > 0; ++failing)
         {
-            CAllocationFaults faults(failing);
+            std::optional<CAllocationFaults> faults;
             bool opened = false;
-            const int result =
-                m_robot.Play([&] { return static_cast<int>(dialog->DoModal()); }, {[&](CDialogRobot& robot) {
-                                 faults.Pause();
-                                 opened = true;
-                                 robot.Click(IDCANCEL);
-                             }});
-            faults.Pause();
-            failures = faults.Failures();
+            const int result = m_robot.Play(
+                [&] {
+                    faults.emplace(failing);
+                    const int closed = static_cast<int>(dialog->DoModal());
+                    faults->Pause();
+                    return closed;
+                },
+                {[&](CDialogRobot& robot) {
+                    faults->Pause();
+                    opened = true;
+                    robot.Click(IDCANCEL);
+                }});
+            failures = faults->Failures();
             EXPECT_TRUE(result == 2 || result == -1) << failing;
             if (!opened && failures > 0)
                 m_robot.ClearFailures(); // that its scene was not played
