@@ -189,7 +189,8 @@ TEST(WithoutMemory, SupportedInstructionsAreNotHalfRegistered)
 TEST(WithoutMemory, NamesLetNoExceptionOut)
 {
     CFunWizard wizard;
-    const std::string longText(1000000, 'h'); // longer than any name before, whose storage may still be there
+    static size_t length = 1000000; // longer than any name before, whose storage may still be there
+    const std::string longText(length += 100000, 'h');
     const std::function<void()> operations[] = {
         [&] { wizard.SetHelpPath(longText.c_str()); },
         [&] { wizard.SetAppName(longText.c_str()); },

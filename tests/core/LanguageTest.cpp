@@ -43,11 +43,14 @@ CString LoadText(UINT id)
     return text;
 }
 
+// Of this process only: the tests of several builds may run at the same time.
+fs::path DecoyPath() { return fs::temp_directory_path() / ("pexlo-decoys-" + std::to_string(::GetCurrentProcessId())); }
+
 /// A current folder of its own, full of libraries under the languages' names.
 class CDecoyFolder
 {
 public:
-    CDecoyFolder() : m_before(fs::current_path()), m_folder(fs::temp_directory_path() / "pexlo-decoys")
+    CDecoyFolder() : m_before(fs::current_path()), m_folder(DecoyPath())
     {
         fs::create_directories(m_folder);
         for (const SLanguage& language : kLanguages)
