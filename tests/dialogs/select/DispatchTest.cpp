@@ -216,58 +216,6 @@ TEST_F(CDispatchTest, LeadsBackWhenTheTemplateIsMissing)
     ExpectLastWizard(0, -1, 0);
 }
 
-TEST_F(CDispatchTest, LeadsBackFromWhatAFamilyDoesNotHave)
-{
-    m_wizard.SetLanguageInfo(kEnglish);
-    m_wizard.SetPlcType(kPlcFamilyC); // lists the items of family A, and has no dialog for some of them
-    const int itemsWithoutDialog[] = {0, 1, 2, 3, 10}; // 168 in both forms, 169, 170, 176
-    for (const int item : itemsWithoutDialog)
-        EXPECT_EQ(Open(0, {Choose(item),
-                           [&](CDialogRobot& robot) {
-                               EXPECT_EQ(robot.Caption(), "Positioning processing selection");
-                               EXPECT_EQ(robot.Selection(kList), item);
-                               robot.Click(IDCANCEL);
-                           }}),
-                  2)
-            << item;
-}
-
-// Each item opens the dialog of its caption or, where there is no dialog, leads to the selection again.
-TEST_F(CDispatchTest, OpensTheDialogOfEachItem)
-{
-    struct SMode
-    {
-        int mode;
-        std::vector<const char*> captions;
-    };
-    const SMode modes[] = {
-        {0,
-         {"F168 (SPD1)", "F168 (SPD1)", "F169 (PLS)", "F170 (PWM)", "F171 (SPDH)", "F171 (SPDH)", "F172 (PLSH)",
-          "F173 (PWMH)", "F174 (SP0H)", "F175 (SPSH)", "F176 (SPCH)"}},
-        {1,
-         {"E point control", "P point control start point", "P point control  Passing point",
-          "JOG operation With no speed change", "JOG operation Those with a speed change", "JOG positioning operation",
-          "Home position return", "Pulsar input operation"}},
-    };
-    for (const SMode& mode : modes)
-        for (int item = 0; item < static_cast<int>(mode.captions.size()); ++item)
-        {
-            SCOPED_TRACE(mode.captions[item]);
-            Open(mode.mode, {Choose(item),
-                             [&](CDialogRobot& robot) {
-                                 if (robot.Exists(kList))
-                                     return robot.Click(IDOK); // the selection again, and once more
-                                 EXPECT_EQ(robot.Caption(), mode.captions[item]);
-                                 robot.Click(IDCANCEL);
-                             },
-                             [&](CDialogRobot& robot) {
-                                 EXPECT_EQ(robot.Caption(), "Positioning processing selection");
-                                 EXPECT_EQ(robot.Selection(kList), item);
-                                 robot.Click(IDCANCEL);
-                             }});
-        }
-}
-
 // ---- Axis flag, font, parent ----------------------------------------------------------------------------------------
 
 TEST_F(CDispatchTest, StoresTheAxisFlagBeforeTheDialog)
