@@ -189,24 +189,20 @@ TEST(WithoutMemory, SupportedInstructionsAreNotHalfRegistered)
 TEST(WithoutMemory, NamesLetNoExceptionOut)
 {
     CFunWizard wizard;
-    static size_t length = 1000000; // longer than any name before, whose storage may still be there
-    const std::string longText(length += 100000, 'h');
-    const std::function<void()> operations[] = {
-        [&] { wizard.SetHelpPath(longText.c_str()); },
-        [&] { wizard.SetAppName(longText.c_str()); },
-        [&] { PexloDll_SetAppName(longText.c_str()); },
-    };
-    for (const auto& operation : operations)
-    {
-        const int failures = WithEveryAllocationFailing(
+    const std::string longText(1000000, 'h');
+    const auto failuresOf = [](const std::function<void()>& operation) {
+        return WithEveryAllocationFailing(
             [&] {
                 EXPECT_NO_THROW(operation());
                 return 0;
             },
             [](int) {});
-        EXPECT_GT(failures, 0);
-    }
+    };
+    EXPECT_GT(failuresOf([&] { wizard.SetHelpPath(longText.c_str()); }), 0);
+    EXPECT_GT(failuresOf([&] { wizard.SetAppName(longText.c_str()); }), 0);
     EXPECT_STREQ(wizard.GetHelpPath(), longText.c_str());
+    failuresOf([&] { PexloDll_SetAppName(longText.c_str()); }); // none when the storage of a longer name is still there
+    EXPECT_STREQ(GetAppName(), longText.c_str());
     PexloDll_SetAppName("");
 }
 
