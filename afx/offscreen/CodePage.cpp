@@ -185,7 +185,7 @@ int CopyText(std::string_view text, LPSTR target, std::size_t size)
     if (!target || size == 0)
         return 0;
     const std::size_t copied = std::min(text.size(), size - 1);
-    std::memcpy(target, text.data(), copied);
+    text.copy(target, copied);
     target[copied] = 0;
     return static_cast<int>(copied);
 }
