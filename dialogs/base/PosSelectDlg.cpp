@@ -69,6 +69,7 @@ BEGIN_MESSAGE_MAP(CPosSelectDlg, CDialog)
 ON_LBN_SELCHANGE(IDC_SELECT_LIST, &CPosSelectDlg::OnSelectionChanged)
 ON_LBN_DBLCLK(IDC_SELECT_LIST, &CPosSelectDlg::OnOK)
 ON_BN_CLICKED(IDC_HELP_TOPIC, &CPosSelectDlg::OnHelpTopic)
+ON_WM_HELPINFO()
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
@@ -215,8 +216,16 @@ void CPosSelectDlg::OnSelectionChanged() { ShowExplanation(); }
 
 void CPosSelectDlg::OnHelpTopic()
 {
-    AfxHtmlHelp(m_wizard->GetHelpPath(),
-                m_mode == kPulseInstructions ? HELP_TOPIC_INSTRUCTIONS : HELP_TOPIC_UNIT_OPERATIONS);
+    const CString path = m_wizard->GetHelpPath();
+    if (!path.IsEmpty())
+        AfxHtmlHelp(path, m_mode == kPulseInstructions ? HELP_TOPIC_INSTRUCTIONS : HELP_TOPIC_UNIT_OPERATIONS);
+}
+
+// F1 does what the button does.
+BOOL CPosSelectDlg::OnHelpInfo(HELPINFO*)
+{
+    OnHelpTopic();
+    return TRUE;
 }
 
 void CPosSelectDlg::OnOK()

@@ -23,6 +23,7 @@ protected:
     void OnOK() override;
     void OnSelectionChanged();
     void OnHelpTopic();
+    BOOL OnHelpInfo(HELPINFO* info);
     HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
 
     DECLARE_MESSAGE_MAP()
