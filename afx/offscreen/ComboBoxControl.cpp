@@ -297,13 +297,13 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
     case CB_SETITEMHEIGHT:
         if (start == -1)
         {
-            state.fieldHeight = static_cast<int>(lParam) + 2 * kPadding;
+            state.fieldHeight = static_cast<int>(lParam);
             AdjustHeight(combo);
         }
         else
             state.itemHeight = static_cast<int>(lParam);
         return CB_OKAY;
-    case CB_GETITEMHEIGHT: return start == -1 ? state.fieldHeight - 2 * kPadding : state.itemHeight;
+    case CB_GETITEMHEIGHT: return start == -1 ? state.fieldHeight : state.itemHeight;
     case CB_SETEXTENDEDUI: state.extended = wParam != 0; return CB_OKAY;
     case CB_GETEXTENDEDUI: return state.extended;
     case CB_SETDROPPEDWIDTH: state.dropWidth = start; [[fallthrough]];

@@ -187,7 +187,7 @@ void SetSelection(Window& edit, int start, int end)
     state.typing = false;
     if (start == -1)
     {
-        state.anchor = state.caret = state.End();
+        state.anchor = state.caret;
     }
     else
     {

@@ -352,7 +352,6 @@ LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lP
     case WM_SETFONT:
         list.font = reinterpret_cast<HFONT>(wParam);
         SetItemHeight(list);
-        AdjustHeight(list);
         if (lParam)
             Invalidate(list);
         return 0;
@@ -370,11 +369,11 @@ LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lP
     }
     case WM_SETFOCUS:
         Invalidate(list);
-        Notify(list, LBN_SETFOCUS);
+        NotifyParent(list, LBN_SETFOCUS); // Without LBS_NOTIFY too
         return 0;
     case WM_KILLFOCUS:
         Invalidate(list);
-        Notify(list, LBN_KILLFOCUS);
+        NotifyParent(list, LBN_KILLFOCUS);
         return 0;
     case WM_ENABLE: Invalidate(list); return 0;
     case WM_KEYDOWN: return HandleKey(list, wParam);
