@@ -88,13 +88,17 @@ INT_PTR CPosSelectDlg::DoModal()
 BOOL CPosSelectDlg::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    m_wizard->SetDlgFont(this, 0, nullptr);
-    bool filled = false;
-    if (!WithMemory([&] { filled = FillList(); }) || !filled)
-    {
+    bool opened = false;
+    if (!WithMemory([&] { opened = Open(); }) || !opened)
         EndDialog(IDCANCEL);
-        return TRUE;
-    }
+    return TRUE;
+}
+
+bool CPosSelectDlg::Open()
+{
+    m_wizard->SetDlgFont(this, 0, nullptr);
+    if (!FillList())
+        return false;
     ShowExplanation();
     CheckDlgButton(IDC_REGISTER_COMMENTS, m_wizard->IsCmtRec() ? BST_CHECKED : BST_UNCHECKED);
     CWnd* help = GetDlgItem(IDC_HELP_TOPIC);
@@ -103,7 +107,7 @@ BOOL CPosSelectDlg::OnInitDialog()
         help->EnableWindow(FALSE);
         help->ShowWindow(SW_HIDE);
     }
-    return TRUE;
+    return true;
 }
 
 // ---- The list -------------------------------------------------------------------------------------------------------

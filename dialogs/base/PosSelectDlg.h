@@ -29,6 +29,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    [[nodiscard]] bool Open();
     [[nodiscard]] bool FillList();
     void SetTabStops();
     void ShowExplanation();

@@ -243,7 +243,8 @@ bool CWzdDlgBase::FillContactCombo(int comboId, int contactIndex)
             break;
         if (found > 0)
             continue;
-        const int item = list->AddString(FormatDeviceName(code));
+        const CString name = FormatDeviceName(code);
+        const int item = name.IsEmpty() ? CB_ERR : list->AddString(name);
         if (item < 0 || list->SetItemData(item, MAKELONG(code, kind)) < 0)
             return false;
         if (code == wanted)
