@@ -103,6 +103,26 @@ TEST(FunWizard, CarriesRunTimeClassInformation)
     EXPECT_FALSE(wizard.IsKindOf(RUNTIME_CLASS(CWnd)));
 }
 
+TEST(FunWizard, KeepsItsFieldsInOrder)
+{
+    constexpr bool isPacked = sizeof(void*) == 4; // only 32-bit hosts know the layout
+    CFunWizard wizard;
+    size_t end = sizeof(void*);
+    for (const auto& field : SFunWizardTest::Fields(wizard))
+    {
+        EXPECT_GE(field.offset, end);
+        if (isPacked)
+        {
+            EXPECT_EQ(field.offset, end) << "a gap";
+        }
+        end = field.offset + field.size;
+    }
+    if (isPacked)
+    {
+        EXPECT_EQ(sizeof wizard, end);
+    }
+}
+
 TEST(FunWizard, IsDestroyedThroughItsBase)
 {
     static_assert(std::has_virtual_destructor<CFunWizard>::value, "hosts delete it through CObject");

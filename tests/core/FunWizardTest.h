@@ -34,6 +34,30 @@ struct SFunWizardTest
     static CString AppName(const CFunWizard& wizard) { return wizard.m_appName; }
     static CFont* DialogFont(const CFunWizard& wizard) { return wizard.m_dialogFont; }
     static int RangeCount(const CFunWizard& wizard) { return static_cast<int>(wizard.m_deviceRanges.GetCount()); }
+
+    struct SField
+    {
+        size_t offset;
+        size_t size;
+    };
+
+    /// Where the fields stand, in the order in which hosts expect them.
+    static std::vector<SField> Fields(const CFunWizard& wizard)
+    {
+        const auto at = [&wizard](const auto& field) {
+            const char* start = reinterpret_cast<const char*>(&wizard);
+            return SField{static_cast<size_t>(reinterpret_cast<const char*>(&field) - start), sizeof field};
+        };
+        return {at(wizard.m_library),       at(wizard.m_appName),       at(wizard.m_helpPath),
+                at(wizard.m_dialogFont),    at(wizard.m_dialogData),    at(wizard.m_deviceRanges),
+                at(wizard.m_unitMode),      at(wizard.m_axisType),      at(wizard.m_lastInstruction),
+                at(wizard.m_lastVariant),   at(wizard.m_channels),      at(wizard.m_maxSlot),
+                at(wizard.m_supported),     at(wizard.m_contacts),      at(wizard.m_operands),
+                at(wizard.m_data),          at(wizard.m_instructions),  at(wizard.m_comments),
+                at(wizard.m_onlyDataTable), at(wizard.m_commentRecord), at(wizard.m_startType),
+                at(wizard.m_plcType),       at(wizard.m_options)};
+    }
+
     static int SupportedCount(const CFunWizard& wizard) { return static_cast<int>(wizard.m_supported.GetSize()); }
 };
 
