@@ -103,9 +103,9 @@ int CFunWizard::EntrySupportFunInfo(int instruction)
         index++;
     if (GetSupportFunNum(index) < 0)
         return 1;
-    if (!FindSupportFun(instruction))
-        (void)WithMemory([=, this] { m_supported.Add(instruction); });
-    return 0;
+    if (FindSupportFun(instruction))
+        return 0;
+    return !WithMemory([=, this] { m_supported.Add(instruction); });
 }
 
 int CFunWizard::FindSupportFun(int instruction) const

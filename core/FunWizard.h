@@ -127,7 +127,7 @@ public:
     void SetAppName(const char* name);
 
     /// Registers one of the instructions 168..177 for the selection list. Note the inverted result: 0 = added or
-    /// already there, 1 = not an instruction of the list.
+    /// already there, 1 = not an instruction of the list, or no memory for it.
     int EntrySupportFunInfo(int instruction);
     int FindSupportFun(int instruction) const;
     /// The instruction at index 0..9 of those that can be registered; -1 for any other index.

@@ -214,7 +214,7 @@ BOOL ParseDeviceNumber(short code, LPCSTR text, int& number)
     else if (code == kDeviceReal)
     {
         DWORD packed = 0;
-        ok = ParsePackedReal(Trimmed(text), packed, 1, -1);
+        ok = ParsePackedReal(Trimmed(text), packed, 0, -1);
         value = static_cast<int>(packed);
     }
     else

@@ -62,3 +62,24 @@ TEST_F(CSelectionHelpTest, OpensTheTopicOfTheMode)
         });
     }
 }
+
+TEST_F(CSelectionHelpTest, F1OpensTheSameTopic)
+{
+    m_wizard.SetHelpPath("C:\\tool\\help.chm");
+    Look(1, [](CDialogRobot& robot) {
+        g_calls.clear();
+        robot.PressKey(VK_F1);
+        ASSERT_EQ(g_calls.size(), 1u);
+        EXPECT_EQ(g_calls[0].topic, 5552u);
+    });
+}
+
+TEST_F(CSelectionHelpTest, F1DoesNothingWithoutHelp)
+{
+    Look(0, [](CDialogRobot& robot) {
+        g_calls.clear();
+        robot.PressKey(VK_F1);
+        EXPECT_TRUE(g_calls.empty());
+        EXPECT_TRUE(robot.IsOpen());
+    });
+}
