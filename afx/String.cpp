@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstdio>
+#include <string_view>
 #include <utility>
 
 namespace
@@ -14,6 +15,10 @@ namespace
 constexpr char kWhiteSpace[] = " \t\n\v\f\r";
 
 int Length(LPCSTR text) { return text ? static_cast<int>(std::strlen(text)) : 0; }
+
+std::string_view View(const CString& text) { return {text, static_cast<size_t>(text.GetLength())}; }
+
+int Index(size_t found) { return found == std::string_view::npos ? -1 : static_cast<int>(found); }
 
 char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -148,37 +153,13 @@ CString CString::Right(int count) const
     return Mid(GetLength() - count, count);
 }
 
-int CString::Find(char c, int start) const
-{
-    if (start < 0 || start >= GetLength())
-        return -1;
-    const char* found = static_cast<const char*>(std::memchr(m_pchData + start, c, GetLength() - start));
-    return found ? static_cast<int>(found - m_pchData) : -1;
-}
+int CString::Find(char c, int start) const { return start < 0 ? -1 : Index(View(*this).find(c, start)); }
 
-int CString::Find(LPCSTR text, int start) const
-{
-    if (start < 0 || start > GetLength())
-        return -1;
-    const LPCSTR mine = *this;
-    const char* found = std::strstr(mine + start, text);
-    return found ? static_cast<int>(found - mine) : -1;
-}
+int CString::Find(LPCSTR text, int start) const { return start < 0 ? -1 : Index(View(*this).find(text, start)); }
 
-int CString::ReverseFind(char c) const
-{
-    int index = GetLength() - 1;
-    while (index >= 0 && m_pchData[index] != c)
-        --index;
-    return index;
-}
+int CString::ReverseFind(char c) const { return Index(View(*this).rfind(c)); }
 
-int CString::FindOneOf(LPCSTR characters) const
-{
-    const LPCSTR mine = *this;
-    const char* found = std::strpbrk(mine, characters);
-    return found ? static_cast<int>(found - mine) : -1;
-}
+int CString::FindOneOf(LPCSTR characters) const { return Index(View(*this).find_first_of(characters)); }
 
 void CString::TrimLeft()
 {

@@ -335,12 +335,10 @@ BOOL EndDialog(HWND dialog, INT_PTR result)
     state->ended = true;
 
     const HWND owner = window->owner;
-    if (owner && state->enableOwner)
-    {
-        state->enableOwner = false;
-        if (Find(owner))
-            EnableWindow(owner, TRUE);
-    }
+    // Whoever disabled it: a modal loop of the program's own does not enable it before the dialog is hidden.
+    state->enableOwner = false;
+    if (owner && Find(owner))
+        EnableWindow(owner, TRUE);
     if (!Find(dialog))
         return TRUE;
     // The focus must not stay with a control of a window that is about to disappear.

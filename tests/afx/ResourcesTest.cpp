@@ -37,6 +37,34 @@ TEST_F(ResourcesTest, AStringThatIsNotThereIsEmpty)
     EXPECT_STREQ(text, "");
 }
 
+TEST_F(ResourcesTest, StringsOfAnyLengthAreLoaded)
+{
+    const HINSTANCE library = AfxLoadLibrary(AfxGetModuleFolder(nullptr) + "LongTexts.DLL");
+    ASSERT_NE(library, nullptr);
+    AfxSetResourceHandle(library);
+    CString text;
+    for (UINT length : {10, 253, 254, 255, 256, 257, 510, 511, 512, 4000})
+    {
+        EXPECT_TRUE(text.LoadString(length));
+        EXPECT_EQ(text.GetLength(), static_cast<int>(length));
+        EXPECT_EQ(text.Right(2).Left(1), CString(static_cast<char>('0' + (length - 2) % 10))) << length;
+    }
+    EXPECT_FALSE(text.LoadString(11)); // in the block of a string that is there
+    EXPECT_EQ(text, "");
+    AfxFreeLibrary(library);
+}
+
+TEST_F(ResourcesTest, AStringIsCutToItsBuffer)
+{
+    const HINSTANCE library = AfxLoadLibrary(AfxGetModuleFolder(nullptr) + "LongTexts.DLL");
+    ASSERT_NE(library, nullptr);
+    AfxSetResourceHandle(library);
+    char text[6];
+    EXPECT_EQ(AfxLoadString(10, text, sizeof text), 5);
+    EXPECT_STREQ(text, "01234");
+    AfxFreeLibrary(library);
+}
+
 TEST_F(ResourcesTest, ALibraryThatIsNotThereIsNotLoaded)
 {
     EXPECT_EQ(AfxLoadLibrary("no such library.dll"), nullptr);
