@@ -1,4 +1,5 @@
 // The list of contact devices, the range of the selected one, and the JOG direction.
+#include "core/ResourceScope.h"
 #include "resources/resource.h"
 #include "tests/dialogs/base/ProbeDlg.h"
 
@@ -71,6 +72,19 @@ TEST_F(CContactComboTest, IsEmptyWithoutBitDevices)
         EXPECT_EQ(robot.Selection(2051), -1);
         EXPECT_FALSE(m_probe.FillContactCombo(IDC_PROBE_NOTHING, 0));
     });
+}
+
+TEST_F(CContactComboTest, IsNotFilledWithDevicesThatHaveNoName)
+{
+    SetDeviceRange(m_wizard, kR, 0, 15);
+    const HINSTANCE nameless = AfxLoadLibrary(AfxGetModuleFolder(nullptr) + "SelectionOnly.DLL");
+    ASSERT_NE(nameless, nullptr);
+    InProbe([&](CDialogRobot& robot) {
+        const CResourceScope scope(nameless);
+        EXPECT_FALSE(m_probe.FillContactCombo(2051, 0));
+        EXPECT_EQ(robot.Items(2051), Texts({}));
+    });
+    AfxFreeLibrary(nameless);
 }
 
 TEST_F(CContactComboTest, SelectsTheDeviceOfTheContact)
