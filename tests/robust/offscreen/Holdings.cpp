@@ -1,0 +1,27 @@
+#include "tests/robust/Holdings.h"
+
+#include "afx/offscreen/Desktop.h"
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/allocator_interface.h>
+#else
+#include <malloc.h>
+#endif
+
+Holdings CurrentHoldings()
+{
+    const offscreen::Counts live = offscreen::Live();
+    return {{"windows", live.windows}, {"fonts", live.fonts},       {"brushes", live.brushes},
+            {"pens", live.pens},       {"bitmaps", live.bitmaps},   {"device contexts", live.dcs},
+            {"menus", live.menus},     {"libraries", live.modules}, {"timers", live.timers},
+            {"hooks", live.hooks},     {"globals", live.globals},   {"registry keys", live.keys}};
+}
+
+size_t AllocatedBytes()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return __sanitizer_get_current_allocated_bytes();
+#else
+    return mallinfo2().uordblks;
+#endif
+}
