@@ -118,8 +118,14 @@ void ScrollToCaret(Window& edit)
     }
     if (state.caret < state.scrolled)
         state.scrolled = state.caret;
-    while (state.scrolled < state.caret && WidthBetween(edit, state.scrolled, state.caret) > FormatWidth(edit))
-        state.scrolled += CharacterLength(edit.text, static_cast<std::size_t>(state.scrolled));
+    // Measured once as a whole: texts can be a mebibyte long.
+    int width = WidthBetween(edit, state.scrolled, state.caret);
+    while (state.scrolled < state.caret && width > FormatWidth(edit))
+    {
+        const int next = state.scrolled + CharacterLength(edit.text, static_cast<std::size_t>(state.scrolled));
+        width -= WidthBetween(edit, state.scrolled, next);
+        state.scrolled = next;
+    }
 }
 
 POINT PositionOf(Window& edit, int index)
