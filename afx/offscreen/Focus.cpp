@@ -85,18 +85,16 @@ bool Activate(HWND window, bool byMouse, bool moveFocus)
     return input.active == window;
 }
 
-// Activates the window that takes over when `instead` disappears: its owner, else the topmost one that can be active.
+// Activates the window that takes over when `instead` disappears: its owner, else the topmost one that can be active,
+// else a hidden owner, such as a dialog that has not come to show itself yet.
 void ActivateAnother(HWND instead)
 {
     const Window* leaving = Find(instead);
-    if (leaving && (leaving->style & WS_POPUP) && leaving->owner)
+    const Window* owner = leaving && (leaving->style & WS_POPUP) ? RootOf(Find(leaving->owner)) : nullptr;
+    if (owner && CanBeActivated(*owner))
     {
-        const Window* owner = RootOf(Find(leaving->owner));
-        if (owner && CanBeActivated(*owner))
-        {
-            Activate(owner->handle, false, true);
-            return;
-        }
+        Activate(owner->handle, false, true);
+        return;
     }
     for (const Window* window = DesktopWindow().firstChild; window; window = window->next)
         if (window->handle != instead && CanBeActivated(*window))
@@ -104,7 +102,8 @@ void ActivateAnother(HWND instead)
             Activate(window->handle, false, true);
             return;
         }
-    Activate(nullptr, false, true);
+    const bool ownerIsReady = owner && !(owner->style & WS_DISABLED) && !owner->dying;
+    Activate(ownerIsReady ? owner->handle : nullptr, false, true);
 }
 } // namespace offscreen
 

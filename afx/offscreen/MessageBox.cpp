@@ -79,18 +79,6 @@ Template BoxTemplate(LPCSTR text, LPCSTR caption, UINT type, const std::vector<B
     return box;
 }
 
-LPCSTR IconOf(UINT type)
-{
-    switch (type & MB_ICONMASK)
-    {
-    case MB_ICONHAND: return IDI_HAND;
-    case MB_ICONQUESTION: return IDI_QUESTION;
-    case MB_ICONEXCLAMATION: return IDI_EXCLAMATION;
-    case MB_ICONASTERISK: return IDI_ASTERISK;
-    default: return nullptr;
-    }
-}
-
 bool HasButton(HWND box, int id) { return GetDlgItem(box, id) != nullptr; }
 
 INT_PTR CALLBACK BoxProc(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
@@ -145,8 +133,6 @@ int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type)
     const UINT defaultButton = std::min<UINT>((type & MB_DEFMASK) >> 8, static_cast<UINT>(buttons.size()) - 1);
     const HWND box = CreateDialogFrom(BoxTemplate(text, caption, type, buttons), nullptr, owner, BoxProc,
                                       MAKELPARAM(buttons[defaultButton].id, type & MB_ICONMASK), true);
-    if (LPCSTR icon = IconOf(type))
-        SendDlgItemMessageA(box, kIconId, STM_SETICON, reinterpret_cast<WPARAM>(LoadIconA(nullptr, icon)), 0);
     const INT_PTR result = box ? RunModal(box, owner) : 0;
     for (HWND window : disabled)
         if (Find(window))

@@ -584,6 +584,11 @@ BOOL EnumChildWindows(HWND parent, WNDENUMPROC callback, LPARAM param)
 HWND FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text)
 {
     Inside inside;
+    if (!parent && !after) // Then message-only windows are looked through as well.
+    {
+        const HWND found = FindWindowExA(DesktopWindow().handle, nullptr, className, text);
+        return found ? found : FindWindowExA(HWND_MESSAGE, nullptr, className, text);
+    }
     const Window* parentWindow = parent == HWND_MESSAGE ? &MessageRoot() : parent ? Lookup(parent) : &DesktopWindow();
     if (!parentWindow)
         return nullptr;
