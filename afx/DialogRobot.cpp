@@ -119,6 +119,30 @@ CString BoxText(HWND box)
     return CString();
 }
 
+// The system's icons exist once each, so that their handles tell them apart.
+UINT BoxIcon(HWND box)
+{
+    struct SIcon
+    {
+        UINT flag;
+        LPCSTR name;
+    };
+    const SIcon icons[] = {{MB_ICONHAND, IDI_HAND},
+                           {MB_ICONQUESTION, IDI_QUESTION},
+                           {MB_ICONEXCLAMATION, IDI_EXCLAMATION},
+                           {MB_ICONASTERISK, IDI_ASTERISK}};
+    for (HWND child : Children(box))
+    {
+        const auto shown = reinterpret_cast<HICON>(SendMessageA(child, STM_GETICON, 0, 0));
+        for (const SIcon& icon : icons)
+        {
+            if (shown != nullptr && HasClass(child, "Static") && shown == LoadIconA(nullptr, icon.name))
+                return icon.flag;
+        }
+    }
+    return 0;
+}
+
 CString Describe(HWND window)
 {
     if (IsBox(window))
@@ -289,11 +313,10 @@ void CDialogRobot::OnStep()
     SetActiveWindow(window);
 
     if (IsBox(window))
-        m_boxes.push_back({WindowText(window), BoxText(window), 0});
-    if (IsBox(window) && m_answerWaits)
+        m_boxes.push_back({WindowText(window), BoxText(window), BoxIcon(window), 0});
+    if (IsBox(window) && m_answer)
     {
-        m_answerWaits = false;
-        AnswerBox(window, m_answer);
+        AnswerBox(window, *std::exchange(m_answer, std::nullopt));
     }
     else if (MayPlay(window))
     {
@@ -327,7 +350,7 @@ bool CDialogRobot::MayPlay(HWND window) const
 void CDialogRobot::PlayScene(HWND window)
 {
     const Scene& scene = (*m_scenes)[m_nextScene++];
-    const bool answerWaited = std::exchange(m_answerWaits, false); // for a box of the dialog below
+    const std::optional<UINT> answerBelow = std::exchange(m_answer, std::nullopt); // for a box of the dialog below
 
     m_stage.push_back(window);
     Outside([&] { scene(*this); });
@@ -340,7 +363,7 @@ void CDialogRobot::PlayScene(HWND window)
     }
     m_stage.pop_back();
 
-    m_answerWaits = answerWaited;
+    m_answer = answerBelow;
 }
 
 void CDialogRobot::AnswerBox(HWND box, UINT answer)
@@ -675,10 +698,9 @@ CString CDialogRobot::Answering(UINT answer, const Action& action)
 {
     const CInside inside(true);
     const size_t before = m_boxes.size();
-    m_answerWaits = true;
     m_answer = answer;
     Outside(action);
-    m_answerWaits = false;
+    m_answer.reset();
     return m_boxes.size() > before ? m_boxes[before].text : CString();
 }
 

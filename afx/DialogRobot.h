@@ -22,6 +22,7 @@
 #include <exception>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -30,6 +31,7 @@ struct SRobotMessageBox
 {
     CString caption;
     CString text;
+    UINT icon;   ///< MB_ICONEXCLAMATION and its kin; 0 when it has none
     UINT answer; ///< 0 when it was closed otherwise
 };
 
@@ -60,7 +62,8 @@ public:
     /// Calls open(), which blocks in modal dialogs, and plays one scene in each modal dialog in the order in which they
     /// come up; a dialog that opens on top of another one takes its scene while the scene below it waits. A message
     /// box takes a scene only when no scene is at work below it, else it needs Answering(). Returns what open()
-    /// returned. An exception that leaves a scene or open() is thrown again once every dialog is closed.
+    /// returned. Plays of one robot do not nest. An exception that leaves a scene or open() is thrown again once every
+    /// dialog is closed.
     int Play(const std::function<int()>& open, std::vector<Scene> scenes);
 
     /// Everything that went otherwise than the scenes said, in readable words. Kept over several plays.
@@ -159,13 +162,12 @@ private:
     bool PreTranslate(MSG* message) const;
 
     HWND m_stepWindow = nullptr;
-    bool m_armed = false;       // a step waits in the queue
-    bool m_abandoned = false;   // the play is lost: whatever comes up is dismissed
-    bool m_dismissing = false;  // the robot itself is closing a window
-    bool m_answerWaits = false; // a message box is expected,
-    UINT m_answer = 0;          // to be answered with this button
-    int m_idleSteps = 0;        // steps in a row that found nothing to do
-    int m_dismissals = 0;       // windows dismissed since the play began
+    bool m_armed = false;         // a step waits in the queue
+    bool m_abandoned = false;     // the play is lost: whatever comes up is dismissed
+    bool m_dismissing = false;    // the robot itself is closing a window
+    std::optional<UINT> m_answer; // to the message box that is expected
+    int m_idleSteps = 0;          // steps in a row that found nothing to do
+    int m_dismissals = 0;         // windows dismissed since the play began
     size_t m_nextScene = 0;
     const std::vector<Scene>* m_scenes = nullptr;
     std::vector<HWND> m_finished; // windows that were there before the play, or that it has done with

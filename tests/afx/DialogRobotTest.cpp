@@ -205,6 +205,7 @@ TEST_F(DialogRobotTest, PlaysASceneInAMessageBoxThatStandsAlone)
     EXPECT_TRUE(isBox);
     ASSERT_EQ(m_robot.MessageBoxes().size(), 1u);
     EXPECT_EQ(m_robot.MessageBoxes()[0].answer, static_cast<UINT>(IDNO));
+    EXPECT_EQ(m_robot.MessageBoxes()[0].icon, MB_ICONEXCLAMATION);
 }
 
 TEST_F(DialogRobotTest, AccompaniesMessageLoopsThatRunBeforeTheDialog)
@@ -451,6 +452,43 @@ TEST_F(DialogRobotTest, AnswersTheMessageBoxOfAClick)
     EXPECT_EQ(m_robot.MessageBoxes()[1].answer, static_cast<UINT>(IDNO));
 }
 
+TEST_F(DialogRobotTest, TellsTheIconOfAMessageBox)
+{
+    const UINT icons[] = {0, MB_ICONHAND, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONASTERISK};
+    for (UINT icon : icons)
+    {
+        Play([icon] { return Say("Look", MB_OK | icon); }, {[](CDialogRobot& box) {
+                 EXPECT_TRUE(box.IsMessageBox());
+                 box.Dismiss();
+             }});
+        ASSERT_EQ(m_robot.MessageBoxes().size(), 1u);
+        EXPECT_EQ(m_robot.MessageBoxes()[0].icon, icon);
+    }
+}
+
+TEST_F(DialogRobotTest, KeepsTheAnswerOfTheSceneBelowForItsOwnBox)
+{
+    CTestDlg below("below");
+    int belowAnswer = 0;
+    int aboveAnswer = 0;
+    below.m_onAct = [&] {
+        CTestDlg above("above");
+        above.m_onAct = [&] { aboveAnswer = Say("above", MB_YESNOCANCEL); };
+        Open(above);
+        belowAnswer = Say("below", MB_YESNOCANCEL);
+    };
+    Play([&] { return Open(below); }, {[](CDialogRobot& robot) {
+                                           robot.ClickAndAnswer(kAct, IDYES);
+                                           robot.Click(IDOK);
+                                       },
+                                       [](CDialogRobot& robot) {
+                                           EXPECT_EQ(robot.ClickAndAnswer(kAct, IDNO), "above");
+                                           robot.Click(IDOK);
+                                       }});
+    EXPECT_EQ(aboveAnswer, IDNO);
+    EXPECT_EQ(belowAnswer, IDYES);
+}
+
 TEST_F(DialogRobotTest, AnswersABoxThatHasOnlyAnOkButton)
 {
     CTestDlg dialog;
@@ -525,8 +563,7 @@ TEST_F(DialogRobotTest, AnswersAsManyBoxesAsComeUp)
         Say("again");
         ++count;
     };
-    Play([&] { return Open(dialog); },
-         {[](CDialogRobot& robot) {
+    Play([&] { return Open(dialog); }, {[](CDialogRobot& robot) {
              for (int i = 0; i < kBoxes; ++i)
                  robot.ClickAndAnswer(kAct);
              robot.Click(IDOK);
