@@ -10,7 +10,6 @@ namespace offscreen
 {
 int CountWindows();
 void DestroyEverything();
-void ForgetRegisteredClasses();
 
 namespace
 {
@@ -74,7 +73,6 @@ void Reset()
 {
     Inside inside;
     DestroyEverything();
-    ForgetRegisteredClasses();
     ResetMessages();
     ResetMenus();
     ResetGdi();

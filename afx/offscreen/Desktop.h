@@ -31,7 +31,8 @@ struct Counts
 Counts Live();
 
 // Puts everything back to how a new process finds it: destroys all windows and objects, empties the message queue, the
-// clipboard and the registry, and restores all settings below except the failure hook.
+// clipboard and the registry, and restores all settings below except the failure hook. Window classes stay: programs
+// register them once.
 void Reset();
 
 // True while the desktop itself runs, false while a procedure that it called out to does. An allocator that injects

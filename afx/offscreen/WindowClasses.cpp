@@ -86,11 +86,6 @@ void RegisterStandardClasses()
     RegisterBuiltIn("#32769", DefWindowProcA, 0, 0, 0x8001);
     RegisterBuiltIn("Message", DefWindowProcA, 0, 0);
 }
-
-void ForgetRegisteredClasses()
-{
-    Classes().remove_if([](const WindowClass& windowClass) { return !windowClass.builtIn && windowClass.windows == 0; });
-}
 } // namespace offscreen
 
 using namespace offscreen;
