@@ -145,6 +145,24 @@ TEST_F(CWarningTest, IsOwnedByTheDialog)
     });
 }
 
+TEST_F(CWarningTest, IsOwnedByTheDialogOnTop)
+{
+    Log log;
+    CProbeDlg below(&m_wizard);
+    CWatchedDlg top(&m_wizard, log);
+    Play([&] { return static_cast<int>(below.DoModal()); },
+         {[&](CDialogRobot& robot) {
+              EXPECT_EQ(top.DoModal(), IDCANCEL);
+              robot.Click(IDCANCEL);
+          },
+          [&](CDialogRobot& robot) {
+              robot.Answering(IDOK, [&] { below.ShowWarning(IDS_ERR_NOT_A_NUMBER); });
+              EXPECT_EQ(top.m_boxOwner, &top);
+              EXPECT_EQ(log, Log{"box"});
+              robot.Click(IDCANCEL);
+          }});
+}
+
 // ---- Refusing -------------------------------------------------------------------------------------------------------
 
 TEST_F(CWarningTest, ComesAfterTheEditIsSelectedScrolledAndFocused)

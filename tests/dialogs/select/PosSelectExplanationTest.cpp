@@ -218,6 +218,27 @@ TEST_F(CPosSelectExplanationTest, IsBrokenWhereALineIsFull)
     EXPECT_GT(most, 1u);
 }
 
+// Every width, one pixel after the other, puts some word just inside or just outside a line.
+TEST_F(CPosSelectExplanationTest, IsBrokenToThePixel)
+{
+    const CLanguage own(kModule);
+    const std::string text = LoadText(10001).value_or("");
+    Look(0, [&](CDialogRobot& robot) {
+        const HWND window = robot.Dialog()->GetDlgItem(kExplanation)->m_hWnd;
+        const CControlRuler ruler(window);
+        RECT rect;
+        ::GetWindowRect(window, &rect);
+        for (int narrower = 1; narrower <= 100; ++narrower)
+        {
+            ::SetWindowPos(window, nullptr, 0, 0, rect.right - rect.left - narrower, rect.bottom - rect.top,
+                           SWP_NOMOVE | SWP_NOZORDER);
+            robot.Select(kList, 0);
+            EXPECT_EQ(SplitLines(static_cast<LPCSTR>(robot.Text(kExplanation))), WrappedParagraphs(text, ruler))
+                << ruler.Available() << " pixels";
+        }
+    });
+}
+
 TEST_F(CPosSelectExplanationTest, KeepsTheLineBreaksOfTheText)
 {
     UseSelectionOnly();

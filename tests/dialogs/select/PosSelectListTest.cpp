@@ -212,6 +212,9 @@ TEST_F(CPosSelectListTest, SelectsTheLastConfirmedOperation)
     }
     SFunWizardTest::SetLastWizard(m_wizard, 0, 168, 1);
     Look(1, [&](CDialogRobot& robot) { EXPECT_EQ(robot.Selection(kList), 0); });
+    // The variant tells the operation, whatever instruction it was confirmed for.
+    SFunWizardTest::SetLastWizard(m_wizard, 0, 168, 10040);
+    Look(1, [&](CDialogRobot& robot) { EXPECT_EQ(robot.Selection(kList), 3); });
 }
 
 // ---- After a choice that led back -----------------------------------------------------------------------------------
