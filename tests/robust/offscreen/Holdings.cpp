@@ -2,10 +2,10 @@
 
 #include "afx/offscreen/Desktop.h"
 
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
-#else
 #include <malloc.h>
+
+#if defined(__SANITIZE_ADDRESS__)
+extern "C" size_t __sanitizer_get_current_allocated_bytes(); // the compiler brings no header for it
 #endif
 
 Holdings CurrentHoldings()
