@@ -556,7 +556,7 @@ TEST_F(DialogRobotTest, ReportsABoxWithoutTheWantedButton)
 
 TEST_F(DialogRobotTest, AnswersAsManyBoxesAsComeUp)
 {
-    constexpr int kBoxes = 300;
+    constexpr int kBoxes = 100;
     CTestDlg dialog;
     int count = 0;
     dialog.m_onAct = [&] {
