@@ -64,7 +64,7 @@ void MeasureItem(Window& combo)
         measure.itemHeight = static_cast<UINT>(MetricsOf(combo.font).height);
         Send(ParentOf(combo), WM_MEASUREITEM, measure.CtlID, reinterpret_cast<LPARAM>(&measure));
         if (part == -1)
-            state.fieldHeight = static_cast<int>(measure.itemHeight) + 2 * kPadding;
+            state.fieldHeight = static_cast<int>(measure.itemHeight) + 2 * kPadding + 2; // And a line around the item
         else
             state.itemHeight = static_cast<int>(measure.itemHeight);
     }

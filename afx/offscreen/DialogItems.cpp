@@ -74,10 +74,11 @@ UINT GetDlgItemInt(HWND dialog, int id, BOOL* translated, BOOL isSigned)
     char text[30];
     if (!GetDlgItemTextA(dialog, id, text, sizeof text))
         return 0;
+    // The number ends where the digits do.
     char* end = nullptr;
     const long long value = std::strtoll(text, &end, 10);
     const bool inRange = isSigned ? value >= INT_MIN && value <= INT_MAX : value >= 0 && value <= UINT_MAX;
-    if (end == text || *end || !inRange)
+    if (end == text || !inRange)
         return 0;
     if (translated)
         *translated = TRUE;

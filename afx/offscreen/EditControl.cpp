@@ -1,6 +1,6 @@
 // The standard class "Edit". Texts are bytes in the ANSI code page; no operation cuts a double-byte character.
 
-#include "afx/offscreen/EditText.h"
+#include "afx/offscreen/EditLines.h"
 
 #include <cstring>
 

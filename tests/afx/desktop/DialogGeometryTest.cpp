@@ -144,3 +144,49 @@ TEST(DialogGeometry, WindowsMoveAndGrow)
     ScreenToClient(dialog.Window(), &point);
     EXPECT_EQ(point.y, 6);
 }
+
+TEST(DialogGeometry, ADialogCanBeCentred)
+{
+    TestDialog dialog(TemplateBuilder(kDialog | DS_CENTER).Place(5, 5, 100, 80));
+    RECT work{};
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+    EXPECT_EQ(WindowRect(dialog.Window()), std::to_string((work.left + work.right - 206) / 2) + "," +
+                                               std::to_string((work.top + work.bottom - 185) / 2) + " 206x185");
+}
+
+TEST(DialogGeometry, AnEditLeavesAMarginAroundItsText)
+{
+    TestDialog dialog(TemplateBuilder(kDialog)
+                          .Font(9, "MS Sans Serif")
+                          .Control(kEdit, 1, "", WS_BORDER, 0, 0, 40, 12)
+                          .Control(kEdit, 2, "", WS_BORDER | ES_MULTILINE, 0, 20, 40, 40)
+                          .Control(kEdit, 3, "", 0, 0, 80, 40, 12));
+    for (const auto& [id, expected] :
+         {std::pair<int, const char*>{1, "1,1 54x13"}, {2, "1,1 54x52"}, {3, "0,0 60x13"}})
+    {
+        RECT rect{};
+        dialog.Send(id, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&rect));
+        EXPECT_EQ(Show(rect), expected) << id;
+    }
+}
+
+TEST(DialogGeometry, TheControlsHaveTheFontOfTheTemplate)
+{
+    TestDialog dialog(TemplateBuilder(kDialog)
+                          .Font(9, "MS Sans Serif")
+                          .Control(kEdit, 1, "", 0)
+                          .Control(kComboBox, 2, "", CBS_DROPDOWNLIST)
+                          .Control(kStatic, 3, "x", 0)
+                          .Control(kListBox, 4, "", 0)
+                          .Control(kButton, 5, "", 0));
+    const LRESULT font = SendMessageA(dialog.Window(), WM_GETFONT, 0, 0);
+    EXPECT_NE(font, 0);
+    for (int id = 1; id <= 5; ++id)
+        EXPECT_EQ(dialog.Send(id, WM_GETFONT), font) << id;
+    LOGFONTA logFont{};
+    GetObjectA(reinterpret_cast<HFONT>(font), sizeof logFont, &logFont);
+    EXPECT_EQ(logFont.lfHeight, -12);
+    EXPECT_STREQ(logFont.lfFaceName, "MS Sans Serif");
+    TestDialog plain(TemplateBuilder(kDialog).Control(kEdit, 1, "", 0));
+    EXPECT_EQ(plain.Send(1, WM_GETFONT), 0);
+}

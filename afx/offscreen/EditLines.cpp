@@ -1,31 +1,8 @@
-#pragma once
-
-#include "afx/offscreen/Internal.h"
+#include "afx/offscreen/EditLines.h"
 
 namespace offscreen
 {
-// The lines of a multi-line edit: where each one starts, broken at "\r\n" and, when a width is given, between words.
-class EditLines
-{
-public:
-    static constexpr int kNoWrapping = 0x7FFFFFFF;
-
-    void Break(std::string_view text, const FontMetrics& metrics, int width);
-
-    int Count() const { return static_cast<int>(m_starts.size()); }
-    int StartOf(int line) const { return m_starts[static_cast<std::size_t>(line)]; }
-    // Characters of the line without its line break.
-    int LengthOf(int line) const { return m_lengths[static_cast<std::size_t>(line)]; }
-    int LineOf(int position) const;
-
-private:
-    void BreakParagraph(std::string_view text, int start, int end, const FontMetrics& metrics, int width);
-
-    std::vector<int> m_starts{0};
-    std::vector<int> m_lengths{0};
-};
-
-inline void EditLines::Break(std::string_view text, const FontMetrics& metrics, int width)
+void EditLines::Break(std::string_view text, const FontMetrics& metrics, int width)
 {
     m_starts.clear();
     m_lengths.clear();
@@ -41,7 +18,7 @@ inline void EditLines::Break(std::string_view text, const FontMetrics& metrics, 
     }
 }
 
-inline void EditLines::BreakParagraph(std::string_view text, int start, int end, const FontMetrics& metrics, int width)
+void EditLines::BreakParagraph(std::string_view text, int start, int end, const FontMetrics& metrics, int width)
 {
     do
     {
@@ -66,7 +43,7 @@ inline void EditLines::BreakParagraph(std::string_view text, int start, int end,
     } while (start < end);
 }
 
-inline int EditLines::LineOf(int position) const
+int EditLines::LineOf(int position) const
 {
     const auto next = std::upper_bound(m_starts.begin(), m_starts.end(), position);
     return static_cast<int>(next - m_starts.begin()) - 1;

@@ -1,0 +1,153 @@
+// Owner-drawn controls, and items that carry data only.
+
+#include "tests/afx/desktop/TestDialog.h"
+
+using namespace desktop;
+
+namespace
+{
+std::string g_asked;
+UINT g_height = 0;
+
+INT_PTR CALLBACK DrawingProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_MEASUREITEM)
+    {
+        auto* measure = reinterpret_cast<MEASUREITEMSTRUCT*>(lParam);
+        g_asked += "m" + std::to_string(measure->CtlID) + "," + std::to_string(measure->CtlType) + "," +
+                   std::to_string(static_cast<int>(measure->itemID)) + " ";
+        if (g_height)
+            measure->itemHeight = g_height;
+        return TRUE;
+    }
+    if (message == WM_DRAWITEM)
+    {
+        const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        EXPECT_EQ(item->hwndItem, GetDlgItem(dialog, static_cast<int>(item->CtlID)));
+        EXPECT_EQ(wParam, item->CtlID);
+        EXPECT_NE(item->hDC, nullptr);
+        g_asked += "d" + std::to_string(item->CtlID) + "," + std::to_string(item->CtlType) + "," +
+                   std::to_string(static_cast<int>(item->itemID)) + "," + std::to_string(item->itemData) +
+                   (item->itemState & ODS_DISABLED ? ",disabled" : "") + " ";
+        return TRUE;
+    }
+    if (message == WM_COMPAREITEM)
+    {
+        const auto* compare = reinterpret_cast<const COMPAREITEMSTRUCT*>(lParam);
+        return compare->itemData1 < compare->itemData2 ? -1 : compare->itemData1 > compare->itemData2;
+    }
+    if (message == WM_DELETEITEM)
+    {
+        const auto* deleted = reinterpret_cast<const DELETEITEMSTRUCT*>(lParam);
+        g_asked += "x" + std::to_string(deleted->CtlID) + "," + std::to_string(deleted->itemData) + " ";
+        return TRUE;
+    }
+    return message == WM_INITDIALOG;
+}
+
+std::string Asked()
+{
+    std::string asked;
+    asked.swap(g_asked);
+    return asked;
+}
+
+class OwnerDraw : public ::testing::Test
+{
+protected:
+    void Open(TemplateBuilder builder)
+    {
+        Asked();
+        dialog = CreateDialogIndirectParamA(GetModuleHandleA(nullptr), builder.Build(), nullptr, DrawingProc, 0);
+        ASSERT_NE(dialog, nullptr);
+    }
+    void TearDown() override
+    {
+        DestroyWindow(dialog);
+        g_height = 0;
+        Asked();
+    }
+    LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+    {
+        return SendDlgItemMessageA(dialog, id, message, wParam, lParam);
+    }
+    void Redraw(int id)
+    {
+        Asked();
+        RedrawWindow(GetDlgItem(dialog, id), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    }
+
+    HWND dialog = nullptr;
+};
+
+constexpr DWORD kDialog = WS_POPUP | WS_CAPTION | WS_VISIBLE;
+} // namespace
+
+TEST_F(OwnerDraw, ComboBoxesMeasureBeforeTheDialogIsInitialized)
+{
+    g_height = 18;
+    Open(TemplateBuilder(kDialog).Control(kComboBox, 7, "", CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0,
+                                          0, 60, 80));
+    EXPECT_EQ(Asked(), "m7,3,-1 m7,3,0 ");
+    EXPECT_EQ(Send(7, CB_GETITEMHEIGHT, 0), 18);
+    EXPECT_EQ(RectIn(dialog, 7).bottom - RectIn(dialog, 7).top, 28);
+    Send(7, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("Green"));
+    Send(7, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("Red"));
+    Send(7, CB_SETITEMDATA, 1, 99);
+    Send(7, CB_SETCURSEL, 1);
+    Redraw(7);
+    EXPECT_NE(Asked().find("d7,3,1,99 "), std::string::npos);
+    char text[10];
+    EXPECT_EQ(GetWindowTextA(GetDlgItem(dialog, 7), text, sizeof text), 3);
+}
+
+TEST_F(OwnerDraw, ComboBoxesWithDataOnly)
+{
+    Open(TemplateBuilder(kDialog).Control(kComboBox, 7, "", CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED, 0, 0, 60, 80));
+    EXPECT_EQ(Send(7, CB_ADDSTRING, 0, 30), 0);
+    EXPECT_EQ(Send(7, CB_ADDSTRING, 0, 10), 1);
+    EXPECT_EQ(Send(7, CB_GETITEMDATA, 1), 10);
+    Asked();
+    Send(7, CB_DELETESTRING, 0);
+    EXPECT_EQ(Asked(), "x7,30 ");
+    EXPECT_EQ(Send(7, CB_GETITEMDATA, 0), 10);
+}
+
+TEST_F(OwnerDraw, ListBoxesDrawTheirItems)
+{
+    g_height = 20;
+    Open(TemplateBuilder(kDialog).Control(kListBox, 8, "", LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY, 0, 0, 60,
+                                          40));
+    EXPECT_EQ(Asked().substr(0, 5), "m8,2,");
+    EXPECT_EQ(Send(8, LB_GETITEMHEIGHT), 20);
+    Send(8, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("a"));
+    Send(8, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("b"));
+    Redraw(8);
+    EXPECT_EQ(Asked().substr(0, 18), "d8,2,0,0 d8,2,1,0 "); // The one with the focus may follow once more.
+}
+
+TEST_F(OwnerDraw, SortedListBoxesAskForTheOrder)
+{
+    Open(TemplateBuilder(kDialog).Control(kListBox, 8, "", LBS_OWNERDRAWFIXED | LBS_SORT, 0, 0, 60, 40));
+    EXPECT_EQ(Send(8, LB_ADDSTRING, 0, 30), 0);
+    EXPECT_EQ(Send(8, LB_ADDSTRING, 0, 10), 0);
+    EXPECT_EQ(Send(8, LB_ADDSTRING, 0, 20), 1);
+    EXPECT_EQ(Send(8, LB_GETITEMDATA, 2), 30);
+}
+
+TEST_F(OwnerDraw, ButtonsAndStatics)
+{
+    Open(TemplateBuilder(kDialog)
+             .Control(kButton, 1, "b", BS_OWNERDRAW | WS_TABSTOP)
+             .Control(kStatic, 2, "s", SS_OWNERDRAW, 0, 40));
+    Redraw(1);
+    EXPECT_NE(Asked().find("d1,4,0,0 "), std::string::npos);
+    Redraw(2);
+    EXPECT_EQ(Asked(), "d2,5,0,0 ");
+    EnableWindow(GetDlgItem(dialog, 2), FALSE);
+    Redraw(2);
+    EXPECT_EQ(Asked(), "d2,5,0,0,disabled ");
+    EXPECT_EQ(Send(1, WM_GETDLGCODE), DLGC_BUTTON);
+    Send(1, BM_SETCHECK, 1);
+    EXPECT_EQ(Send(1, BM_GETCHECK), 0);
+}
