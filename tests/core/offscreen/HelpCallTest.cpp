@@ -50,7 +50,7 @@ FARPROC Entry()
     return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&RecordCall<Control>));
 }
 
-class HtmlHelpTest : public ::testing::Test
+class HelpCallTest : public ::testing::Test
 {
 protected:
     void SetUp() override
@@ -74,21 +74,21 @@ protected:
 
 } // namespace
 
-TEST_F(HtmlHelpTest, ShowsATopicByItsNumber)
+TEST_F(HelpCallTest, ShowsATopicByItsNumber)
 {
     offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
     m_control.Show("C:\\Help\\Wizard.chm", 5551);
     EXPECT_EQ(g_calls, std::vector({SHelpCall{"n", nullptr, "C:\\Help\\Wizard.chm", 15, 5551, kDriveC}}));
 }
 
-TEST_F(HtmlHelpTest, ShowsTheDefaultTopic)
+TEST_F(HelpCallTest, ShowsTheDefaultTopic)
 {
     offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
     m_control.Show("C:\\Help\\Wizard.chm", 0);
     EXPECT_EQ(g_calls, std::vector({SHelpCall{"n", nullptr, "C:\\Help\\Wizard.chm", 0, 0, kDriveC}}));
 }
 
-TEST_F(HtmlHelpTest, PrefersTheRegisteredControl)
+TEST_F(HelpCallTest, PrefersTheRegisteredControl)
 {
     Register(kRegistered);
     offscreen::RegisterLibrary("registered.ocx", {{14, Entry<'r'>()}});
@@ -98,7 +98,7 @@ TEST_F(HtmlHelpTest, PrefersTheRegisteredControl)
     EXPECT_EQ(g_calls[0].control, "r");
 }
 
-TEST_F(HtmlHelpTest, LooksByNameWhenTheRegisteredControlIsGone)
+TEST_F(HelpCallTest, LooksByNameWhenTheRegisteredControlIsGone)
 {
     Register(kRegistered);
     offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
@@ -107,7 +107,7 @@ TEST_F(HtmlHelpTest, LooksByNameWhenTheRegisteredControlIsGone)
     EXPECT_EQ(g_calls[0].control, "n");
 }
 
-TEST_F(HtmlHelpTest, LooksByNameWhenTheRegisteredPathIsUnusable)
+TEST_F(HelpCallTest, LooksByNameWhenTheRegisteredPathIsUnusable)
 {
     for (const std::string& path : {std::string(), std::string(259, 'p'), std::string(5000, 'p')})
     {
@@ -120,7 +120,7 @@ TEST_F(HtmlHelpTest, LooksByNameWhenTheRegisteredPathIsUnusable)
     }
 }
 
-TEST_F(HtmlHelpTest, IsLoadedOnce)
+TEST_F(HelpCallTest, IsLoadedOnce)
 {
     offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
     m_control.Show("C:\\a.chm", 1);
@@ -131,7 +131,7 @@ TEST_F(HtmlHelpTest, IsLoadedOnce)
     EXPECT_EQ(offscreen::LoadAttempts(), attempts);
 }
 
-TEST_F(HtmlHelpTest, IsNotLookedForAgainWhenItWasNotFound)
+TEST_F(HelpCallTest, IsNotLookedForAgainWhenItWasNotFound)
 {
     m_control.Show("C:\\a.chm", 1);
     const int attempts = offscreen::LoadAttempts();
@@ -141,7 +141,7 @@ TEST_F(HtmlHelpTest, IsNotLookedForAgainWhenItWasNotFound)
     EXPECT_EQ(offscreen::LoadAttempts(), attempts);
 }
 
-TEST_F(HtmlHelpTest, IsNotLookedForAgainWithoutItsEntryPoint)
+TEST_F(HelpCallTest, IsNotLookedForAgainWithoutItsEntryPoint)
 {
     offscreen::RegisterLibrary(kByName, {{13, Entry<'n'>()}, {15, Entry<'n'>()}});
     m_control.Show("C:\\a.chm", 1);
@@ -151,7 +151,7 @@ TEST_F(HtmlHelpTest, IsNotLookedForAgainWithoutItsEntryPoint)
     EXPECT_EQ(offscreen::LoadAttempts(), attempts);
 }
 
-TEST_F(HtmlHelpTest, MakesTheDriveOfThePathCurrentForTheCall)
+TEST_F(HelpCallTest, MakesTheDriveOfThePathCurrentForTheCall)
 {
     offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
     const std::pair<const char*, int> drives[] = {
@@ -166,7 +166,7 @@ TEST_F(HtmlHelpTest, MakesTheDriveOfThePathCurrentForTheCall)
     }
 }
 
-TEST_F(HtmlHelpTest, LeavesTheDriveAloneWithoutAControl)
+TEST_F(HelpCallTest, LeavesTheDriveAloneWithoutAControl)
 {
     m_control.Show("E:\\a.chm", 1);
     EXPECT_EQ(::_getdrive(), kDriveC);
