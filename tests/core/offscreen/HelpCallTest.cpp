@@ -171,3 +171,11 @@ TEST_F(HelpCallTest, LeavesTheDriveAloneWithoutAControl)
     m_control.Show("E:\\a.chm", 1);
     EXPECT_EQ(::_getdrive(), kDriveC);
 }
+
+TEST_F(HelpCallTest, LeavesTheRegistryClosed)
+{
+    Register(kRegistered);
+    const int before = offscreen::Live().keys;
+    m_control.Show("C:\\a.chm", 1);
+    EXPECT_EQ(offscreen::Live().keys, before);
+}
