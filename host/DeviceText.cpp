@@ -19,36 +19,36 @@ enum ENotation
 
 struct SDevice
 {
-    int code;
     const char* name;
+    int code;
     ENotation notation;
 };
 
 constexpr SDevice kDevices[] = {
-    {3, "X", kBit},
-    {2, "Y", kBit},
-    {1, "R", kBit},
-    {20001, "Sp.R", kBit},
-    {4, "T", kDecimal},
-    {5, "C", kDecimal},
-    {0, "L", kBit},
-    {18, "E", kDecimal},
-    {17, "P", kBit},
-    {67, "WX", kDecimal},
-    {66, "WY", kDecimal},
-    {65, "WR", kDecimal},
-    {20065, "Sp.WR", kDecimal},
-    {64, "WL", kDecimal},
-    {9, "DT", kDecimal},
-    {20009, "Sp.DT", kDecimal},
-    {6, "SV", kDecimal},
-    {7, "EV", kDecimal},
-    {10, "FL", kDecimal},
-    {8, "LD", kDecimal},
-    {15, "INDEX", kDecimal},
-    {11, "K", kDecimal},
-    {12, "H", kHexadecimal},
-    {20, "f", kReal},
+    {"X", 3, kBit},
+    {"Y", 2, kBit},
+    {"R", 1, kBit},
+    {"Sp.R", 20001, kBit},
+    {"T", 4, kDecimal},
+    {"C", 5, kDecimal},
+    {"L", 0, kBit},
+    {"E", 18, kDecimal},
+    {"P", 17, kBit},
+    {"WX", 67, kDecimal},
+    {"WY", 66, kDecimal},
+    {"WR", 65, kDecimal},
+    {"Sp.WR", 20065, kDecimal},
+    {"WL", 64, kDecimal},
+    {"DT", 9, kDecimal},
+    {"Sp.DT", 20009, kDecimal},
+    {"SV", 6, kDecimal},
+    {"EV", 7, kDecimal},
+    {"FL", 10, kDecimal},
+    {"LD", 8, kDecimal},
+    {"INDEX", 15, kDecimal},
+    {"K", 11, kDecimal},
+    {"H", 12, kHexadecimal},
+    {"f", 20, kReal},
 };
 
 template <typename... T>

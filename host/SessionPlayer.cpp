@@ -5,11 +5,12 @@
 #include "host/Ladder.h"
 #include "host/ResultText.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cstdio>
-#include <filesystem>
 #include <ostream>
+#include <utility>
 
 namespace
 {
@@ -63,12 +64,20 @@ std::string OneLine(std::string text)
     return text;
 }
 
-// A caption as part of a file name.
-std::string FileName(std::string text)
+// A caption as part of a file name: "F168 (SPD1)" is f168-spd1.
+std::string FileName(const std::string& text)
 {
-    for (char& c : text)
-        c = std::isalnum(static_cast<unsigned char>(c)) ? static_cast<char>(std::tolower(c)) : '-';
-    return text;
+    std::string name;
+    for (const unsigned char c : text)
+    {
+        if (std::isalnum(c))
+            name += static_cast<char>(std::tolower(c));
+        else if (!name.empty() && name.back() != '-')
+            name += '-';
+    }
+    if (!name.empty() && name.back() == '-')
+        name.pop_back();
+    return name;
 }
 } // namespace
 
@@ -214,8 +223,8 @@ void CSessionPlayer::SaveShot(CDialogRobot& robot, const std::string& name)
     if (m_shots.empty())
         return;
     char number[16];
-    std::snprintf(number, sizeof number, "%02d-", ++m_shotCount);
-    const std::string path = (std::filesystem::path(m_shots) / (number + FileName(name) + ".png")).string();
+    std::snprintf(number, sizeof number, "-%02d-", ++m_shotCount);
+    const std::string path = m_shots + number + FileName(name) + ".png";
     AfxSaveScreenshot(robot.Dialog()->m_hWnd, path.c_str());
 }
 

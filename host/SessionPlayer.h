@@ -11,8 +11,9 @@ class CDialogRobot;
 class CSessionPlayer
 {
 public:
-    /// The report goes to `report`; with a folder in `shots` a picture of each dialog is saved there just before the
-    /// step that closes it, and wherever the session asks for one. Pictures need windows on a screen.
+    /// The report goes to `report`. Unless `shots` is empty, a picture of each dialog is saved just before the step
+    /// that closes it, and wherever the session asks for one; `shots` is what the paths of the files start with.
+    /// Pictures need windows on a screen.
     CSessionPlayer(std::ostream& report, std::string shots);
 
     /// Plays every run on one wizard object. False when the dialogs did not do as the session said; the reasons are in

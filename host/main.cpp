@@ -4,36 +4,36 @@
 //     LadderHost --play session.json [--shots DIR] plays a recorded session and prints what came of it
 
 #include "afx/Console.h"
+#include "afx/System.h"
 #include "host/HostDlg.h"
 #include "host/HostName.h"
 #include "host/SessionPlayer.h"
 
 #include <CLI/CLI.hpp>
 
+#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <filesystem>
 #include <iostream>
 
 namespace
 {
+constexpr int kBadSession = 2; // exit code
+
 int PlaySession(const std::string& path, const std::string& shots)
 {
-    try
+    const SSession session = LoadSession(path);
+    std::filesystem::path pictures;
+    if (!shots.empty())
     {
-        const SSession session = LoadSession(path);
-        if (!shots.empty())
-            std::filesystem::create_directories(shots);
-        return CSessionPlayer(std::cout, shots).Play(session) ? EXIT_SUCCESS : EXIT_FAILURE;
+        std::filesystem::create_directories(shots);
+        pictures = std::filesystem::path(shots) / std::filesystem::path(path).stem();
     }
-    catch (const std::exception& error)
-    {
-        std::cerr << kHostName << ": " << error.what() << '\n';
-        return 2;
-    }
+    return CSessionPlayer(std::cout, pictures.string()).Play(session) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
-} // namespace
 
-int main(int argc, char** argv)
+int Run(int argc, char** argv)
 {
     CLI::App app("Enters PLC instructions with the wizard library.", kHostName);
     std::string session;
@@ -53,4 +53,18 @@ int main(int argc, char** argv)
         return EXIT_SUCCESS;
     std::cout << app.help();
     return EXIT_FAILURE;
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try
+    {
+        return Run(argc, argv);
+    }
+    catch (const std::exception& error)
+    {
+        std::fprintf(stderr, "%s: %s\n", kHostName, error.what());
+        return kBadSession;
+    }
 }

@@ -1,23 +1,13 @@
 #include "host/HostDlg.h"
 
+#include "afx/System.h"
 #include "host/HostResource.h"
 #include "resources/resource.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/PrintTo.h"
 
-#include <string>
-
 namespace
 {
-// The folder of the test program, where its libraries lie too.
-std::string ProgramFolder()
-{
-    char path[1024] = "";
-    ::GetModuleFileNameA(nullptr, path, sizeof path);
-    const std::string program = path;
-    return program.substr(0, program.find_last_of("/\\") + 1);
-}
-
 bool Contains(const CString& text, const char* part) { return text.Find(part) >= 0; }
 } // namespace
 
@@ -27,7 +17,7 @@ class HostDlgTest : public CDesktopTest
 protected:
     void SetUp() override
     {
-        m_resources = AfxLoadLibrary((ProgramFolder() + "HostWindow.DLL").c_str());
+        m_resources = AfxLoadLibrary(AfxGetModuleFolder(nullptr) + "HostWindow.DLL");
         ASSERT_NE(m_resources, nullptr);
         AfxSetResourceHandle(m_resources);
     }

@@ -3,6 +3,8 @@
 
 #include "tests/support/DesktopTest.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -16,7 +18,20 @@ std::string ReadFile(const std::string& path)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string SessionPath(const std::string& name) { return std::string(PEXLO_SOURCE_DIR "/host/sessions/") + name; }
+const std::string kSessions = PEXLO_SOURCE_DIR "/host/sessions";
+
+std::vector<std::string> RecordedSessions()
+{
+    std::vector<std::string> names;
+    std::error_code error;
+    for (const auto& file : std::filesystem::directory_iterator(kSessions, error))
+    {
+        if (file.path().extension() == ".json")
+            names.push_back(file.path().stem().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
 
 struct SReport
 {
@@ -43,23 +58,30 @@ SReport PlayDialogs(const std::string& dialogs)
 } // namespace
 
 // The recorded sessions that come with the ladder tool, each with the report that it must give on every desktop.
-class RecordedSessionTest : public CDesktopTest, public testing::WithParamInterface<const char*>
+class RecordedSessionTest : public CDesktopTest, public testing::WithParamInterface<std::string>
 {
 };
 
 TEST_P(RecordedSessionTest, GivesTheReportThatIsRecordedWithIt)
 {
-    const SReport report = Report(LoadSession(SessionPath(GetParam() + std::string(".json"))));
+    const std::string path = kSessions + "/" + GetParam();
+    const SReport report = Report(LoadSession(path + ".json"));
     EXPECT_TRUE(report.success);
-    EXPECT_EQ(report.text, ReadFile(SessionPath(GetParam() + std::string(".txt"))));
+    EXPECT_EQ(report.text, ReadFile(path + ".txt"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Sessions, RecordedSessionTest, testing::Values("f168-trapezoidal", "f168-home-return"),
-                         [](const auto& info) {
-                             std::string name = info.param;
-                             std::replace(name.begin(), name.end(), '-', '_');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Sessions, RecordedSessionTest, testing::ValuesIn(RecordedSessions()), [](const auto& info) {
+    std::string name = info.param;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+});
+
+TEST(RecordedSessionsTest, AreThere)
+{
+    const std::vector<std::string> names = RecordedSessions();
+    EXPECT_NE(std::find(names.begin(), names.end(), "f168-trapezoidal"), names.end());
+    EXPECT_NE(std::find(names.begin(), names.end(), "f168-home-return"), names.end());
+}
 
 class SessionPlayerTest : public CDesktopTest
 {
