@@ -59,8 +59,7 @@ void CheckRadioInGroup(Window& button)
         const Window* window = Find(sibling);
         if (!window)
             return;
-        const bool isRadio =
-            (Send(sibling, WM_GETDLGCODE) & DLGC_RADIOBUTTON) && KindOf(*window) == BS_AUTORADIOBUTTON;
+        const bool isRadio = (Send(sibling, WM_GETDLGCODE) & DLGC_RADIOBUTTON) && KindOf(*window) == BS_AUTORADIOBUTTON;
         if (isRadio)
             Send(sibling, BM_SETCHECK, sibling == start ? BST_CHECKED : BST_UNCHECKED);
         sibling = GetNextDlgGroupItem(parent, sibling, FALSE);
@@ -74,10 +73,17 @@ void ChangeByClick(Window& button)
     auto& state = *StateOf<ButtonState>(button);
     switch (KindOf(button))
     {
-    case BS_AUTOCHECKBOX: SetCheck(button, state.check ? BST_UNCHECKED : BST_CHECKED); break;
-    case BS_AUTO3STATE: SetCheck(button, (state.check + 1) % 3); break;
-    case BS_AUTORADIOBUTTON: CheckRadioInGroup(button); break;
-    default: break;
+    case BS_AUTOCHECKBOX:
+        SetCheck(button, state.check ? BST_UNCHECKED : BST_CHECKED);
+        break;
+    case BS_AUTO3STATE:
+        SetCheck(button, (state.check + 1) % 3);
+        break;
+    case BS_AUTORADIOBUTTON:
+        CheckRadioInGroup(button);
+        break;
+    default:
+        break;
     }
 }
 
@@ -144,12 +150,17 @@ LRESULT DialogCodeOf(const Window& button)
     switch (KindOf(button))
     {
     case BS_USERBUTTON:
-    case BS_PUSHBUTTON: return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
-    case BS_DEFPUSHBUTTON: return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
+    case BS_PUSHBUTTON:
+        return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
+    case BS_DEFPUSHBUTTON:
+        return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
     case BS_RADIOBUTTON:
-    case BS_AUTORADIOBUTTON: return DLGC_BUTTON | DLGC_RADIOBUTTON;
-    case BS_GROUPBOX: return DLGC_STATIC;
-    default: return DLGC_BUTTON;
+    case BS_AUTORADIOBUTTON:
+        return DLGC_BUTTON | DLGC_RADIOBUTTON;
+    case BS_GROUPBOX:
+        return DLGC_STATIC;
+    default:
+        return DLGC_BUTTON;
     }
 }
 
@@ -263,17 +274,21 @@ LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
 
     switch (message)
     {
-    case WM_GETDLGCODE: return DialogCodeOf(button);
-    case WM_ENABLE: Invalidate(button); return 0;
+    case WM_GETDLGCODE:
+        return DialogCodeOf(button);
+    case WM_ENABLE:
+        Invalidate(button);
+        return 0;
     case WM_SETFONT:
         button.font = reinterpret_cast<HFONT>(wParam);
         if (lParam)
             Invalidate(button);
         return 0;
-    case WM_GETFONT: return reinterpret_cast<LRESULT>(button.font);
-    case WM_ERASEBKGND: return TRUE;
-    case WM_PAINT:
-    {
+    case WM_GETFONT:
+        return reinterpret_cast<LRESULT>(button.font);
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_PAINT: {
         PAINTSTRUCT paint;
         const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
         PaintOn(button, dc, ODA_DRAWENTIRE);
@@ -281,10 +296,14 @@ LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
             EndPaint(handle, &paint);
         return 0;
     }
-    case WM_PRINTCLIENT: PaintOn(button, reinterpret_cast<HDC>(wParam), ODA_DRAWENTIRE); return 0;
+    case WM_PRINTCLIENT:
+        PaintOn(button, reinterpret_cast<HDC>(wParam), ODA_DRAWENTIRE);
+        return 0;
 
-    case WM_SETFOCUS: return HandleFocus(button, true);
-    case WM_KILLFOCUS: return HandleFocus(button, false);
+    case WM_SETFOCUS:
+        return HandleFocus(button, true);
+    case WM_KILLFOCUS:
+        return HandleFocus(button, false);
     case WM_KEYDOWN:
         if (wParam == VK_SPACE)
             return HandleKey(button, true, wParam);
@@ -301,8 +320,12 @@ LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
             return 0;
         }
         [[fallthrough]];
-    case WM_LBUTTONDOWN: PressMouse(button); return 0;
-    case WM_LBUTTONUP: ReleaseMouse(button, lParam); return 0;
+    case WM_LBUTTONDOWN:
+        PressMouse(button);
+        return 0;
+    case WM_LBUTTONUP:
+        ReleaseMouse(button, lParam);
+        return 0;
     case WM_MOUSEMOVE:
         if (GetCapture() == handle && (wParam & MK_LBUTTON))
             SetPushed(button, IsOver(button, lParam));
@@ -311,23 +334,34 @@ LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
         if (state->pushed)
             SetPushed(button, false);
         return 0;
-    case WM_NCHITTEST: return KindOf(button) == BS_GROUPBOX ? HTTRANSPARENT : HTCLIENT;
+    case WM_NCHITTEST:
+        return KindOf(button) == BS_GROUPBOX ? HTTRANSPARENT : HTCLIENT;
 
-    case BM_CLICK: Click(button); return 0;
-    case BM_GETCHECK: return static_cast<LRESULT>(state->check);
-    case BM_SETCHECK: SetCheck(button, static_cast<UINT>(wParam)); return 0;
+    case BM_CLICK:
+        Click(button);
+        return 0;
+    case BM_GETCHECK:
+        return static_cast<LRESULT>(state->check);
+    case BM_SETCHECK:
+        SetCheck(button, static_cast<UINT>(wParam));
+        return 0;
     case BM_GETSTATE:
         return static_cast<LRESULT>(state->check | (state->pushed ? BST_PUSHED : 0u) |
                                     (state->focused ? BST_FOCUS : 0u));
-    case BM_SETSTATE: SetPushed(button, wParam != 0); return 0;
+    case BM_SETSTATE:
+        SetPushed(button, wParam != 0);
+        return 0;
     case BM_SETSTYLE:
         button.style = (button.style & ~BS_TYPEMASK) | (static_cast<UINT>(wParam) & BS_TYPEMASK);
         if (lParam)
             Invalidate(button);
         return 0;
-    case BM_SETIMAGE: return reinterpret_cast<LRESULT>(std::exchange(state->image, reinterpret_cast<HANDLE>(lParam)));
-    case BM_GETIMAGE: return reinterpret_cast<LRESULT>(state->image);
-    default: return DefWindowProcA(handle, message, wParam, lParam);
+    case BM_SETIMAGE:
+        return reinterpret_cast<LRESULT>(std::exchange(state->image, reinterpret_cast<HANDLE>(lParam)));
+    case BM_GETIMAGE:
+        return reinterpret_cast<LRESULT>(state->image);
+    default:
+        return DefWindowProcA(handle, message, wParam, lParam);
     }
 }
 } // namespace offscreen

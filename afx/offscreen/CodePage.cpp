@@ -20,11 +20,14 @@ bool IsLeadByteIn(UINT codePage, unsigned char c)
 {
     switch (codePage)
     {
-    case 932: return (c >= 0x81 && c <= 0x9F) || (c >= 0xE0 && c <= 0xFC);
+    case 932:
+        return (c >= 0x81 && c <= 0x9F) || (c >= 0xE0 && c <= 0xFC);
     case 936:
     case 949:
-    case 950: return c >= 0x81 && c <= 0xFE;
-    default: return false;
+    case 950:
+        return c >= 0x81 && c <= 0xFE;
+    default:
+        return false;
     }
 }
 
@@ -32,10 +35,14 @@ std::string EncodingName(UINT codePage)
 {
     switch (codePage)
     {
-    case CP_UTF8: return "UTF-8";
-    case 932: return "CP932";
-    case 874: return "CP874";
-    default: return "CP" + std::to_string(codePage);
+    case CP_UTF8:
+        return "UTF-8";
+    case 932:
+        return "CP932";
+    case 874:
+        return "CP874";
+    default:
+        return "CP" + std::to_string(codePage);
     }
 }
 
@@ -100,7 +107,8 @@ char ChangeCase(char c, bool upper)
         return static_cast<char>(c ^ 0x20);
     if (g_codePage != 1252)
         return c;
-    const bool letter = upper ? code >= 0xE0 && code != 0xF7 && code != 0xFF : code >= 0xC0 && code <= 0xDE && code != 0xD7;
+    const bool letter =
+        upper ? code >= 0xE0 && code != 0xF7 && code != 0xFF : code >= 0xC0 && code <= 0xDE && code != 0xD7;
     return letter ? static_cast<char>(code ^ 0x20) : c;
 }
 
@@ -121,8 +129,9 @@ bool IsLeadByte(unsigned char c) { return IsLeadByteIn(g_codePage, c); }
 
 int CharacterLength(std::string_view text, std::size_t position)
 {
-    return position + 1 < text.size() && text[position + 1] && IsLeadByte(static_cast<unsigned char>(text[position])) ? 2
-                                                                                                                       : 1;
+    return position + 1 < text.size() && text[position + 1] && IsLeadByte(static_cast<unsigned char>(text[position]))
+               ? 2
+               : 1;
 }
 
 std::size_t PreviousCharacter(std::string_view text, std::size_t position)
@@ -138,7 +147,6 @@ std::size_t PreviousCharacter(std::string_view text, std::size_t position)
 }
 
 std::string ToAnsi(std::u16string_view wide) { return FromWide(g_codePage, wide); }
-std::u16string ToWide(std::string_view text) { return IntoWide(g_codePage, text); }
 std::string UpperCase(std::string_view text) { return InCase(text, true); }
 std::string LowerCase(std::string_view text) { return InCase(text, false); }
 

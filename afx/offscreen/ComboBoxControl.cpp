@@ -183,14 +183,27 @@ LRESULT HandleKey(Window& combo, UINT message, WPARAM key)
             Toggle(combo);
         return 0;
     case VK_LEFT:
-    case VK_UP: index = std::max(index - 1, 0); break;
+    case VK_UP:
+        index = std::max(index - 1, 0);
+        break;
     case VK_RIGHT:
-    case VK_DOWN: ++index; break;
-    case VK_PRIOR: index -= std::max(VisibleItems(state) - 1, 1); break;
-    case VK_NEXT: index = std::max(index, 0) + std::max(VisibleItems(state) - 1, 1); break;
-    case VK_HOME: index = 0; break;
-    case VK_END: index = count - 1; break;
-    default: return 0;
+    case VK_DOWN:
+        ++index;
+        break;
+    case VK_PRIOR:
+        index -= std::max(VisibleItems(state) - 1, 1);
+        break;
+    case VK_NEXT:
+        index = std::max(index, 0) + std::max(VisibleItems(state) - 1, 1);
+        break;
+    case VK_HOME:
+        index = 0;
+        break;
+    case VK_END:
+        index = count - 1;
+        break;
+    default:
+        return 0;
     }
     if (count)
         SelectByUser(combo, std::clamp(index, 0, count - 1));
@@ -250,10 +263,11 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
     const int start = static_cast<int>(wParam);
     switch (message)
     {
-    case CB_ADDSTRING: return items.Add(combo, lParam);
-    case CB_INSERTSTRING: return items.Insert(combo, start, lParam);
-    case CB_DELETESTRING:
-    {
+    case CB_ADDSTRING:
+        return items.Add(combo, lParam);
+    case CB_INSERTSTRING:
+        return items.Insert(combo, start, lParam);
+    case CB_DELETESTRING: {
         const LRESULT left = items.Remove(combo, wParam);
         Invalidate(combo);
         return left;
@@ -262,21 +276,28 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
         items.Clear(combo);
         Invalidate(combo);
         return CB_OKAY;
-    case CB_GETCOUNT: return items.Count();
-    case CB_SETCURSEL: return SetSelection(combo, start);
-    case CB_GETCURSEL: return items.Selection();
-    case CB_GETLBTEXT: return items.CopyItem(wParam, lParam);
-    case CB_GETLBTEXTLEN: return items.TextLength(wParam);
-    case CB_GETITEMDATA: return items.IsIndex(wParam) ? items.Data(start) : CB_ERR;
+    case CB_GETCOUNT:
+        return items.Count();
+    case CB_SETCURSEL:
+        return SetSelection(combo, start);
+    case CB_GETCURSEL:
+        return items.Selection();
+    case CB_GETLBTEXT:
+        return items.CopyItem(wParam, lParam);
+    case CB_GETLBTEXTLEN:
+        return items.TextLength(wParam);
+    case CB_GETITEMDATA:
+        return items.IsIndex(wParam) ? items.Data(start) : CB_ERR;
     case CB_SETITEMDATA:
         if (!items.IsIndex(wParam))
             return CB_ERR;
         items.SetData(start, lParam);
         return TRUE;
-    case CB_FINDSTRING: return items.FindPrefix(start, lParam);
-    case CB_FINDSTRINGEXACT: return items.FindExact(start, lParam);
-    case CB_SELECTSTRING:
-    {
+    case CB_FINDSTRING:
+        return items.FindPrefix(start, lParam);
+    case CB_FINDSTRINGEXACT:
+        return items.FindExact(start, lParam);
+    case CB_SELECTSTRING: {
         const int index = items.FindPrefix(start, lParam);
         return index >= 0 ? SetSelection(combo, index) : CB_ERR;
     }
@@ -286,9 +307,9 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
         else if (!wParam && state.dropped)
             RollUp(combo, false);
         return TRUE;
-    case CB_GETDROPPEDSTATE: return state.dropped;
-    case CB_GETDROPPEDCONTROLRECT:
-    {
+    case CB_GETDROPPEDSTATE:
+        return state.dropped;
+    case CB_GETDROPPEDCONTROLRECT: {
         RECT rect = ScreenRectOf(combo);
         rect.bottom = rect.top + std::max(state.dropHeight, combo.rect.bottom - combo.rect.top);
         *reinterpret_cast<RECT*>(lParam) = rect;
@@ -303,21 +324,39 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
         else
             state.itemHeight = static_cast<int>(lParam);
         return CB_OKAY;
-    case CB_GETITEMHEIGHT: return start == -1 ? state.fieldHeight : state.itemHeight;
-    case CB_SETEXTENDEDUI: state.extended = wParam != 0; return CB_OKAY;
-    case CB_GETEXTENDEDUI: return state.extended;
-    case CB_SETDROPPEDWIDTH: state.dropWidth = start; [[fallthrough]];
-    case CB_GETDROPPEDWIDTH: return std::max<int>(state.dropWidth, combo.rect.right - combo.rect.left);
-    case CB_SETHORIZONTALEXTENT: state.extent = start; return CB_OKAY;
-    case CB_GETHORIZONTALEXTENT: return state.extent;
-    case CB_GETTOPINDEX: return 0;
-    case CB_SETTOPINDEX: return items.IsIndex(wParam) ? CB_OKAY : CB_ERR;
-    case CB_INITSTORAGE: return items.Count() + static_cast<LRESULT>(wParam);
-    case CB_GETCOMBOBOXINFO: return FillInfo(combo, *reinterpret_cast<COMBOBOXINFO*>(lParam));
-    case CB_LIMITTEXT: return TRUE; // There is no edit to limit.
+    case CB_GETITEMHEIGHT:
+        return start == -1 ? state.fieldHeight : state.itemHeight;
+    case CB_SETEXTENDEDUI:
+        state.extended = wParam != 0;
+        return CB_OKAY;
+    case CB_GETEXTENDEDUI:
+        return state.extended;
+    case CB_SETDROPPEDWIDTH:
+        state.dropWidth = start;
+        [[fallthrough]];
+    case CB_GETDROPPEDWIDTH:
+        return std::max<int>(state.dropWidth, combo.rect.right - combo.rect.left);
+    case CB_SETHORIZONTALEXTENT:
+        state.extent = start;
+        return CB_OKAY;
+    case CB_GETHORIZONTALEXTENT:
+        return state.extent;
+    case CB_GETTOPINDEX:
+        return 0;
+    case CB_SETTOPINDEX:
+        return items.IsIndex(wParam) ? CB_OKAY : CB_ERR;
+    case CB_INITSTORAGE:
+        return items.Count() + static_cast<LRESULT>(wParam);
+    case CB_GETCOMBOBOXINFO:
+        return FillInfo(combo, *reinterpret_cast<COMBOBOXINFO*>(lParam));
+    case CB_LIMITTEXT:
+        return TRUE; // There is no edit to limit.
     case CB_GETEDITSEL:
-    case CB_SETEDITSEL: return CB_ERR;
-    default: Fail("not modelled: combo box message 0x%04X", message); return CB_ERR;
+    case CB_SETEDITSEL:
+        return CB_ERR;
+    default:
+        Fail("not modelled: combo box message 0x%04X", message);
+        return CB_ERR;
     }
 }
 } // namespace
@@ -340,9 +379,10 @@ LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM l
 
     switch (message)
     {
-    case WM_DESTROY: state.items.Clear(combo); return 0;
-    case WM_GETDLGCODE:
-    {
+    case WM_DESTROY:
+        state.items.Clear(combo);
+        return 0;
+    case WM_GETDLGCODE: {
         LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
         // While the list is down, Enter and Esc belong to it.
         const auto* key = reinterpret_cast<const MSG*>(lParam);
@@ -359,9 +399,9 @@ LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM l
         if (lParam)
             Invalidate(combo);
         return 0;
-    case WM_GETFONT: return reinterpret_cast<LRESULT>(combo.font);
-    case WM_WINDOWPOSCHANGING:
-    {
+    case WM_GETFONT:
+        return reinterpret_cast<LRESULT>(combo.font);
+    case WM_WINDOWPOSCHANGING: {
         // A new height is that of the list.
         auto& position = *reinterpret_cast<WINDOWPOS*>(lParam);
         if (!(position.flags & SWP_NOSIZE) && !state.resizing)
@@ -373,9 +413,9 @@ LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM l
         }
         return 0;
     }
-    case WM_ERASEBKGND: return TRUE;
-    case WM_PAINT:
-    {
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_PAINT: {
         PAINTSTRUCT paint;
         const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
         PaintOn(combo, dc);
@@ -383,10 +423,12 @@ LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM l
             EndPaint(handle, &paint);
         return 0;
     }
-    case WM_GETTEXT: return CopySelectedText(combo, wParam, lParam);
+    case WM_GETTEXT:
+        return CopySelectedText(combo, wParam, lParam);
     case WM_GETTEXTLENGTH:
         return state.items.Selection() >= 0 ? state.items.TextLength(static_cast<WPARAM>(state.items.Selection())) : 0;
-    case WM_SETTEXT: return CB_ERR;
+    case WM_SETTEXT:
+        return CB_ERR;
     case WM_SETFOCUS:
         Invalidate(combo);
         NotifyParent(combo, CBN_SETFOCUS);
@@ -399,17 +441,23 @@ LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM l
             NotifyParent(combo, CBN_KILLFOCUS);
         }
         return 0;
-    case WM_ENABLE: Invalidate(combo); return 0;
+    case WM_ENABLE:
+        Invalidate(combo);
+        return 0;
     case WM_KEYDOWN:
-    case WM_SYSKEYDOWN: return HandleKey(combo, message, wParam);
-    case WM_CHAR: SelectByUser(combo, state.items.FindNext(static_cast<char>(wParam))); return 0;
+    case WM_SYSKEYDOWN:
+        return HandleKey(combo, message, wParam);
+    case WM_CHAR:
+        SelectByUser(combo, state.items.FindNext(static_cast<char>(wParam)));
+        return 0;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
         SetFocus(handle);
         if (!combo.dead)
             Toggle(combo);
         return 0;
-    default: return DefWindowProcA(handle, message, wParam, lParam);
+    default:
+        return DefWindowProcA(handle, message, wParam, lParam);
     }
 }
 } // namespace offscreen

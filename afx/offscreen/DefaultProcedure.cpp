@@ -25,9 +25,12 @@ LRESULT HandleSystemCommand(HWND window, WPARAM wParam)
 {
     switch (wParam & 0xFFF0)
     {
-    case SC_CLOSE: return SendMessageA(window, WM_CLOSE, 0, 0);
-    case SC_KEYMENU: return 0;
-    default: return NotModelled("WM_SYSCOMMAND other than SC_CLOSE", 0);
+    case SC_CLOSE:
+        return SendMessageA(window, WM_CLOSE, 0, 0);
+    case SC_KEYMENU:
+        return 0;
+    default:
+        return NotModelled("WM_SYSCOMMAND other than SC_CLOSE", 0);
     }
 }
 
@@ -76,30 +79,41 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
     switch (message)
     {
-    case WM_NCCREATE:
-    {
+    case WM_NCCREATE: {
         const auto* create = reinterpret_cast<const CREATESTRUCTA*>(lParam);
         // A text of the form 0xFF, id names an icon and is no text.
         if (create->lpszName && static_cast<unsigned char>(create->lpszName[0]) != 0xFF)
             found->text = create->lpszName;
         return TRUE;
     }
-    case WM_SETTEXT: return SetText(*found, reinterpret_cast<LPCSTR>(lParam));
-    case WM_GETTEXT: return wParam ? CopyText(found->text, reinterpret_cast<LPSTR>(lParam), wParam) : 0;
-    case WM_GETTEXTLENGTH: return static_cast<LRESULT>(found->text.size());
+    case WM_SETTEXT:
+        return SetText(*found, reinterpret_cast<LPCSTR>(lParam));
+    case WM_GETTEXT:
+        return wParam ? CopyText(found->text, reinterpret_cast<LPSTR>(lParam), wParam) : 0;
+    case WM_GETTEXTLENGTH:
+        return static_cast<LRESULT>(found->text.size());
 
-    case WM_CLOSE: DestroyWindow(window); return 0;
-    case WM_QUERYENDSESSION: return TRUE;
+    case WM_CLOSE:
+        DestroyWindow(window);
+        return 0;
+    case WM_QUERYENDSESSION:
+        return TRUE;
     case WM_ACTIVATE:
         if (LOWORD(wParam) != WA_INACTIVE && !(found->style & WS_MINIMIZE))
             SetFocus(window);
         return 0;
-    case WM_NCACTIVATE: return TRUE;
-    case WM_MOUSEACTIVATE: return MA_ACTIVATE;
-    case WM_NCHITTEST: return HTCLIENT;
-    case WM_ERASEBKGND: return found->windowClass->background != nullptr;
-    case WM_PAINT: return Paint(window);
-    case WM_WINDOWPOSCHANGED: return PositionChanged(window, *reinterpret_cast<const WINDOWPOS*>(lParam));
+    case WM_NCACTIVATE:
+        return TRUE;
+    case WM_MOUSEACTIVATE:
+        return MA_ACTIVATE;
+    case WM_NCHITTEST:
+        return HTCLIENT;
+    case WM_ERASEBKGND:
+        return found->windowClass->background != nullptr;
+    case WM_PAINT:
+        return Paint(window);
+    case WM_WINDOWPOSCHANGED:
+        return PositionChanged(window, *reinterpret_cast<const WINDOWPOS*>(lParam));
     case WM_SHOWWINDOW:
         // Popups are hidden and shown with their owner.
         if (lParam && (found->style & WS_POPUP))
@@ -118,14 +132,16 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CTLCOLORBTN:
     case WM_CTLCOLORDLG:
     case WM_CTLCOLORSTATIC:
-    case WM_CTLCOLORSCROLLBAR: return ControlColors(message, reinterpret_cast<HDC>(wParam));
+    case WM_CTLCOLORSCROLLBAR:
+        return ControlColors(message, reinterpret_cast<HDC>(wParam));
 
     case WM_SYSKEYDOWN:
     case WM_SYSKEYUP:
-    case WM_SYSCHAR: return HandleSystemKey(window, message, wParam);
-    case WM_SYSCOMMAND: return HandleSystemCommand(window, wParam);
-    case WM_RBUTTONUP:
-    {
+    case WM_SYSCHAR:
+        return HandleSystemKey(window, message, wParam);
+    case WM_SYSCOMMAND:
+        return HandleSystemCommand(window, wParam);
+    case WM_RBUTTONUP: {
         POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
         ClientToScreen(window, &point);
         Send(window, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window), MAKELPARAM(point.x, point.y));
@@ -158,10 +174,13 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         if (found->IsChild())
             return Send(ParentOf(*found), WM_MOUSEWHEEL, wParam, lParam);
         return 0;
-    case WM_NOTIFYFORMAT: return 1; // NFR_ANSI
+    case WM_NOTIFYFORMAT:
+        return 1; // NFR_ANSI
     case WM_DRAWITEM:
     case WM_VKEYTOITEM:
-    case WM_CHARTOITEM: return message == WM_DRAWITEM ? 0 : -1;
-    default: return 0;
+    case WM_CHARTOITEM:
+        return message == WM_DRAWITEM ? 0 : -1;
+    default:
+        return 0;
     }
 }

@@ -38,10 +38,7 @@ void DescribeInto(const Window& window, int depth, std::string& text)
 }
 } // namespace
 
-FailureHook SetFailureHook(FailureHook hook)
-{
-    return std::exchange(g_failureHook, hook ? hook : PrintAndAbort);
-}
+FailureHook SetFailureHook(FailureHook hook) { return std::exchange(g_failureHook, hook ? hook : PrintAndAbort); }
 
 void Fail(const char* format, ...)
 {

@@ -118,10 +118,15 @@ bool HandleKeyDown(HWND dialog, const MSG& message)
         MoveInGroup(dialog, message, message.wParam == VK_LEFT || message.wParam == VK_UP);
         return true;
     case VK_CANCEL:
-    case VK_ESCAPE: PressButton(dialog, IDCANCEL, GetDlgItem(dialog, IDCANCEL)); return true;
+    case VK_ESCAPE:
+        PressButton(dialog, IDCANCEL, GetDlgItem(dialog, IDCANCEL));
+        return true;
     case VK_EXECUTE:
-    case VK_RETURN: PressDefaultButton(dialog); return true;
-    default: return false;
+    case VK_RETURN:
+        PressDefaultButton(dialog);
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -147,10 +152,15 @@ BOOL IsDialogMessageA(HWND dialog, LPMSG message)
     bool handled = false;
     switch (message->message)
     {
-    case WM_KEYDOWN: handled = HandleKeyDown(dialog, *message); break;
+    case WM_KEYDOWN:
+        handled = HandleKeyDown(dialog, *message);
+        break;
     case WM_CHAR:
-    case WM_SYSCHAR: handled = HandleCharacter(dialog, *message); break;
-    default: break;
+    case WM_SYSCHAR:
+        handled = HandleCharacter(dialog, *message);
+        break;
+    default:
+        break;
     }
     if (!handled)
     {

@@ -11,13 +11,20 @@ const char* ClassOfOrdinal(int ordinal)
 {
     switch (ordinal)
     {
-    case 0x80: return "Button";
-    case 0x81: return "Edit";
-    case 0x82: return "Static";
-    case 0x83: return "ListBox";
-    case 0x84: return "ScrollBar";
-    case 0x85: return "ComboBox";
-    default: return "";
+    case 0x80:
+        return "Button";
+    case 0x81:
+        return "Edit";
+    case 0x82:
+        return "Static";
+    case 0x83:
+        return "ListBox";
+    case 0x84:
+        return "ScrollBar";
+    case 0x85:
+        return "ComboBox";
+    default:
+        return "";
     }
 }
 
@@ -189,9 +196,8 @@ HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGP
     std::string className = tmpl.className.ordinal >= 0 ? "" : tmpl.className.text;
     if (className.empty())
         className = "#32770";
-    const HWND dialog =
-        CreateWindowExA(exStyle, className.c_str(), tmpl.title.text.c_str(), style & ~WS_VISIBLE, place.x, place.y,
-                        place.width, place.height, owner, menu, instance, nullptr);
+    const HWND dialog = CreateWindowExA(exStyle, className.c_str(), tmpl.title.text.c_str(), style & ~WS_VISIBLE,
+                                        place.x, place.y, place.width, place.height, owner, menu, instance, nullptr);
     Window* window = Find(dialog);
     if (!window)
     {
@@ -346,8 +352,7 @@ BOOL EndDialog(HWND dialog, INT_PTR result)
         SetFocus(dialog);
     if (!Find(dialog))
         return TRUE;
-    SetWindowPos(dialog, nullptr, 0, 0, 0, 0,
-                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
+    SetWindowPos(dialog, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
     if (dialog == Input().active)
         ActivateAnother(dialog);
     // Wakes the modal loop.

@@ -118,11 +118,9 @@ LRESULT DefaultDialogAction(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
     DialogState* state = DialogStateOf(dialog);
     switch (message)
     {
-    case WM_ERASEBKGND:
-    {
+    case WM_ERASEBKGND: {
         const auto dc = reinterpret_cast<HDC>(wParam);
-        auto brush = reinterpret_cast<HBRUSH>(
-            Send(dialog, WM_CTLCOLORDLG, wParam, reinterpret_cast<LPARAM>(dialog)));
+        auto brush = reinterpret_cast<HBRUSH>(Send(dialog, WM_CTLCOLORDLG, wParam, reinterpret_cast<LPARAM>(dialog)));
         if (!brush)
             brush = reinterpret_cast<HBRUSH>(
                 DefWindowProcA(dialog, WM_CTLCOLORDLG, wParam, reinterpret_cast<LPARAM>(dialog)));
@@ -141,7 +139,9 @@ LRESULT DefaultDialogAction(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
         else
             SaveFocus(dialog);
         return 0;
-    case WM_SETFOCUS: RestoreFocus(dialog, false); return 0;
+    case WM_SETFOCUS:
+        RestoreFocus(dialog, false);
+        return 0;
     case DM_SETDEFID:
         if (state && !state->ended)
             SetDefaultId(dialog, LOWORD(wParam));
@@ -150,15 +150,21 @@ LRESULT DefaultDialogAction(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
         if (state && !state->ended && state->defaultId)
             return MAKELONG(state->defaultId, DC_HASDEFID);
         return 0;
-    case WM_NEXTDLGCTL: return MoveFocus(dialog, wParam, LOWORD(lParam) != 0);
-    case WM_GETFONT: return state ? reinterpret_cast<LRESULT>(state->font) : 0;
-    case WM_SETFONT: return 0;
-    case WM_CLOSE: return CloseByCommand(dialog);
+    case WM_NEXTDLGCTL:
+        return MoveFocus(dialog, wParam, LOWORD(lParam) != 0);
+    case WM_GETFONT:
+        return state ? reinterpret_cast<LRESULT>(state->font) : 0;
+    case WM_SETFONT:
+        return 0;
+    case WM_CLOSE:
+        return CloseByCommand(dialog);
     case WM_INITDIALOG:
     case WM_VKEYTOITEM:
     case WM_COMPAREITEM:
-    case WM_CHARTOITEM: return 0;
-    default: return DefWindowProcA(dialog, message, wParam, lParam);
+    case WM_CHARTOITEM:
+        return 0;
+    default:
+        return DefWindowProcA(dialog, message, wParam, lParam);
     }
 }
 
@@ -176,8 +182,10 @@ bool AnswersItself(UINT message)
     case WM_COMPAREITEM:
     case WM_VKEYTOITEM:
     case WM_CHARTOITEM:
-    case WM_INITDIALOG: return true;
-    default: return false;
+    case WM_INITDIALOG:
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -194,8 +202,10 @@ bool IsDefaultAction(UINT message)
     case WM_NEXTDLGCTL:
     case WM_GETFONT:
     case WM_SETFONT:
-    case WM_CLOSE: return true;
-    default: return false;
+    case WM_CLOSE:
+        return true;
+    default:
+        return false;
     }
 }
 } // namespace

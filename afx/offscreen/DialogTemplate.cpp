@@ -6,7 +6,8 @@ namespace offscreen
 {
 namespace
 {
-// Reads a template's words. Past the end everything is zero, so that a damaged template makes a poor dialog, not a crash.
+// Reads a template's words. Past the end everything is zero, so that a damaged template makes a poor dialog, not a
+// crash.
 class Reader
 {
 public:
@@ -52,7 +53,8 @@ public:
 private:
     std::size_t Left() const { return m_position < m_end ? static_cast<std::size_t>(m_end - m_position) : 0; }
 
-    template <class T> T Number()
+    template <class T>
+    T Number()
     {
         T value{};
         if (m_end && Left() < sizeof(T))

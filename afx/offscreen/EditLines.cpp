@@ -28,7 +28,8 @@ void EditLines::BreakParagraph(std::string_view text, int start, int end, const 
         while (position < end)
         {
             const int length = CharacterLength(text, static_cast<std::size_t>(position));
-            used += TextWidth(metrics, text.substr(static_cast<std::size_t>(position), static_cast<std::size_t>(length)));
+            used +=
+                TextWidth(metrics, text.substr(static_cast<std::size_t>(position), static_cast<std::size_t>(length)));
             if (used > width && position > start)
                 break;
             position += length;

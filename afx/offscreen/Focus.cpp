@@ -51,8 +51,8 @@ bool Activate(HWND window, bool byMouse, bool moveFocus)
 
     CBTACTIVATESTRUCT data{byMouse, previous};
     LRESULT refused = 0;
-    if (window && RunHooks(WH_CBT, HCBT_ACTIVATE, reinterpret_cast<WPARAM>(window), reinterpret_cast<LPARAM>(&data),
-                           &refused) &&
+    if (window &&
+        RunHooks(WH_CBT, HCBT_ACTIVATE, reinterpret_cast<WPARAM>(window), reinterpret_cast<LPARAM>(&data), &refused) &&
         refused)
         return false;
 
@@ -192,11 +192,16 @@ BOOL ShowWindow(HWND window, int command)
         break;
     case SW_SHOWNOACTIVATE:
     case SW_SHOWNA:
-    case SW_SHOWMINNOACTIVE: flags |= SWP_SHOWWINDOW | SWP_NOACTIVATE | SWP_NOZORDER; break;
+    case SW_SHOWMINNOACTIVE:
+        flags |= SWP_SHOWWINDOW | SWP_NOACTIVATE | SWP_NOZORDER;
+        break;
     case SW_SHOWMINIMIZED:
     case SW_SHOWMAXIMIZED:
-    case SW_MINIMIZE: return NotModelled("minimized and maximized windows", FALSE);
-    default: flags |= SWP_SHOWWINDOW; break;
+    case SW_MINIMIZE:
+        return NotModelled("minimized and maximized windows", FALSE);
+    default:
+        flags |= SWP_SHOWWINDOW;
+        break;
     }
     if (found->IsChild())
         flags |= SWP_NOACTIVATE | SWP_NOZORDER;

@@ -1,74 +1,25 @@
-// Device contexts, fonts, brushes, pens and bitmaps. Nothing is drawn anywhere; what can be asked back is kept, and text
-// is noted down when a test wants to see it.
+// Device contexts, fonts, brushes, pens and bitmaps. Nothing is drawn anywhere; what can be asked back is kept, and
+// text is noted down when a test wants to see it.
 
-#include "afx/offscreen/Internal.h"
+#include "afx/offscreen/GdiState.h"
 
 #include <cstring>
-#include <map>
 
 namespace offscreen
 {
 namespace
 {
-struct GdiObject
-{
-    DWORD kind = 0; // OBJ_...
-    bool stock = false;
-    LOGFONTA font{};
-    LOGBRUSH brush{};
-    LOGPEN pen{};
-    BITMAP bitmap{};
-    const FontMetrics* metrics = nullptr;
-};
-
-struct DcSettings
-{
-    COLORREF textColor = RGB(0, 0, 0);
-    COLORREF backgroundColor = RGB(255, 255, 255);
-    int backgroundMode = OPAQUE;
-    UINT align = TA_LEFT | TA_TOP;
-    HGDIOBJ font = nullptr;
-    HGDIOBJ brush = nullptr;
-    HGDIOBJ pen = nullptr;
-    HGDIOBJ bitmap = nullptr;
-    POINT position{};
-};
-
-struct Dc : DcSettings
-{
-    HWND window = nullptr;
-    bool memory = false;
-    std::vector<DcSettings> saved;
-};
-
-struct GdiState
-{
-    HandleTable<GdiObject> objects{1};
-    HandleTable<Dc> dcs{2};
-    HGDIOBJ stock[DEFAULT_GUI_FONT + 1] = {};
-    HBRUSH systemBrushes[COLOR_INFOBK + 1] = {};
-    int stockObjects = 0;
-    bool recording = false;
-    std::map<HWND, std::vector<DrawnText>> drawn;
-};
-
-GdiState& State()
-{
-    static auto* state = new GdiState;
-    return *state;
-}
-
-template <class Handle> Handle Make(GdiObject object)
+template <class Handle>
+Handle Make(GdiObject object)
 {
     auto* made = new GdiObject(std::move(object));
-    const auto handle = State().objects.Add(made);
+    const auto handle = Gdi().objects.Add(made);
     if (!handle)
         delete made;
     return reinterpret_cast<Handle>(handle);
 }
 
-GdiObject* ObjectOf(HGDIOBJ handle) { return State().objects.Find(reinterpret_cast<std::uintptr_t>(handle)); }
-Dc* DcOf(HDC handle) { return State().dcs.Find(reinterpret_cast<std::uintptr_t>(handle)); }
+GdiObject* ObjectOf(HGDIOBJ handle) { return Gdi().objects.Find(reinterpret_cast<std::uintptr_t>(handle)); }
 
 HBRUSH MakeBrush(COLORREF color, UINT style = BS_SOLID)
 {
@@ -109,29 +60,44 @@ HGDIOBJ MakeStock(int index)
 {
     switch (index)
     {
-    case WHITE_BRUSH: return MakeBrush(RGB(255, 255, 255));
-    case LTGRAY_BRUSH: return MakeBrush(RGB(192, 192, 192));
-    case GRAY_BRUSH: return MakeBrush(RGB(128, 128, 128));
-    case DKGRAY_BRUSH: return MakeBrush(RGB(64, 64, 64));
-    case BLACK_BRUSH: return MakeBrush(RGB(0, 0, 0));
-    case NULL_BRUSH: return MakeBrush(0, BS_NULL);
-    case WHITE_PEN: return MakePen(PS_SOLID, 0, RGB(255, 255, 255));
-    case BLACK_PEN: return MakePen(PS_SOLID, 0, RGB(0, 0, 0));
-    case NULL_PEN: return MakePen(PS_NULL, 0, 0);
+    case WHITE_BRUSH:
+        return MakeBrush(RGB(255, 255, 255));
+    case LTGRAY_BRUSH:
+        return MakeBrush(RGB(192, 192, 192));
+    case GRAY_BRUSH:
+        return MakeBrush(RGB(128, 128, 128));
+    case DKGRAY_BRUSH:
+        return MakeBrush(RGB(64, 64, 64));
+    case BLACK_BRUSH:
+        return MakeBrush(RGB(0, 0, 0));
+    case NULL_BRUSH:
+        return MakeBrush(0, BS_NULL);
+    case WHITE_PEN:
+        return MakePen(PS_SOLID, 0, RGB(255, 255, 255));
+    case BLACK_PEN:
+        return MakePen(PS_SOLID, 0, RGB(0, 0, 0));
+    case NULL_PEN:
+        return MakePen(PS_NULL, 0, 0);
     case OEM_FIXED_FONT:
-    case ANSI_FIXED_FONT: return MakeStockFont("Courier", 12, FW_NORMAL);
-    case ANSI_VAR_FONT: return MakeStockFont("MS Sans Serif", 12, FW_NORMAL);
+    case ANSI_FIXED_FONT:
+        return MakeStockFont("Courier", 12, FW_NORMAL);
+    case ANSI_VAR_FONT:
+        return MakeStockFont("MS Sans Serif", 12, FW_NORMAL);
     case SYSTEM_FONT:
-    case DEVICE_DEFAULT_FONT: return MakeStockFont("System", 16, FW_BOLD);
-    case SYSTEM_FIXED_FONT: return MakeStockFont("Courier", 16, FW_NORMAL);
-    case DEFAULT_GUI_FONT: return MakeStockFont("MS Shell Dlg", -11, FW_NORMAL);
-    default: return nullptr;
+    case DEVICE_DEFAULT_FONT:
+        return MakeStockFont("System", 16, FW_BOLD);
+    case SYSTEM_FIXED_FONT:
+        return MakeStockFont("Courier", 16, FW_NORMAL);
+    case DEFAULT_GUI_FONT:
+        return MakeStockFont("MS Shell Dlg", -11, FW_NORMAL);
+    default:
+        return nullptr;
     }
 }
 
 HGDIOBJ Stock(int index)
 {
-    GdiState& state = State();
+    GdiState& state = Gdi();
     if (index < 0 || index > DEFAULT_GUI_FONT)
         return nullptr;
     if (!state.stock[index])
@@ -154,40 +120,48 @@ HDC MakeDc(HWND window, bool memory)
     dc->font = Stock(SYSTEM_FONT);
     dc->brush = Stock(WHITE_BRUSH);
     dc->pen = Stock(BLACK_PEN);
-    return reinterpret_cast<HDC>(State().dcs.Add(dc));
+    return reinterpret_cast<HDC>(Gdi().dcs.Add(dc));
 }
 
 HGDIOBJ* SlotFor(DcSettings& dc, DWORD kind)
 {
     switch (kind)
     {
-    case OBJ_FONT: return &dc.font;
-    case OBJ_BRUSH: return &dc.brush;
-    case OBJ_PEN: return &dc.pen;
-    case OBJ_BITMAP: return &dc.bitmap;
-    default: return nullptr;
+    case OBJ_FONT:
+        return &dc.font;
+    case OBJ_BRUSH:
+        return &dc.brush;
+    case OBJ_PEN:
+        return &dc.pen;
+    case OBJ_BITMAP:
+        return &dc.bitmap;
+    default:
+        return nullptr;
     }
 }
 
-void NoteText(const Dc& dc, int x, int y, std::string_view text)
-{
-    if (State().recording && dc.window)
-        State().drawn[dc.window].push_back({std::string(text), x, y, dc.textColor});
-}
-
-template <class Value> Value Swap(HDC handle, Value DcSettings::*member, Value value, Value failure)
+template <class Value>
+Value Swap(HDC handle, Value DcSettings::*member, Value value, Value failure)
 {
     Dc* dc = DcOf(handle);
     return dc ? std::exchange(dc->*member, value) : failure;
 }
 
-std::string_view View(LPCSTR text, int length)
+} // namespace
+
+GdiState& Gdi()
 {
-    return length < 0 ? std::string_view(text) : std::string_view(text, static_cast<std::size_t>(length));
+    static auto* state = new GdiState;
+    return *state;
 }
 
-BOOL Drawn(HDC dc) { return DcOf(dc) != nullptr; }
-} // namespace
+Dc* DcOf(HDC handle) { return Gdi().dcs.Find(reinterpret_cast<std::uintptr_t>(handle)); }
+
+void NoteText(const Dc& dc, int x, int y, std::string_view text)
+{
+    if (Gdi().recording && dc.window)
+        Gdi().drawn[dc.window].push_back({std::string(text), x, y, dc.textColor});
+}
 
 const FontMetrics& MetricsOf(HFONT font)
 {
@@ -208,20 +182,20 @@ const LOGFONTA& LogFontOf(HFONT font)
 HDC OpenDc(HWND window, bool forPainting)
 {
     if (forPainting)
-        State().drawn.erase(window);
+        Gdi().drawn.erase(window);
     return MakeDc(window, false);
 }
 
 void CloseDc(HDC handle)
 {
     Dc* dc = DcOf(handle);
-    State().dcs.Remove(reinterpret_cast<std::uintptr_t>(handle));
+    Gdi().dcs.Remove(reinterpret_cast<std::uintptr_t>(handle));
     delete dc;
 }
 
 void ForgetDcsOf(HWND window)
 {
-    GdiState& state = State();
+    GdiState& state = Gdi();
     state.dcs.ForEach([=](Dc& dc) {
         if (dc.window == window)
             dc.window = nullptr;
@@ -230,11 +204,9 @@ void ForgetDcsOf(HWND window)
         state.drawn.erase(window);
 }
 
-int CountDcs() { return State().dcs.Count(); }
-
 void CountGdi(Counts& counts)
 {
-    State().objects.ForEach([&](const GdiObject& object) {
+    Gdi().objects.ForEach([&](const GdiObject& object) {
         if (object.stock)
             return;
         counts.fonts += object.kind == OBJ_FONT;
@@ -242,12 +214,12 @@ void CountGdi(Counts& counts)
         counts.pens += object.kind == OBJ_PEN;
         counts.bitmaps += object.kind == OBJ_BITMAP;
     });
-    counts.dcs = CountDcs();
+    counts.dcs = Gdi().dcs.Count();
 }
 
 void ResetGdi()
 {
-    GdiState& state = State();
+    GdiState& state = Gdi();
     std::vector<GdiObject*> objects;
     state.objects.ForEach([&](GdiObject& object) { objects.push_back(&object); });
     std::vector<Dc*> dcs;
@@ -261,14 +233,14 @@ void ResetGdi()
 
 void RecordDrawing(bool on)
 {
-    State().recording = on;
-    State().drawn.clear();
+    Gdi().recording = on;
+    Gdi().drawn.clear();
 }
 
 std::vector<DrawnText> TextDrawnIn(HWND window)
 {
-    const auto it = State().drawn.find(window);
-    return it == State().drawn.end() ? std::vector<DrawnText>{} : it->second;
+    const auto it = Gdi().drawn.find(window);
+    return it == Gdi().drawn.end() ? std::vector<DrawnText>{} : it->second;
 }
 } // namespace offscreen
 
@@ -342,18 +314,24 @@ int GetDeviceCaps(HDC dc, int index)
     switch (index)
     {
     case LOGPIXELSX:
-    case LOGPIXELSY: return 96;
-    case HORZRES: return GetSystemMetrics(SM_CXSCREEN);
-    case VERTRES: return GetSystemMetrics(SM_CYSCREEN);
-    case BITSPIXEL: return 32;
-    case PLANES: return 1;
-    default: return NotModelled("GetDeviceCaps with this index", 0);
+    case LOGPIXELSY:
+        return 96;
+    case HORZRES:
+        return GetSystemMetrics(SM_CXSCREEN);
+    case VERTRES:
+        return GetSystemMetrics(SM_CYSCREEN);
+    case BITSPIXEL:
+        return 32;
+    case PLANES:
+        return 1;
+    default:
+        return NotModelled("GetDeviceCaps with this index", 0);
     }
 }
 
 // Pixels are the only unit.
-BOOL DPtoLP(HDC dc, LPPOINT, int) { return Drawn(dc); }
-BOOL LPtoDP(HDC dc, LPPOINT, int) { return Drawn(dc); }
+BOOL DPtoLP(HDC dc, LPPOINT, int) { return DcOf(dc) != nullptr; }
+BOOL LPtoDP(HDC dc, LPPOINT, int) { return DcOf(dc) != nullptr; }
 
 COLORREF SetTextColor(HDC dc, COLORREF color) { return Swap(dc, &DcSettings::textColor, color, CLR_INVALID); }
 COLORREF SetBkColor(HDC dc, COLORREF color) { return Swap(dc, &DcSettings::backgroundColor, color, CLR_INVALID); }
@@ -396,7 +374,7 @@ BOOL DeleteObject(HGDIOBJ object)
         return FALSE;
     if (found->stock)
         return TRUE;
-    State().objects.Remove(reinterpret_cast<std::uintptr_t>(object));
+    Gdi().objects.Remove(reinterpret_cast<std::uintptr_t>(object));
     delete found;
     return TRUE;
 }
@@ -426,10 +404,18 @@ int GetObjectA(HANDLE object, int size, LPVOID buffer)
     int available = 0;
     switch (found->kind)
     {
-    case OBJ_FONT: source = &found->font, available = sizeof found->font; break;
-    case OBJ_BRUSH: source = &found->brush, available = sizeof found->brush; break;
-    case OBJ_PEN: source = &found->pen, available = sizeof found->pen; break;
-    default: source = &found->bitmap, available = sizeof found->bitmap; break;
+    case OBJ_FONT:
+        source = &found->font, available = sizeof found->font;
+        break;
+    case OBJ_BRUSH:
+        source = &found->brush, available = sizeof found->brush;
+        break;
+    case OBJ_PEN:
+        source = &found->pen, available = sizeof found->pen;
+        break;
+    default:
+        source = &found->bitmap, available = sizeof found->bitmap;
+        break;
     }
     if (!buffer)
         return available;
@@ -508,7 +494,7 @@ HBRUSH GetSysColorBrush(int index)
     Inside inside;
     if (index < 0 || index > COLOR_INFOBK)
         return nullptr;
-    HBRUSH& brush = State().systemBrushes[index];
+    HBRUSH& brush = Gdi().systemBrushes[index];
     if (!brush)
     {
         brush = MakeBrush(GetSysColor(index));
@@ -516,290 +502,3 @@ HBRUSH GetSysColorBrush(int index)
     }
     return brush;
 }
-
-// --------------------------------------------------------------------------------------------------------------- text
-
-BOOL GetTextMetricsA(HDC dc, LPTEXTMETRICA metrics)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return FALSE;
-    const auto font = static_cast<HFONT>(found->font);
-    const FontMetrics& source = MetricsOf(font);
-    const LOGFONTA& logFont = LogFontOf(font);
-    *metrics = {};
-    metrics->tmHeight = source.height;
-    metrics->tmAscent = source.ascent;
-    metrics->tmDescent = source.height - source.ascent;
-    metrics->tmInternalLeading = source.internalLeading;
-    metrics->tmExternalLeading = source.externalLeading;
-    metrics->tmAveCharWidth = source.averageWidth;
-    metrics->tmMaxCharWidth = source.maximumWidth;
-    metrics->tmWeight = logFont.lfWeight ? logFont.lfWeight : FW_NORMAL;
-    metrics->tmDigitizedAspectX = 96;
-    metrics->tmDigitizedAspectY = 96;
-    metrics->tmFirstChar = 0x20;
-    metrics->tmLastChar = 0xFF;
-    metrics->tmDefaultChar = 0x1F;
-    metrics->tmBreakChar = 0x20;
-    metrics->tmItalic = logFont.lfItalic;
-    metrics->tmUnderlined = logFont.lfUnderline;
-    metrics->tmStruckOut = logFont.lfStrikeOut;
-    metrics->tmPitchAndFamily = FF_SWISS | TMPF_FIXED_PITCH; // The bit is set for a variable pitch.
-    metrics->tmCharSet = logFont.lfCharSet == DEFAULT_CHARSET ? ANSI_CHARSET : logFont.lfCharSet;
-    return TRUE;
-}
-
-int GetTextFaceA(HDC dc, int size, LPSTR name)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return 0;
-    const std::string_view face = LogFontOf(static_cast<HFONT>(found->font)).lfFaceName;
-    if (!name)
-        return static_cast<int>(face.size()) + 1;
-    return CopyText(face, name, static_cast<std::size_t>(std::max(size, 0))) + 1;
-}
-
-BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, LPSIZE size)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found || length < 0)
-        return FALSE;
-    const FontMetrics& metrics = MetricsOf(static_cast<HFONT>(found->font));
-    *size = {TextWidth(metrics, View(text, length)), metrics.height};
-    if (length == 0)
-        size->cy = metrics.height;
-    return TRUE;
-}
-
-BOOL GetTextExtentPointA(HDC dc, LPCSTR text, int length, LPSIZE size)
-{
-    return GetTextExtentPoint32A(dc, text, length, size);
-}
-
-BOOL GetTextExtentExPointA(HDC dc, LPCSTR text, int length, int maxExtent, LPINT fit, LPINT extents, LPSIZE size)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found || length < 0)
-        return FALSE;
-    const FontMetrics& metrics = MetricsOf(static_cast<HFONT>(found->font));
-    int fitting = 0;
-    for (int i = 0; i < length; ++i)
-    {
-        const int extent = TextWidth(metrics, View(text, i + 1));
-        if (fit && extent > maxExtent)
-            break;
-        if (extents)
-            extents[i] = extent;
-        fitting = i + 1;
-    }
-    if (fit)
-        *fit = fitting;
-    *size = {TextWidth(metrics, View(text, length)), metrics.height};
-    return TRUE;
-}
-
-BOOL GetCharWidth32A(HDC dc, UINT first, UINT last, LPINT widths)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return FALSE;
-    const FontMetrics& metrics = MetricsOf(static_cast<HFONT>(found->font));
-    for (UINT c = first; c <= last; ++c)
-        *widths++ = c < 256 ? metrics.widths[c] : metrics.doubleByteWidth;
-    return TRUE;
-}
-
-BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int length)
-{
-    return ExtTextOutA(dc, x, y, 0, nullptr, text, static_cast<UINT>(length), nullptr);
-}
-
-BOOL ExtTextOutA(HDC dc, int x, int y, UINT, const RECT*, LPCSTR text, UINT length, const INT*)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (found && text && length)
-        NoteText(*found, x, y, std::string_view(text, length));
-    return found != nullptr;
-}
-
-namespace
-{
-// The lines that DrawText breaks a text into.
-std::vector<std::string_view> BreakLines(const FontMetrics& metrics, std::string_view text, int width, UINT format)
-{
-    if (format & DT_SINGLELINE)
-        return {text};
-    std::vector<std::string_view> lines;
-    while (!text.empty())
-    {
-        const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-        std::string_view paragraph = text.substr(0, end);
-        const bool crlf = text.substr(end, 2) == "\r\n";
-        text.remove_prefix(std::min(end + (crlf ? 2 : 1), text.size()));
-        do
-        {
-            std::size_t fitting = paragraph.size();
-            if ((format & DT_WORDBREAK) && TextWidth(metrics, paragraph) > width)
-            {
-                std::size_t space = paragraph.find(' ');
-                fitting = std::min(space, paragraph.size());
-                while (space != std::string_view::npos && TextWidth(metrics, paragraph.substr(0, space)) <= width)
-                {
-                    fitting = space;
-                    space = paragraph.find(' ', space + 1);
-                }
-            }
-            lines.push_back(paragraph.substr(0, fitting));
-            paragraph.remove_prefix(std::min(paragraph.find_first_not_of(' ', fitting), paragraph.size()));
-        } while (!paragraph.empty());
-    }
-    return lines;
-}
-} // namespace
-
-int DrawTextA(HDC dc, LPCSTR text, int length, LPRECT rect, UINT format)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found || !text)
-        return 0;
-    const FontMetrics& metrics = MetricsOf(static_cast<HFONT>(found->font));
-    std::string shown(View(text, length));
-    if (!(format & DT_NOPREFIX))
-        shown = WithoutMnemonic(shown);
-    const auto lines = BreakLines(metrics, shown, rect->right - rect->left, format);
-    const int lineHeight = metrics.height + (format & DT_EXTERNALLEADING ? metrics.externalLeading : 0);
-    int height = static_cast<int>(lines.size()) * lineHeight;
-    int widest = 0;
-    for (std::string_view line : lines)
-        widest = std::max(widest, TextWidth(metrics, line));
-    if (format & DT_CALCRECT)
-    {
-        rect->right = rect->left + widest;
-        rect->bottom = rect->top + height;
-        return height;
-    }
-    int y = rect->top;
-    if (format & DT_SINGLELINE)
-    {
-        const int room = rect->bottom - rect->top - height;
-        y += format & DT_VCENTER ? room / 2 : format & DT_BOTTOM ? room : 0;
-    }
-    for (std::string_view line : lines)
-    {
-        const int room = rect->right - rect->left - TextWidth(metrics, line);
-        NoteText(*found, rect->left + (format & DT_CENTER ? room / 2 : format & DT_RIGHT ? room : 0), y, line);
-        y += lineHeight;
-    }
-    return y - rect->top;
-}
-
-namespace
-{
-// Width of a text whose tabs go to the given stops, as TabbedTextOut counts them.
-int TabbedWidth(const FontMetrics& metrics, std::string_view text, int count, const INT* tabs)
-{
-    const int standard = count == 1 && tabs ? tabs[0] : 8 * metrics.averageWidth;
-    int x = 0;
-    while (!text.empty())
-    {
-        const std::size_t end = std::min(text.find('\t'), text.size());
-        x += TextWidth(metrics, text.substr(0, end));
-        if (end == text.size())
-            break;
-        int next = (x / std::max(standard, 1) + 1) * standard;
-        if (count > 1 && tabs)
-        {
-            const INT* stop = std::find_if(tabs, tabs + count, [=](INT tab) { return tab > x; });
-            next = stop != tabs + count ? *stop : x + TextWidth(metrics, " ");
-        }
-        x = next;
-        text.remove_prefix(end + 1);
-    }
-    return x;
-}
-} // namespace
-
-LONG TabbedTextOutA(HDC dc, int x, int y, LPCSTR text, int length, int count, const INT* tabs, int)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return 0;
-    NoteText(*found, x, y, View(text, length));
-    return static_cast<LONG>(GetTabbedTextExtentA(dc, text, length, count, tabs));
-}
-
-DWORD GetTabbedTextExtentA(HDC dc, LPCSTR text, int length, int count, const INT* tabs)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return 0;
-    const FontMetrics& metrics = MetricsOf(static_cast<HFONT>(found->font));
-    return static_cast<DWORD>(MAKELONG(TabbedWidth(metrics, View(text, length), count, tabs), metrics.height));
-}
-
-// ------------------------------------------------------------------------------------------------------------ drawing
-// Nothing is drawn: a good device context is all that these check.
-
-int FillRect(HDC dc, const RECT*, HBRUSH) { return Drawn(dc); }
-int FrameRect(HDC dc, const RECT*, HBRUSH) { return Drawn(dc); }
-BOOL InvertRect(HDC dc, const RECT*) { return Drawn(dc); }
-BOOL DrawFocusRect(HDC dc, const RECT*) { return Drawn(dc); }
-
-BOOL DrawEdge(HDC dc, LPRECT rect, UINT edge, UINT flags)
-{
-    if (flags & BF_ADJUST)
-    {
-        const bool outer = (edge & (BDR_RAISEDOUTER | BDR_SUNKENOUTER)) != 0;
-        const bool inner = (edge & (BDR_RAISEDINNER | BDR_SUNKENINNER)) != 0;
-        const int width = outer + inner;
-        rect->left += flags & BF_LEFT ? width : 0;
-        rect->top += flags & BF_TOP ? width : 0;
-        rect->right -= flags & BF_RIGHT ? width : 0;
-        rect->bottom -= flags & BF_BOTTOM ? width : 0;
-    }
-    return Drawn(dc);
-}
-
-BOOL DrawFrameControl(HDC dc, LPRECT, UINT, UINT) { return Drawn(dc); }
-BOOL Rectangle(HDC dc, int, int, int, int) { return Drawn(dc); }
-BOOL RoundRect(HDC dc, int, int, int, int, int, int) { return Drawn(dc); }
-BOOL Ellipse(HDC dc, int, int, int, int) { return Drawn(dc); }
-BOOL Polygon(HDC dc, const POINT*, int count) { return Drawn(dc) && count >= 2; }
-BOOL Polyline(HDC dc, const POINT*, int count) { return Drawn(dc) && count >= 2; }
-
-BOOL MoveToEx(HDC dc, int x, int y, LPPOINT previous)
-{
-    Dc* found = DcOf(dc);
-    if (!found)
-        return FALSE;
-    if (previous)
-        *previous = found->position;
-    found->position = {x, y};
-    return TRUE;
-}
-
-BOOL LineTo(HDC dc, int x, int y) { return MoveToEx(dc, x, y, nullptr); }
-COLORREF SetPixel(HDC dc, int, int, COLORREF color) { return Drawn(dc) ? color : CLR_INVALID; }
-
-BOOL BitBlt(HDC target, int, int, int, int, HDC source, int, int, DWORD operation)
-{
-    const bool needsSource = operation != BLACKNESS && operation != WHITENESS && operation != DSTINVERT &&
-                             operation != PATCOPY && operation != PATINVERT;
-    return Drawn(target) && (!needsSource || Drawn(source));
-}
-
-BOOL PatBlt(HDC dc, int, int, int, int, DWORD) { return Drawn(dc); }
-int IntersectClipRect(HDC dc, int, int, int, int) { return Drawn(dc) ? 2 : 0; } // SIMPLEREGION
-int ExcludeClipRect(HDC dc, int, int, int, int) { return Drawn(dc) ? 3 : 0; }   // COMPLEXREGION
-BOOL GdiFlush() { return TRUE; }

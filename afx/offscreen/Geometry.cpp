@@ -14,10 +14,7 @@ constexpr int kCaption = 19;
 constexpr int kSmallCaption = 16;
 constexpr int kScrollBar = 17;
 
-RECT Moved(RECT rect, POINT by)
-{
-    return {rect.left + by.x, rect.top + by.y, rect.right + by.x, rect.bottom + by.y};
-}
+RECT Moved(RECT rect, POINT by) { return {rect.left + by.x, rect.top + by.y, rect.right + by.x, rect.bottom + by.y}; }
 
 void SendPositionChanges(Window& window, const RECT& before, UINT flags)
 {
@@ -49,12 +46,8 @@ void Reorder(Window& window, HWND after)
     if (behind == &window || (behind && behind->parent != &parent))
         return;
 
-    (window.previous ? window.previous->next : parent.firstChild) = window.next;
-    (window.next ? window.next->previous : parent.lastChild) = window.previous;
-    window.previous = behind;
-    window.next = behind ? behind->next : parent.firstChild;
-    (window.previous ? window.previous->next : parent.firstChild) = &window;
-    (window.next ? window.next->previous : parent.lastChild) = &window;
+    Unlink(window);
+    Link(window, behind);
 }
 } // namespace
 
@@ -307,25 +300,35 @@ int GetSystemMetrics(int index)
     Inside inside;
     switch (index)
     {
-    case SM_CXSCREEN: return DesktopWindow().rect.right;
-    case SM_CYSCREEN: return DesktopWindow().rect.bottom;
+    case SM_CXSCREEN:
+        return DesktopWindow().rect.right;
+    case SM_CYSCREEN:
+        return DesktopWindow().rect.bottom;
     case SM_CXVSCROLL:
     case SM_CYHSCROLL:
-    case SM_CYVSCROLL: return kScrollBar;
+    case SM_CYVSCROLL:
+        return kScrollBar;
     case SM_CYCAPTION:
-    case SM_CYMENU: return kCaption;
+    case SM_CYMENU:
+        return kCaption;
     case SM_CXBORDER:
-    case SM_CYBORDER: return kBorder;
+    case SM_CYBORDER:
+        return kBorder;
     case SM_CXDLGFRAME:
-    case SM_CYDLGFRAME: return kDialogFrame;
+    case SM_CYDLGFRAME:
+        return kDialogFrame;
     case SM_CXFRAME:
     case SM_CYFRAME:
     case SM_CXDOUBLECLK:
-    case SM_CYDOUBLECLK: return 4;
-    case SM_DBCSENABLED: return GetACP() >= 932 && GetACP() <= 950;
+    case SM_CYDOUBLECLK:
+        return 4;
+    case SM_DBCSENABLED:
+        return GetACP() >= 932 && GetACP() <= 950;
     case SM_CXEDGE:
-    case SM_CYEDGE: return kEdge;
-    default: return NotModelled("GetSystemMetrics with this index", 0);
+    case SM_CYEDGE:
+        return kEdge;
+    default:
+        return NotModelled("GetSystemMetrics with this index", 0);
     }
 }
 

@@ -9,7 +9,8 @@ namespace offscreen
 // Gives objects handles that look like the system's: small numbers, never a pointer. A handle carries the generation of
 // its slot and slots are used again in turn, so the handle of a dead object finds nothing, and no object that is born
 // soon after takes its place.
-template <class Object> class HandleTable
+template <class Object>
+class HandleTable
 {
 public:
     explicit HandleTable(std::uintptr_t tag = 0) : m_tag(tag) {}
@@ -58,7 +59,8 @@ public:
 
     int Count() const { return m_count; }
 
-    template <class Visitor> void ForEach(Visitor visit) const
+    template <class Visitor>
+    void ForEach(Visitor visit) const
     {
         for (const Slot& slot : m_slots)
             if (slot.object)

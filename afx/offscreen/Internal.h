@@ -51,7 +51,8 @@ struct [[nodiscard]] Outside : InsideFlag
 };
 
 // Fails and returns `result`, for calls that the desktop does not model.
-template <class Result> Result NotModelled(const char* what, Result result)
+template <class Result>
+Result NotModelled(const char* what, Result result)
 {
     Fail("not modelled: %s", what);
     return result;
@@ -124,7 +125,6 @@ struct Window
     int pins = 0;
 
     bool IsChild() const { return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD; }
-    bool Has(DWORD styleBits) const { return (style & styleBits) == styleBits; }
 };
 
 Window* Find(HWND window);   // Nothing for a dead or foreign handle.
@@ -132,6 +132,10 @@ Window* Lookup(HWND window); // The same, and sets the last error.
 Window& DesktopWindow();
 Window& MessageRoot();
 void FreeIfDead(Window* window);
+void Unlink(Window& window);
+// Puts the window among its parent's children, behind `after`, or on top when that is null.
+void Link(Window& window, Window* after);
+std::vector<HWND> ChildrenOf(const Window& window);
 
 class Pin
 {
@@ -162,7 +166,7 @@ Window* RootOf(Window* window);
 bool IsEffectivelyVisible(const Window& window);
 bool IsEffectivelyEnabled(const Window& window);
 
-RECT ClientRectOf(const Window& window); // Origin 0, 0.
+RECT ClientRectOf(const Window& window);  // Origin 0, 0.
 POINT ClientOrigin(const Window& window); // On the screen.
 RECT ScreenRectOf(const Window& window);
 void FrameOf(DWORD style, DWORD exStyle, RECT& margins); // Thickness of the frame on each side.
@@ -180,7 +184,11 @@ LRESULT CALLBACK ComboBoxProc(HWND, UINT, WPARAM, LPARAM);
 LRESULT CALLBACK ScrollBarProc(HWND, UINT, WPARAM, LPARAM);
 
 // The state of a control, created when the window was.
-template <class State> State* StateOf(Window& window) { return static_cast<State*>(window.control.get()); }
+template <class State>
+State* StateOf(Window& window)
+{
+    return static_cast<State*>(window.control.get());
+}
 
 // ----------------------------------------------------------------------------------------- focus, activation, painting
 
@@ -215,7 +223,6 @@ void DrawItem(const Window& control, DRAWITEMSTRUCT& item);
 // Runs hooks of a kind; returns false (and leaves `result` alone) when there is none.
 bool RunHooks(int kind, int code, WPARAM wParam, LPARAM lParam, LRESULT* result = nullptr);
 void ForgetMessages(HWND window);
-bool QueueIsEmpty();
 // Reports that GetMessage would wait forever and makes it return WM_QUIT from now on.
 void ReportHang(const char* where);
 void ResetMessages();
@@ -234,9 +241,9 @@ BaseUnits BaseUnitsOf(HFONT font);
 // Runs a modal loop for a dialog until EndDialog was called for it.
 INT_PTR RunModal(HWND dialog, HWND owner);
 
-// --------------------------------------------------------------------------------------------------------- GDI and text
+// --------------------------------------------------------------------------------------------------------- GDI and
+// text
 
-int CountDcs();
 void CountGdi(Counts& counts);
 void ResetGdi();
 void ForgetDcsOf(HWND window);
@@ -268,10 +275,9 @@ int CharacterLength(std::string_view text, std::size_t position);
 // Start of the last character that starts before `position`.
 std::size_t PreviousCharacter(std::string_view text, std::size_t position);
 std::string ToAnsi(std::u16string_view wide);
-std::u16string ToWide(std::string_view text);
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
-int CompareTexts(std::string_view a, std::string_view b); // Ignoring case.
+int CompareTexts(std::string_view a, std::string_view b);        // Ignoring case.
 bool StartsWith(std::string_view text, std::string_view prefix); // Ignoring case.
 // The letter behind the & of a text, in upper case, 0 when there is none.
 char MnemonicOf(std::string_view text);
@@ -280,7 +286,8 @@ std::string WithoutMnemonic(std::string_view text);
 int CopyText(std::string_view text, LPSTR target, std::size_t size);
 void ResetCodePage();
 
-// ----------------------------------------------------------------------------------------------- resources and the rest
+// ----------------------------------------------------------------------------------------------- resources and the
+// rest
 
 struct Bytes
 {
@@ -294,12 +301,10 @@ int CountModules();
 
 void ResetMenus();
 int CountMenus();
-std::u16string_view ReadWideText(const WORD*& position, const WORD* end);
 
 void ResetClipboard();
 int CountGlobals();
 void ResetRegistry();
 int CountKeys();
 
-std::size_t ListCapacity();
 } // namespace offscreen

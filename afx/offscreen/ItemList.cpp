@@ -7,7 +7,6 @@ namespace
 std::size_t g_capacity = kNoListLimit;
 }
 
-std::size_t ListCapacity() { return g_capacity; }
 void SetListCapacity(std::size_t items) { g_capacity = items; }
 
 int ItemList::SortedPosition(Window& control, LPARAM textOrData) const
@@ -126,7 +125,8 @@ LRESULT ItemList::TextLength(WPARAM index) const
     return m_traits.hasStrings ? static_cast<LRESULT>(m_items[index].text.size()) : LRESULT{sizeof(DWORD)};
 }
 
-template <class Predicate> int ItemList::FindAfter(int start, Predicate matches) const
+template <class Predicate>
+int ItemList::FindAfter(int start, Predicate matches) const
 {
     const int count = Count();
     if (start < -1 || start >= count)
@@ -144,8 +144,7 @@ int ItemList::FindPrefix(int start, LPARAM text) const
 {
     if (!m_traits.hasStrings)
         return FindExact(start, text);
-    return FindAfter(start,
-                     [&](int index) { return StartsWith(Text(index), reinterpret_cast<LPCSTR>(text)); });
+    return FindAfter(start, [&](int index) { return StartsWith(Text(index), reinterpret_cast<LPCSTR>(text)); });
 }
 
 int ItemList::FindExact(int start, LPARAM text) const

@@ -50,7 +50,8 @@ private:
         LPARAM data = 0;
     };
 
-    template <class Predicate> int FindAfter(int start, Predicate matches) const;
+    template <class Predicate>
+    int FindAfter(int start, Predicate matches) const;
     int SortedPosition(Window& control, LPARAM textOrData) const;
     void TellDeleted(Window& control, int index) const;
 

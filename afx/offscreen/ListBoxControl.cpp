@@ -130,14 +130,27 @@ LRESULT HandleKey(Window& list, WPARAM key)
     switch (key)
     {
     case VK_LEFT:
-    case VK_UP: index = std::max(index - 1, 0); break;
+    case VK_UP:
+        index = std::max(index - 1, 0);
+        break;
     case VK_RIGHT:
-    case VK_DOWN: ++index; break;
-    case VK_PRIOR: index -= page; break;
-    case VK_NEXT: index = std::max(index, 0) + page; break;
-    case VK_HOME: index = 0; break;
-    case VK_END: index = count - 1; break;
-    default: return DefWindowProcA(list.handle, WM_KEYDOWN, key, 0);
+    case VK_DOWN:
+        ++index;
+        break;
+    case VK_PRIOR:
+        index -= page;
+        break;
+    case VK_NEXT:
+        index = std::max(index, 0) + page;
+        break;
+    case VK_HOME:
+        index = 0;
+        break;
+    case VK_END:
+        index = count - 1;
+        break;
+    default:
+        return DefWindowProcA(list.handle, WM_KEYDOWN, key, 0);
     }
     if (count)
         SelectByUser(list, std::clamp(index, 0, count - 1));
@@ -254,15 +267,13 @@ LRESULT HandleListMessage(Window& list, UINT message, WPARAM wParam, LPARAM lPar
     switch (message)
     {
     case LB_ADDSTRING:
-    case LB_INSERTSTRING:
-    {
+    case LB_INSERTSTRING: {
         const LRESULT index =
             message == LB_ADDSTRING ? items.Add(list, lParam) : items.Insert(list, static_cast<int>(wParam), lParam);
         Invalidate(list);
         return index;
     }
-    case LB_DELETESTRING:
-    {
+    case LB_DELETESTRING: {
         const LRESULT left = items.Remove(list, wParam);
         UpdateScrollBar(list);
         Invalidate(list);
@@ -273,51 +284,71 @@ LRESULT HandleListMessage(Window& list, UINT message, WPARAM wParam, LPARAM lPar
         state.top = 0;
         Invalidate(list);
         return LB_OKAY;
-    case LB_GETCOUNT: return items.Count();
-    case LB_SETCURSEL: return SetSelection(list, static_cast<int>(wParam));
+    case LB_GETCOUNT:
+        return items.Count();
+    case LB_SETCURSEL:
+        return SetSelection(list, static_cast<int>(wParam));
     case LB_GETCURSEL:
-    case LB_GETCARETINDEX: return items.Selection();
-    case LB_GETSEL: return items.IsIndex(wParam) ? static_cast<int>(wParam) == items.Selection() : LB_ERR;
-    case LB_GETTEXT: return items.CopyItem(wParam, lParam);
-    case LB_GETTEXTLEN: return items.TextLength(wParam);
-    case LB_GETITEMDATA: return items.IsIndex(wParam) ? items.Data(static_cast<int>(wParam)) : LB_ERR;
+    case LB_GETCARETINDEX:
+        return items.Selection();
+    case LB_GETSEL:
+        return items.IsIndex(wParam) ? static_cast<int>(wParam) == items.Selection() : LB_ERR;
+    case LB_GETTEXT:
+        return items.CopyItem(wParam, lParam);
+    case LB_GETTEXTLEN:
+        return items.TextLength(wParam);
+    case LB_GETITEMDATA:
+        return items.IsIndex(wParam) ? items.Data(static_cast<int>(wParam)) : LB_ERR;
     case LB_SETITEMDATA:
         if (!items.IsIndex(wParam))
             return LB_ERR;
         items.SetData(static_cast<int>(wParam), lParam);
         return TRUE;
-    case LB_FINDSTRING: return items.FindPrefix(start, lParam);
-    case LB_FINDSTRINGEXACT: return items.FindExact(start, lParam);
-    case LB_SELECTSTRING:
-    {
+    case LB_FINDSTRING:
+        return items.FindPrefix(start, lParam);
+    case LB_FINDSTRINGEXACT:
+        return items.FindExact(start, lParam);
+    case LB_SELECTSTRING: {
         const int index = items.FindPrefix(start, lParam);
         return index >= 0 ? SetSelection(list, index) : LB_ERR;
     }
-    case LB_GETTOPINDEX: return state.top;
+    case LB_GETTOPINDEX:
+        return state.top;
     case LB_SETTOPINDEX:
         if (!items.IsIndex(wParam))
             return LB_ERR;
         SetTop(list, static_cast<int>(wParam));
         return LB_OKAY;
-    case LB_SETTABSTOPS: return SetTabs(list, wParam, reinterpret_cast<const int*>(lParam));
-    case LB_GETITEMHEIGHT: return state.itemHeight;
-    case LB_SETITEMHEIGHT: state.itemHeight = static_cast<int>(lParam); return LB_OKAY;
+    case LB_SETTABSTOPS:
+        return SetTabs(list, wParam, reinterpret_cast<const int*>(lParam));
+    case LB_GETITEMHEIGHT:
+        return state.itemHeight;
+    case LB_SETITEMHEIGHT:
+        state.itemHeight = static_cast<int>(lParam);
+        return LB_OKAY;
     case LB_GETITEMRECT:
         *reinterpret_cast<RECT*>(lParam) = ItemRect(list, start);
         return items.IsIndex(wParam) ? LB_OKAY : LB_ERR;
-    case LB_ITEMFROMPOINT:
-    {
+    case LB_ITEMFROMPOINT: {
         const int index = ItemAt(list, GET_Y_LPARAM(lParam));
         return index >= 0 ? MAKELONG(index, 0) : MAKELONG(items.Count() - 1, 1);
     }
-    case LB_SETHORIZONTALEXTENT: state.extent = static_cast<int>(wParam); return LB_OKAY;
-    case LB_GETHORIZONTALEXTENT: return state.extent;
-    case LB_SETCARETINDEX: return items.IsIndex(wParam) ? LB_OKAY : LB_ERR;
-    case LB_INITSTORAGE: return items.Count() + static_cast<LRESULT>(wParam);
+    case LB_SETHORIZONTALEXTENT:
+        state.extent = static_cast<int>(wParam);
+        return LB_OKAY;
+    case LB_GETHORIZONTALEXTENT:
+        return state.extent;
+    case LB_SETCARETINDEX:
+        return items.IsIndex(wParam) ? LB_OKAY : LB_ERR;
+    case LB_INITSTORAGE:
+        return items.Count() + static_cast<LRESULT>(wParam);
     case LB_SETSEL:
     case LB_GETSELCOUNT:
-    case LB_GETSELITEMS: return LB_ERR; // Only lists with several selections answer these.
-    default: Fail("not modelled: list box message 0x%04X", message); return LB_ERR;
+    case LB_GETSELITEMS:
+        return LB_ERR; // Only lists with several selections answer these.
+    default:
+        Fail("not modelled: list box message 0x%04X", message);
+        return LB_ERR;
     }
 }
 } // namespace
@@ -347,19 +378,25 @@ LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lP
 
     switch (message)
     {
-    case WM_DESTROY: Of(list).items.Clear(list); return 0;
-    case WM_GETDLGCODE: return DLGC_WANTARROWS | DLGC_WANTCHARS;
+    case WM_DESTROY:
+        Of(list).items.Clear(list);
+        return 0;
+    case WM_GETDLGCODE:
+        return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_SETFONT:
         list.font = reinterpret_cast<HFONT>(wParam);
         SetItemHeight(list);
         if (lParam)
             Invalidate(list);
         return 0;
-    case WM_GETFONT: return reinterpret_cast<LRESULT>(list.font);
-    case WM_SIZE: AdjustHeight(list); return 0;
-    case WM_ERASEBKGND: return TRUE;
-    case WM_PAINT:
-    {
+    case WM_GETFONT:
+        return reinterpret_cast<LRESULT>(list.font);
+    case WM_SIZE:
+        AdjustHeight(list);
+        return 0;
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_PAINT: {
         PAINTSTRUCT paint;
         const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
         PaintOn(list, dc);
@@ -375,16 +412,23 @@ LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lP
         Invalidate(list);
         NotifyParent(list, LBN_KILLFOCUS);
         return 0;
-    case WM_ENABLE: Invalidate(list); return 0;
-    case WM_KEYDOWN: return HandleKey(list, wParam);
-    case WM_CHAR: return HandleChar(list, static_cast<char>(wParam));
+    case WM_ENABLE:
+        Invalidate(list);
+        return 0;
+    case WM_KEYDOWN:
+        return HandleKey(list, wParam);
+    case WM_CHAR:
+        return HandleChar(list, static_cast<char>(wParam));
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
-    case WM_LBUTTONDBLCLK: return HandleMouse(list, message, lParam);
+    case WM_LBUTTONDBLCLK:
+        return HandleMouse(list, message, lParam);
     case WM_GETTEXT:
     case WM_GETTEXTLENGTH:
-    case WM_SETTEXT: return DefWindowProcA(handle, message, wParam, lParam);
-    default: return DefWindowProcA(handle, message, wParam, lParam);
+    case WM_SETTEXT:
+        return DefWindowProcA(handle, message, wParam, lParam);
+    default:
+        return DefWindowProcA(handle, message, wParam, lParam);
     }
 }
 } // namespace offscreen

@@ -27,13 +27,20 @@ std::vector<Button> ButtonsOf(UINT type)
 {
     switch (type & MB_TYPEMASK)
     {
-    case MB_OK: return {kOk};
-    case MB_OKCANCEL: return {kOk, kCancel};
-    case MB_ABORTRETRYIGNORE: return {kAbort, kRetry, kIgnore};
-    case MB_YESNOCANCEL: return {kYes, kNo, kCancel};
-    case MB_YESNO: return {kYes, kNo};
-    case MB_RETRYCANCEL: return {kRetry, kCancel};
-    default: return {};
+    case MB_OK:
+        return {kOk};
+    case MB_OKCANCEL:
+        return {kOk, kCancel};
+    case MB_ABORTRETRYIGNORE:
+        return {kAbort, kRetry, kIgnore};
+    case MB_YESNOCANCEL:
+        return {kYes, kNo, kCancel};
+    case MB_YESNO:
+        return {kYes, kNo};
+    case MB_RETRYCANCEL:
+        return {kRetry, kCancel};
+    default:
+        return {};
     }
 }
 
@@ -64,18 +71,17 @@ Template BoxTemplate(LPCSTR text, LPCSTR caption, UINT type, const std::vector<B
     box.title.text = caption ? caption : "Error";
     box.font = TemplateFont{8, FW_NORMAL, false, DEFAULT_CHARSET, "MS Shell Dlg"};
     // The text comes before the icon, the buttons last, as in the system's own box.
-    box.controls.push_back(
-        Control(kIconId, "Static", "", SS_ICON, 8, 8, 20, 20));
+    box.controls.push_back(Control(kIconId, "Static", "", SS_ICON, 8, 8, 20, 20));
     if (!(type & MB_ICONMASK))
         box.controls.back().style &= ~WS_VISIBLE;
     box.controls.push_back(Control(kTextId, "Static", text ? text : "", SS_LEFT | SS_NOPREFIX, 36, 8, 196, 44));
     const UINT defaultButton = std::min<UINT>((type & MB_DEFMASK) >> 8, static_cast<UINT>(buttons.size()) - 1);
     int x = (kWidth - static_cast<int>(buttons.size()) * (kButton + 6)) / 2;
     for (std::size_t i = 0; i < buttons.size(); ++i, x += kButton + 6)
-        box.controls.push_back(Control(static_cast<DWORD>(buttons[i].id), "Button", buttons[i].text,
-                                       WS_TABSTOP | (i == 0 ? WS_GROUP : 0) |
-                                           (i == defaultButton ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
-                                       x, 60, kButton, 14));
+        box.controls.push_back(
+            Control(static_cast<DWORD>(buttons[i].id), "Button", buttons[i].text,
+                    WS_TABSTOP | (i == 0 ? WS_GROUP : 0) | (i == defaultButton ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON), x,
+                    60, kButton, 14));
     return box;
 }
 
@@ -93,8 +99,7 @@ INT_PTR CALLBACK BoxProc(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
         // The default button has the focus from the start.
         SetFocus(GetDlgItem(box, LOWORD(lParam)));
         return FALSE;
-    case WM_COMMAND:
-    {
+    case WM_COMMAND: {
         int id = LOWORD(wParam);
         // Esc answers a box with the OK button alone, and only boxes that have a Cancel button otherwise.
         if (id == IDCANCEL && !HasButton(box, IDCANCEL))
@@ -103,7 +108,8 @@ INT_PTR CALLBACK BoxProc(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
             EndDialog(box, id);
         return TRUE;
     }
-    default: return FALSE;
+    default:
+        return FALSE;
     }
 }
 } // namespace

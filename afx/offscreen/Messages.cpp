@@ -69,9 +69,9 @@ MSG MakeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
 bool IsWanted(const MSG& msg, HWND window, UINT first, UINT last)
 {
-    if (window == reinterpret_cast<HWND>(static_cast<LONG_PTR>(-1)) ? msg.hwnd != nullptr
-                                                                   : window && msg.hwnd != window &&
-                                                                         !IsChild(window, msg.hwnd))
+    if (window == reinterpret_cast<HWND>(static_cast<LONG_PTR>(-1))
+            ? msg.hwnd != nullptr
+            : window && msg.hwnd != window && !IsChild(window, msg.hwnd))
         return false;
     return (first == 0 && last == 0) || (msg.message >= first && msg.message <= last);
 }
@@ -114,8 +114,8 @@ bool TakePaint(MSG& msg, HWND window, UINT first, UINT last)
 Timer* EarliestTimer()
 {
     auto& timers = State().timers;
-    const auto earliest = std::min_element(timers.begin(), timers.end(),
-                                           [](const Timer& a, const Timer& b) { return a.due < b.due; });
+    const auto earliest =
+        std::min_element(timers.begin(), timers.end(), [](const Timer& a, const Timer& b) { return a.due < b.due; });
     return earliest == timers.end() ? nullptr : &*earliest;
 }
 
@@ -170,28 +170,50 @@ char CharacterOf(WPARAM key)
         return static_cast<char>(key - VK_NUMPAD0 + '0');
     switch (key)
     {
-    case VK_SPACE: return ' ';
-    case VK_RETURN: return '\r';
-    case VK_TAB: return '\t';
-    case VK_BACK: return '\b';
-    case VK_ESCAPE: return '\x1B';
-    case VK_MULTIPLY: return '*';
-    case VK_ADD: return '+';
-    case VK_SUBTRACT: return '-';
-    case VK_DECIMAL: return '.';
-    case VK_DIVIDE: return '/';
-    case 0xBA: return shift ? ':' : ';';
-    case 0xBB: return shift ? '+' : '=';
-    case 0xBC: return shift ? '<' : ',';
-    case VK_OEM_MINUS: return shift ? '_' : '-';
-    case VK_OEM_PERIOD: return shift ? '>' : '.';
-    case 0xBF: return shift ? '?' : '/';
-    case 0xC0: return shift ? '~' : '`';
-    case 0xDB: return shift ? '{' : '[';
-    case 0xDC: return shift ? '|' : '\\';
-    case 0xDD: return shift ? '}' : ']';
-    case 0xDE: return shift ? '"' : '\'';
-    default: return 0;
+    case VK_SPACE:
+        return ' ';
+    case VK_RETURN:
+        return '\r';
+    case VK_TAB:
+        return '\t';
+    case VK_BACK:
+        return '\b';
+    case VK_ESCAPE:
+        return '\x1B';
+    case VK_MULTIPLY:
+        return '*';
+    case VK_ADD:
+        return '+';
+    case VK_SUBTRACT:
+        return '-';
+    case VK_DECIMAL:
+        return '.';
+    case VK_DIVIDE:
+        return '/';
+    case 0xBA:
+        return shift ? ':' : ';';
+    case 0xBB:
+        return shift ? '+' : '=';
+    case 0xBC:
+        return shift ? '<' : ',';
+    case VK_OEM_MINUS:
+        return shift ? '_' : '-';
+    case VK_OEM_PERIOD:
+        return shift ? '>' : '.';
+    case 0xBF:
+        return shift ? '?' : '/';
+    case 0xC0:
+        return shift ? '~' : '`';
+    case 0xDB:
+        return shift ? '{' : '[';
+    case 0xDC:
+        return shift ? '|' : '\\';
+    case 0xDD:
+        return shift ? '}' : ']';
+    case 0xDE:
+        return shift ? '"' : '\'';
+    default:
+        return 0;
     }
 }
 } // namespace
@@ -248,12 +270,6 @@ void ForgetMessages(HWND window)
     std::erase_if(state.timers, [=](const Timer& timer) { return timer.window == window; });
 }
 
-bool QueueIsEmpty()
-{
-    const MessageState& state = State();
-    return state.queue.empty() && !state.quitting && !NextWindowToPaint();
-}
-
 void ReportHang(const char* where)
 {
     MessageState& state = State();
@@ -263,10 +279,7 @@ void ReportHang(const char* where)
     state.quitting = true;
 }
 
-void ResetMessages()
-{
-    State() = MessageState{};
-}
+void ResetMessages() { State() = MessageState{}; }
 
 int CountTimers() { return static_cast<int>(State().timers.size()); }
 int CountHooks() { return static_cast<int>(State().hooks.size()); }
@@ -366,7 +379,8 @@ LRESULT DispatchMessageA(const MSG* message)
         return 0;
     // A procedure that ignores WM_PAINT would be asked again forever.
     const Pin pin(found);
-    const LRESULT result = CallProc(found->procedure, message->hwnd, message->message, message->wParam, message->lParam);
+    const LRESULT result =
+        CallProc(found->procedure, message->hwnd, message->message, message->wParam, message->lParam);
     if (message->message == WM_PAINT && !found->dead && found->needsPaint)
         ForgetPaint(*found);
     return result;
@@ -417,11 +431,10 @@ UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callbac
 BOOL KillTimer(HWND window, UINT_PTR id)
 {
     Inside inside;
-    const auto gone = std::erase_if(State().timers,
-                                    [=](const Timer& timer) { return timer.window == window && timer.id == id; });
-    std::erase_if(State().queue, [=](const MSG& msg) {
-        return msg.message == WM_TIMER && msg.hwnd == window && msg.wParam == id;
-    });
+    const auto gone =
+        std::erase_if(State().timers, [=](const Timer& timer) { return timer.window == window && timer.id == id; });
+    std::erase_if(State().queue,
+                  [=](const MSG& msg) { return msg.message == WM_TIMER && msg.hwnd == window && msg.wParam == id; });
     return gone > 0;
 }
 

@@ -7,8 +7,8 @@ namespace offscreen
 {
 namespace
 {
-constexpr WORD kDosSignature = 0x5A4D;      // "MZ"
-constexpr DWORD kPeSignature = 0x00004550;  // "PE"
+constexpr WORD kDosSignature = 0x5A4D;     // "MZ"
+constexpr DWORD kPeSignature = 0x00004550; // "PE"
 constexpr WORD kMachineX86 = 0x014C;
 constexpr WORD kOptionalHeader32 = 0x010B;
 constexpr std::size_t kFileHeader = 4;      // Behind the signature
@@ -18,7 +18,8 @@ constexpr std::size_t kSectionSize = 40;
 constexpr DWORD kSubdirectory = 0x80000000u;
 } // namespace
 
-template <class T> T PeImage::Read(std::size_t offset) const
+template <class T>
+T PeImage::Read(std::size_t offset) const
 {
     T value{};
     if (Has(offset, sizeof value))

@@ -4,8 +4,8 @@
 
 namespace offscreen
 {
-// Reads the resources of a 32-bit PE file as it lies on disk. Every offset in the file is checked before it is followed,
-// so a damaged file has fewer resources, or none, and nothing worse.
+// Reads the resources of a 32-bit PE file as it lies on disk. Every offset in the file is checked before it is
+// followed, so a damaged file has fewer resources, or none, and nothing worse.
 class PeImage
 {
 public:
@@ -22,7 +22,8 @@ public:
 
 private:
     bool Has(std::size_t offset, std::size_t size) const { return offset <= m_size && size <= m_size - offset; }
-    template <class T> T Read(std::size_t offset) const;
+    template <class T>
+    T Read(std::size_t offset) const;
     std::size_t OffsetOf(DWORD address, std::size_t size) const;
     bool FindChild(std::size_t directory, LPCSTR name, std::size_t& child, bool& isDirectory) const;
     bool NameMatches(DWORD nameField, LPCSTR name) const;

@@ -75,15 +75,28 @@ bool HandleKey(Window& bar, WPARAM key)
     UINT code = 0;
     switch (key)
     {
-    case VK_PRIOR: code = SB_PAGEUP; break;
-    case VK_NEXT: code = SB_PAGEDOWN; break;
-    case VK_HOME: code = SB_TOP; break;
-    case VK_END: code = SB_BOTTOM; break;
+    case VK_PRIOR:
+        code = SB_PAGEUP;
+        break;
+    case VK_NEXT:
+        code = SB_PAGEDOWN;
+        break;
+    case VK_HOME:
+        code = SB_TOP;
+        break;
+    case VK_END:
+        code = SB_BOTTOM;
+        break;
     case VK_UP:
-    case VK_LEFT: code = SB_LINEUP; break;
+    case VK_LEFT:
+        code = SB_LINEUP;
+        break;
     case VK_DOWN:
-    case VK_RIGHT: code = SB_LINEDOWN; break;
-    default: return false;
+    case VK_RIGHT:
+        code = SB_LINEDOWN;
+        break;
+    default:
+        return false;
     }
     ScrollParent(bar, code);
     if (!bar.dead)
@@ -144,7 +157,8 @@ LRESULT CALLBACK ScrollBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM 
 
     switch (message)
     {
-    case WM_GETDLGCODE: return DLGC_WANTARROWS;
+    case WM_GETDLGCODE:
+        return DLGC_WANTARROWS;
     case WM_KEYDOWN:
         if (!HandleKey(bar, wParam))
             return DefWindowProcA(handle, message, wParam, lParam);
@@ -155,20 +169,21 @@ LRESULT CALLBACK ScrollBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM 
         if (!bar.dead)
             HandleClick(bar, lParam);
         return 0;
-    case WM_ERASEBKGND: return TRUE;
-    case WM_PAINT:
-    {
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_PAINT: {
         PAINTSTRUCT paint;
         const HDC dc = BeginPaint(handle, &paint);
         AskParentForColors(bar, WM_CTLCOLORSCROLLBAR, dc);
         EndPaint(handle, &paint);
         return 0;
     }
-    case SBM_SETPOS: return SetScrollPos(handle, SB_CTL, static_cast<int>(wParam), static_cast<BOOL>(lParam));
-    case SBM_GETPOS: return GetScrollPos(handle, SB_CTL);
+    case SBM_SETPOS:
+        return SetScrollPos(handle, SB_CTL, static_cast<int>(wParam), static_cast<BOOL>(lParam));
+    case SBM_GETPOS:
+        return GetScrollPos(handle, SB_CTL);
     case SBM_SETRANGE:
-    case SBM_SETRANGEREDRAW:
-    {
+    case SBM_SETRANGEREDRAW: {
         const int before = GetScrollPos(handle, SB_CTL);
         SetScrollRange(handle, SB_CTL, static_cast<int>(wParam), static_cast<int>(lParam), FALSE);
         return before != GetScrollPos(handle, SB_CTL) ? before : 0;
@@ -177,9 +192,12 @@ LRESULT CALLBACK ScrollBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM 
         return GetScrollRange(handle, SB_CTL, reinterpret_cast<LPINT>(wParam), reinterpret_cast<LPINT>(lParam));
     case SBM_SETSCROLLINFO:
         return SetScrollInfo(handle, SB_CTL, reinterpret_cast<LPCSCROLLINFO>(lParam), static_cast<BOOL>(wParam));
-    case SBM_GETSCROLLINFO: return GetScrollInfo(handle, SB_CTL, reinterpret_cast<LPSCROLLINFO>(lParam));
-    case SBM_ENABLE_ARROWS: return EnableScrollBar(handle, SB_CTL, static_cast<UINT>(wParam));
-    default: return DefWindowProcA(handle, message, wParam, lParam);
+    case SBM_GETSCROLLINFO:
+        return GetScrollInfo(handle, SB_CTL, reinterpret_cast<LPSCROLLINFO>(lParam));
+    case SBM_ENABLE_ARROWS:
+        return EnableScrollBar(handle, SB_CTL, static_cast<UINT>(wParam));
+    default:
+        return DefWindowProcA(handle, message, wParam, lParam);
     }
 }
 } // namespace offscreen

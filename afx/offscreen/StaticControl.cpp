@@ -35,8 +35,10 @@ bool HasText(const Window& control)
     {
     case SS_ICON:
     case SS_BITMAP:
-    case SS_ENHMETAFILE: return false;
-    default: return true;
+    case SS_ENHMETAFILE:
+        return false;
+    default:
+        return true;
     }
 }
 } // namespace
@@ -53,8 +55,11 @@ LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
 
     switch (message)
     {
-    case WM_CREATE: control.control = std::make_unique<StaticState>(); return 0;
-    case WM_GETDLGCODE: return DLGC_STATIC;
+    case WM_CREATE:
+        control.control = std::make_unique<StaticState>();
+        return 0;
+    case WM_GETDLGCODE:
+        return DLGC_STATIC;
     case WM_SETFONT:
         if (!HasText(control))
             return 0;
@@ -62,15 +67,16 @@ LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
         if (LOWORD(lParam))
             Invalidate(control);
         return 0;
-    case WM_GETFONT: return reinterpret_cast<LRESULT>(control.font);
+    case WM_GETFONT:
+        return reinterpret_cast<LRESULT>(control.font);
     case WM_ENABLE:
         Invalidate(control);
         if (control.style & SS_NOTIFY)
             NotifyParent(control, wParam ? STN_ENABLE : STN_DISABLE);
         return 0;
-    case WM_ERASEBKGND: return TRUE;
-    case WM_PAINT:
-    {
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_PAINT: {
         PAINTSTRUCT paint;
         const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
         PaintOn(control, dc);
@@ -78,8 +84,11 @@ LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
             EndPaint(handle, &paint);
         return 0;
     }
-    case WM_PRINTCLIENT: PaintOn(control, reinterpret_cast<HDC>(wParam)); return 0;
-    case WM_NCHITTEST: return control.style & SS_NOTIFY ? HTCLIENT : HTTRANSPARENT;
+    case WM_PRINTCLIENT:
+        PaintOn(control, reinterpret_cast<HDC>(wParam));
+        return 0;
+    case WM_NCHITTEST:
+        return control.style & SS_NOTIFY ? HTCLIENT : HTTRANSPARENT;
     case WM_LBUTTONDOWN:
         if (control.style & SS_NOTIFY)
             NotifyParent(control, STN_CLICKED);
@@ -95,8 +104,10 @@ LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
         return reinterpret_cast<LRESULT>(
             std::exchange(state->image, reinterpret_cast<HANDLE>(message == STM_SETICON ? wParam : lParam)));
     case STM_GETIMAGE:
-    case STM_GETICON: return state ? reinterpret_cast<LRESULT>(state->image) : 0;
-    default: return DefWindowProcA(handle, message, wParam, lParam);
+    case STM_GETICON:
+        return state ? reinterpret_cast<LRESULT>(state->image) : 0;
+    default:
+        return DefWindowProcA(handle, message, wParam, lParam);
     }
 }
 } // namespace offscreen

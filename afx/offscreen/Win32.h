@@ -1,8 +1,8 @@
 #pragma once
 
-// The part of the Win32 API (ANSI functions) that the MFC classes, the dialogs and their tests use, for systems that are
-// not Windows. Names, values and signatures are those of <windows.h> compiled without UNICODE and with STRICT, so that
-// the same sources compile against either. The functions work on windows that are kept in memory; what they do is
+// The part of the Win32 API (ANSI functions) that the MFC classes, the dialogs and their tests use, for systems that
+// are not Windows. Names, values and signatures are those of <windows.h> compiled without UNICODE and with STRICT, so
+// that the same sources compile against either. The functions work on windows that are kept in memory; what they do is
 // described by the Windows documentation and not repeated here.
 
 #include <cstddef>
@@ -101,7 +101,7 @@ typedef void* HGDIOBJ;
 typedef HANDLE HGLOBAL;
 typedef HANDLE HLOCAL;
 
-#define DECLARE_HANDLE(name)                                                                                          \
+#define DECLARE_HANDLE(name)                                                                                           \
     struct name##__                                                                                                    \
     {                                                                                                                  \
         int unused;                                                                                                    \
@@ -475,7 +475,7 @@ typedef HELPINFO* LPHELPINFO;
 // ------------------------------------------------------------------------------------------------------ small macros
 
 #define MAKEWORD(low, high) ((WORD)(((BYTE)((DWORD_PTR)(low)&0xff)) | ((WORD)((BYTE)((DWORD_PTR)(high)&0xff))) << 8))
-#define MAKELONG(low, high)                                                                                           \
+#define MAKELONG(low, high)                                                                                            \
     ((LONG)(((WORD)((DWORD_PTR)(low)&0xffff)) | ((DWORD)((WORD)((DWORD_PTR)(high)&0xffff))) << 16))
 #define LOWORD(l) ((WORD)((DWORD_PTR)(l)&0xffff))
 #define HIWORD(l) ((WORD)((DWORD_PTR)(l) >> 16))
@@ -680,8 +680,7 @@ typedef HELPINFO* LPHELPINFO;
 #define WS_TABSTOP 0x00010000U
 #define WS_MINIMIZEBOX 0x00020000U
 #define WS_MAXIMIZEBOX 0x00010000U
-#define WS_OVERLAPPEDWINDOW                                                                                           \
-    (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
+#define WS_OVERLAPPEDWINDOW (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
 #define WS_POPUPWINDOW (WS_POPUP | WS_BORDER | WS_SYSMENU)
 #define WS_CHILDWINDOW WS_CHILD
 
@@ -1954,7 +1953,7 @@ int _chdrive(int drive);
 
 // ------------------------------------------------------------------------- names without suffix, as without UNICODE
 
-#define CreateWindowA(cls, text, style, x, y, cx, cy, parent, menu, instance, param)                                  \
+#define CreateWindowA(cls, text, style, x, y, cx, cy, parent, menu, instance, param)                                   \
     CreateWindowExA(0, cls, text, style, x, y, cx, cy, parent, menu, instance, param)
 #define CreateDialogA(instance, name, owner, proc) CreateDialogParamA(instance, name, owner, proc, 0)
 #define CreateDialogIndirectA(instance, tmpl, owner, proc) CreateDialogIndirectParamA(instance, tmpl, owner, proc, 0)

@@ -54,8 +54,7 @@ WindowClass* FindClass(LPCSTR name)
 {
     for (WindowClass& windowClass : Classes())
     {
-        if (IS_INTRESOURCE(name) ? windowClass.atom == LOWORD(name)
-                                 : strcasecmp(windowClass.name.c_str(), name) == 0)
+        if (IS_INTRESOURCE(name) ? windowClass.atom == LOWORD(name) : strcasecmp(windowClass.name.c_str(), name) == 0)
             return &windowClass;
     }
     return nullptr;
@@ -175,11 +174,16 @@ ULONG_PTR GetClassLongPtrA(HWND window, int index)
         return 0;
     switch (index)
     {
-    case GCL_STYLE: return found->windowClass->style;
-    case GCLP_HBRBACKGROUND: return reinterpret_cast<ULONG_PTR>(found->windowClass->background);
-    case GCLP_HCURSOR: return reinterpret_cast<ULONG_PTR>(found->windowClass->cursor);
-    case GCLP_WNDPROC: return reinterpret_cast<ULONG_PTR>(found->windowClass->procedure);
-    default: return NotModelled("GetClassLong with this index", 0);
+    case GCL_STYLE:
+        return found->windowClass->style;
+    case GCLP_HBRBACKGROUND:
+        return reinterpret_cast<ULONG_PTR>(found->windowClass->background);
+    case GCLP_HCURSOR:
+        return reinterpret_cast<ULONG_PTR>(found->windowClass->cursor);
+    case GCLP_WNDPROC:
+        return reinterpret_cast<ULONG_PTR>(found->windowClass->procedure);
+    default:
+        return NotModelled("GetClassLong with this index", 0);
     }
 }
 

@@ -195,10 +195,7 @@ TEST_F(ComboBoxControl, LosingTheFocusRollsUp)
     EXPECT_FALSE(Send(CB_GETDROPPEDSTATE));
 }
 
-TEST_F(ComboBoxControl, AsksForKeysOfADialog)
-{
-    EXPECT_EQ(Send(WM_GETDLGCODE), DLGC_WANTARROWS | DLGC_WANTCHARS);
-}
+TEST_F(ComboBoxControl, AsksForKeysOfADialog) { EXPECT_EQ(Send(WM_GETDLGCODE), DLGC_WANTARROWS | DLGC_WANTCHARS); }
 
 TEST_F(SortedComboBox, KeepsItemsInOrder)
 {

@@ -125,9 +125,8 @@ TEST(DialogGeometry, AListBoxShowsWholeItems)
 
 TEST(DialogGeometry, WindowsMoveAndGrow)
 {
-    TestDialog dialog(TemplateBuilder(kDialog | WS_VISIBLE)
-                          .Place(20, 30, 100, 80)
-                          .Control(kButton, 1, "x", 0, 10, 10, 20, 10));
+    TestDialog dialog(
+        TemplateBuilder(kDialog | WS_VISIBLE).Place(20, 30, 100, 80).Control(kButton, 1, "x", 0, 10, 10, 20, 10));
     dialog.Note(WM_SIZE);
     dialog.Note(WM_MOVE);
     SetWindowPos(dialog.Window(), nullptr, 0, 0, 300, 200, SWP_NOMOVE | SWP_NOZORDER);
@@ -161,8 +160,7 @@ TEST(DialogGeometry, AnEditLeavesAMarginAroundItsText)
                           .Control(kEdit, 1, "", WS_BORDER, 0, 0, 40, 12)
                           .Control(kEdit, 2, "", WS_BORDER | ES_MULTILINE, 0, 20, 40, 40)
                           .Control(kEdit, 3, "", 0, 0, 80, 40, 12));
-    for (const auto& [id, expected] :
-         {std::pair<int, const char*>{1, "1,1 54x13"}, {2, "1,1 54x52"}, {3, "0,0 60x13"}})
+    for (const auto& [id, expected] : {std::pair<int, const char*>{1, "1,1 54x13"}, {2, "1,1 54x52"}, {3, "0,0 60x13"}})
     {
         RECT rect{};
         dialog.Send(id, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&rect));

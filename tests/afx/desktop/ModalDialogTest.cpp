@@ -279,8 +279,7 @@ TEST_F(ModalDialog, MessageBoxButtonsByType)
                                 [&](HWND box) {
                                     for (int candidate = IDOK; candidate <= IDNO; ++candidate)
                                     {
-                                        const bool expected =
-                                            std::find(all.begin(), all.end(), candidate) != all.end();
+                                        const bool expected = std::find(all.begin(), all.end(), candidate) != all.end();
                                         const HWND button = GetDlgItem(box, candidate);
                                         EXPECT_EQ(button && IsWindowVisible(button), expected) << candidate;
                                     }
@@ -335,21 +334,39 @@ LRESULT CALLBACK LifeProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
     const char* name = nullptr;
     switch (message)
     {
-    case WM_NCCREATE: name = "nccreate"; break;
-    case WM_CREATE: name = "create"; break;
-    case WM_DESTROY: name = "destroy"; break;
-    case WM_NCDESTROY: name = "ncdestroy"; break;
-    case WM_SHOWWINDOW: name = wParam ? "show" : "hide"; break;
-    case WM_ENABLE: name = wParam ? "enable" : "disable"; break;
-    case WM_SETFOCUS: name = "focus"; break;
-    case WM_KILLFOCUS: name = "unfocus"; break;
-    case WM_ACTIVATE: name = LOWORD(wParam) ? "activate" : "deactivate"; break;
-    default: break;
+    case WM_NCCREATE:
+        name = "nccreate";
+        break;
+    case WM_CREATE:
+        name = "create";
+        break;
+    case WM_DESTROY:
+        name = "destroy";
+        break;
+    case WM_NCDESTROY:
+        name = "ncdestroy";
+        break;
+    case WM_SHOWWINDOW:
+        name = wParam ? "show" : "hide";
+        break;
+    case WM_ENABLE:
+        name = wParam ? "enable" : "disable";
+        break;
+    case WM_SETFOCUS:
+        name = "focus";
+        break;
+    case WM_KILLFOCUS:
+        name = "unfocus";
+        break;
+    case WM_ACTIVATE:
+        name = LOWORD(wParam) ? "activate" : "deactivate";
+        break;
+    default:
+        break;
     }
     if (name)
-        g_life += std::to_string(GetWindowLongPtrA(window, GWL_STYLE) & static_cast<LONG>(WS_CHILD)
-                                     ? GetDlgCtrlID(window)
-                                     : 0) +
+        g_life += std::to_string(
+                      GetWindowLongPtrA(window, GWL_STYLE) & static_cast<LONG>(WS_CHILD) ? GetDlgCtrlID(window) : 0) +
                   name + " ";
     return DefWindowProcA(window, message, wParam, lParam);
 }

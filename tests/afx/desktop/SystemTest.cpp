@@ -34,7 +34,8 @@ TEST(Gdi, TheDialogFontHasTheWidthsOfItsFace)
     Dc dc;
     for (int height : {-12, -11})
     {
-        const HFONT font = CreateFontA(height, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
+        const HFONT font =
+            CreateFontA(height, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
         const HGDIOBJ before = SelectObject(dc, font);
         EXPECT_EQ(Width(dc, "SPD1"), 28);
         EXPECT_EQ(Width(dc, "(168)"), 24);
@@ -62,10 +63,11 @@ TEST(Gdi, LargerAndBoldFonts)
         int expectedHeight;
         int expectedWidth;
     };
-    for (const Case& c : {Case{-13, FW_NORMAL, 16, 27}, {-15, FW_NORMAL, 16, 27}, {-16, FW_NORMAL, 20, 33},
-                          {-12, FW_BOLD, 13, 24}})
+    for (const Case& c :
+         {Case{-13, FW_NORMAL, 16, 27}, {-15, FW_NORMAL, 16, 27}, {-16, FW_NORMAL, 20, 33}, {-12, FW_BOLD, 13, 24}})
     {
-        const HFONT font = CreateFontA(c.height, 0, 0, 0, c.weight, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
+        const HFONT font =
+            CreateFontA(c.height, 0, 0, 0, c.weight, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
         const HGDIOBJ before = SelectObject(dc, font);
         SIZE size{};
         GetTextExtentPoint32A(dc, "ABC", 3, &size);

@@ -24,8 +24,8 @@ public:
     // `ordinal` is 0x80 Button, 0x81 Edit, 0x82 Static, 0x83 ListBox, 0x84 ScrollBar, 0x85 ComboBox.
     TemplateBuilder& Control(WORD ordinal, DWORD id, const char* title, DWORD style, short x = 0, short y = 0,
                              short width = 50, short height = 14, DWORD exStyle = 0);
-    TemplateBuilder& Control(const char* className, DWORD id, const char* title, DWORD style, short x = 0,
-                             short y = 0, short width = 50, short height = 14, DWORD exStyle = 0);
+    TemplateBuilder& Control(const char* className, DWORD id, const char* title, DWORD style, short x = 0, short y = 0,
+                             short width = 50, short height = 14, DWORD exStyle = 0);
 
     LPCDLGTEMPLATE Build();
 

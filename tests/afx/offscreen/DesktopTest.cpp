@@ -92,8 +92,8 @@ TEST_F(OffscreenDesktop, FailsLoudlyWhenItWouldWaitForever)
     EXPECT_EQ(failures.Count(), 1u);
     // A modal dialog without anybody to answer it ends too.
     TemplateBuilder builder(kDialog);
-    DialogBoxIndirectParamA(nullptr, builder.Build(), nullptr, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; },
-                            0);
+    DialogBoxIndirectParamA(
+        nullptr, builder.Build(), nullptr, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
     while (PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE))
         ;
     EXPECT_GE(failures.Count(), 1u);
@@ -112,7 +112,8 @@ TEST_F(OffscreenDesktop, FailsLoudlyAtWhatItDoesNotModel)
     dialog.Send(2, LB_DIR);
     dialog.Send(3, CB_DIR);
     EXPECT_EQ(failures.Count(), 3u);
-    EXPECT_EQ(CreateWindowExA(0, "ComboBox", "", CBS_DROPDOWN, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr), nullptr);
+    EXPECT_EQ(CreateWindowExA(0, "ComboBox", "", CBS_DROPDOWN, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr),
+              nullptr);
     EXPECT_EQ(failures.Count(), 4u);
 }
 
@@ -121,13 +122,14 @@ TEST_F(OffscreenDesktop, KnowsWhetherItIsAtWork)
     static bool insideProcedure = true;
     EXPECT_FALSE(offscreen::IsInside());
     TemplateBuilder builder(kDialog);
-    const HWND dialog = CreateDialogIndirectParamA(nullptr, builder.Build(), nullptr,
-                                                   [](HWND, UINT message, WPARAM, LPARAM) -> INT_PTR {
-                                                       if (message == WM_INITDIALOG)
-                                                           insideProcedure = offscreen::IsInside();
-                                                       return FALSE;
-                                                   },
-                                                   0);
+    const HWND dialog = CreateDialogIndirectParamA(
+        nullptr, builder.Build(), nullptr,
+        [](HWND, UINT message, WPARAM, LPARAM) -> INT_PTR {
+            if (message == WM_INITDIALOG)
+                insideProcedure = offscreen::IsInside();
+            return FALSE;
+        },
+        0);
     EXPECT_FALSE(insideProcedure);
     EXPECT_FALSE(offscreen::IsInside());
     DestroyWindow(dialog);
@@ -135,8 +137,7 @@ TEST_F(OffscreenDesktop, KnowsWhetherItIsAtWork)
 
 TEST_F(OffscreenDesktop, ListsRefuseItemsOverTheirCapacity)
 {
-    TestDialog dialog(
-        TemplateBuilder(kDialog).Control(kListBox, 1, "", 0).Control(kComboBox, 2, "", CBS_DROPDOWNLIST));
+    TestDialog dialog(TemplateBuilder(kDialog).Control(kListBox, 1, "", 0).Control(kComboBox, 2, "", CBS_DROPDOWNLIST));
     offscreen::SetListCapacity(2);
     EXPECT_EQ(dialog.Send(1, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("a")), 0);
     EXPECT_EQ(dialog.Send(1, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("b")), 1);
@@ -478,7 +479,10 @@ TEST_F(OffscreenDesktop, IsFast)
     TemplateBuilder builder(kDialog);
     builder.Font(9, "MS Sans Serif");
     for (DWORD id = 1; id <= 36; ++id)
-        builder.Control(id % 3 ? kStatic : id % 2 ? kEdit : kComboBox, id, "text", id % 3 ? 0 : CBS_DROPDOWNLIST | WS_TABSTOP);
+        builder.Control(id % 3   ? kStatic
+                        : id % 2 ? kEdit
+                                 : kComboBox,
+                        id, "text", id % 3 ? 0 : CBS_DROPDOWNLIST | WS_TABSTOP);
     const LPCDLGTEMPLATE dialogTemplate = builder.Build();
     const auto start = std::chrono::steady_clock::now();
     constexpr int kRounds = 200;

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "afx/offscreen/EditLines.h"
+
+// The parts of the standard class "Edit". Texts are bytes in the ANSI code page; no operation cuts a double-byte
+// character.
+namespace offscreen::edit
+{
+constexpr UINT kInitialLimit = 30000;
+
+struct Undo
+{
+    bool possible = false;
+    std::string text;
+    int start = 0;
+    int end = 0;
+};
+
+struct EditState : ControlState
+{
+    int anchor = 0; // The end of the selection that stays.
+    int caret = 0;  // The end that moves.
+    UINT limit = kInitialLimit;
+    bool modified = false;
+    bool focused = false;
+    bool inDialog = false; // Keys have come through a dialog's keyboard handling.
+    char lead = 0;         // First byte of a double-byte character whose second byte is to come.
+    char passwordChar = 0;
+    int leftMargin = 0;
+    int rightMargin = 0;
+    RECT format{};
+    int scrolled = 0; // First visible character, or line in a multi-line edit.
+    bool typing = false;
+    Undo undo;
+    EditLines lines;
+    bool linesValid = false;
+
+    int Start() const { return std::min(anchor, caret); }
+    int End() const { return std::max(anchor, caret); }
+};
+
+inline EditState& Of(Window& edit) { return *StateOf<EditState>(edit); }
+inline bool IsMultiLine(const Window& edit) { return (edit.style & ES_MULTILINE) != 0; }
+inline bool IsReadOnly(const Window& edit) { return (edit.style & ES_READONLY) != 0; }
+inline int LengthOf(const Window& edit) { return static_cast<int>(edit.text.size()); }
+
+// EditLayout.cpp: where the characters are.
+void UpdateFormat(Window& edit); // After a change of the size, the font or the margins
+const EditLines& LinesOf(Window& edit);
+int LineCount(Window& edit);
+int LineOf(Window& edit, int position);
+int VisibleLines(Window& edit);
+int FormatWidth(const Window& edit);
+void ScrollToCaret(Window& edit);
+POINT PositionOf(Window& edit, int index);
+int IndexAt(Window& edit, POINT point);
+
+// EditText.cpp: the text and the selection.
+enum class Change
+{
+    Typed,
+    Replaced
+};
+
+int OnCharacter(const Window& edit, int position);             // Back to the start of the character
+std::string InCase(const Window& edit, std::string_view text); // In upper or lower case, as the edit wants it
+void SetSelection(Window& edit, int start, int end);
+// Replaces the selection as the user would, within the limit, and tells the parent.
+void ReplaceSelection(Window& edit, std::string_view text, bool canUndo, Change change = Change::Replaced);
+void SetWholeText(Window& edit, LPCSTR text);
+void NotifyChange(Window& edit);
+bool UndoChange(Window& edit);
+void Copy(const Window& edit);
+void Paste(Window& edit);
+void Clear(Window& edit);
+void Cut(Window& edit);
+
+// EditKeyboard.cpp: what the user does.
+void HandleChar(Window& edit, char c);
+LRESULT HandleKey(Window& edit, WPARAM key);
+LRESULT HandleMouse(Window& edit, UINT message, WPARAM wParam, LPARAM lParam);
+} // namespace offscreen::edit

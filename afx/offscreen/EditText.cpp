@@ -1,0 +1,222 @@
+// The text of an edit: selection, changes within the limit, undo, clipboard.
+
+#include "afx/offscreen/EditState.h"
+
+#include <cstring>
+
+namespace offscreen::edit
+{
+int OnCharacter(const Window& edit, int position)
+{
+    // Never between the bytes of a double-byte character.
+    int start = 0;
+    while (start < position)
+    {
+        const int length = CharacterLength(edit.text, static_cast<std::size_t>(start));
+        if (start + length > position)
+            return start;
+        start += length;
+    }
+    return position;
+}
+
+void SetSelection(Window& edit, int start, int end)
+{
+    EditState& state = Of(edit);
+    const int length = LengthOf(edit);
+    state.typing = false;
+    if (start == -1)
+    {
+        state.anchor = state.caret;
+    }
+    else
+    {
+        state.anchor = OnCharacter(edit, start < 0 || start > length ? length : start);
+        state.caret = OnCharacter(edit, end < 0 || end > length ? length : end);
+    }
+    Invalidate(edit);
+}
+
+namespace
+{
+// The longest beginning of `text` that is no longer than `size` and ends with a whole character.
+std::string_view WholeCharacters(std::string_view text, std::size_t size)
+{
+    std::size_t end = 0;
+    while (end < text.size())
+    {
+        const auto length = static_cast<std::size_t>(CharacterLength(text, end));
+        if (end + length > size)
+            break;
+        end += length;
+    }
+    return text.substr(0, end);
+}
+} // namespace
+
+std::string InCase(const Window& edit, std::string_view text)
+{
+    if (edit.style & ES_UPPERCASE)
+        return UpperCase(text);
+    if (edit.style & ES_LOWERCASE)
+        return LowerCase(text);
+    return std::string(text);
+}
+
+namespace
+{
+// A single-line edit that does not scroll takes only what fits in its width.
+std::string_view FittingPart(const Window& edit, std::string_view rest, std::string_view text)
+{
+    const FontMetrics& metrics = MetricsOf(edit.font);
+    const int width = FormatWidth(edit) - TextWidth(metrics, rest);
+    std::size_t end = text.size();
+    while (end > 0 && TextWidth(metrics, text.substr(0, end)) > width)
+        end = PreviousCharacter(text, end);
+    return text.substr(0, end);
+}
+
+void RememberForUndo(EditState& state, const std::string& text, Change change)
+{
+    if (change == Change::Typed && state.typing)
+        return;
+    state.undo = {true, text, state.Start(), state.End()};
+    state.typing = change == Change::Typed;
+}
+} // namespace
+
+void NotifyChange(Window& edit)
+{
+    NotifyParent(edit, EN_UPDATE);
+    if (!edit.dead)
+    {
+        Invalidate(edit);
+        NotifyParent(edit, EN_CHANGE);
+    }
+}
+
+void ReplaceSelection(Window& edit, std::string_view text, bool canUndo, Change change)
+{
+    EditState& state = Of(edit);
+    const int start = state.Start();
+    const int end = state.End();
+    const std::string rest =
+        edit.text.substr(0, static_cast<std::size_t>(start)) + edit.text.substr(static_cast<std::size_t>(end));
+    std::string inserted = InCase(edit, text);
+
+    if (rest.size() + inserted.size() > state.limit)
+    {
+        inserted = WholeCharacters(inserted, state.limit > rest.size() ? state.limit - rest.size() : 0);
+        NotifyParent(edit, EN_MAXTEXT);
+    }
+    else if (!IsMultiLine(edit) && !(edit.style & ES_AUTOHSCROLL) && !inserted.empty())
+    {
+        const std::size_t fitting = FittingPart(edit, rest, inserted).size();
+        if (fitting < inserted.size())
+        {
+            inserted.resize(fitting);
+            NotifyParent(edit, EN_MAXTEXT);
+        }
+    }
+    if (edit.dead)
+        return;
+
+    if (inserted.empty() && start == end)
+    {
+        if (!text.empty())
+            ScrollToCaret(edit);
+        return;
+    }
+    if (canUndo)
+        RememberForUndo(state, edit.text, change);
+    else
+        state.undo = {};
+    edit.text = rest;
+    edit.text.insert(static_cast<std::size_t>(start), inserted);
+    state.anchor = state.caret = start + static_cast<int>(inserted.size());
+    state.modified = true;
+    state.linesValid = false;
+    ScrollToCaret(edit);
+    NotifyChange(edit);
+}
+
+void SetWholeText(Window& edit, LPCSTR text)
+{
+    EditState& state = Of(edit);
+    edit.text = InCase(edit, text ? text : "");
+    state.anchor = state.caret = 0;
+    state.scrolled = 0;
+    state.modified = false;
+    state.undo = {};
+    state.typing = false;
+    state.lead = 0;
+    state.linesValid = false;
+    Invalidate(edit);
+    // A multi-line edit keeps quiet about texts that the program sets.
+    if (!IsMultiLine(edit))
+        NotifyChange(edit);
+}
+
+bool UndoChange(Window& edit)
+{
+    EditState& state = Of(edit);
+    if (!state.undo.possible || IsReadOnly(edit))
+        return false;
+    Undo redo{true, edit.text, state.Start(), state.End()};
+    edit.text = state.undo.text;
+    state.anchor = state.undo.start;
+    state.caret = state.undo.end;
+    state.undo = std::move(redo);
+    state.typing = false;
+    state.linesValid = false;
+    ScrollToCaret(edit);
+    NotifyChange(edit);
+    return true;
+}
+
+void Copy(const Window& edit)
+{
+    const EditState& state = Of(const_cast<Window&>(edit));
+    if (state.Start() == state.End() || (edit.style & ES_PASSWORD) || !OpenClipboard(edit.handle))
+        return;
+    const auto size = static_cast<std::size_t>(state.End() - state.Start());
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size + 1);
+    auto* target = static_cast<char*>(GlobalLock(memory));
+    std::memcpy(target, edit.text.data() + state.Start(), size);
+    target[size] = 0;
+    GlobalUnlock(memory);
+    EmptyClipboard();
+    SetClipboardData(CF_TEXT, memory);
+    CloseClipboard();
+}
+
+void Paste(Window& edit)
+{
+    if (IsReadOnly(edit) || !OpenClipboard(edit.handle))
+        return;
+    std::string text;
+    if (const HANDLE memory = GetClipboardData(CF_TEXT))
+    {
+        const auto* data = static_cast<const char*>(GlobalLock(memory));
+        text.assign(data, strnlen(data, GlobalSize(memory)));
+        GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    if (!IsMultiLine(edit)) // Only the first line finds room.
+        text.resize(std::min(text.find_first_of("\r\n"), text.size()));
+    if (!text.empty())
+        ReplaceSelection(edit, text, true);
+}
+
+void Clear(Window& edit)
+{
+    if (!IsReadOnly(edit))
+        ReplaceSelection(edit, {}, true);
+}
+
+void Cut(Window& edit)
+{
+    Copy(edit);
+    Clear(edit);
+}
+} // namespace offscreen::edit

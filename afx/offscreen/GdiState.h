@@ -1,0 +1,59 @@
+#pragma once
+
+#include "afx/offscreen/Internal.h"
+
+#include <map>
+
+namespace offscreen
+{
+struct GdiObject
+{
+    DWORD kind = 0; // OBJ_...
+    bool stock = false;
+    LOGFONTA font{};
+    LOGBRUSH brush{};
+    LOGPEN pen{};
+    BITMAP bitmap{};
+    const FontMetrics* metrics = nullptr;
+};
+
+struct DcSettings
+{
+    COLORREF textColor = RGB(0, 0, 0);
+    COLORREF backgroundColor = RGB(255, 255, 255);
+    int backgroundMode = OPAQUE;
+    UINT align = TA_LEFT | TA_TOP;
+    HGDIOBJ font = nullptr;
+    HGDIOBJ brush = nullptr;
+    HGDIOBJ pen = nullptr;
+    HGDIOBJ bitmap = nullptr;
+    POINT position{};
+};
+
+struct Dc : DcSettings
+{
+    HWND window = nullptr;
+    bool memory = false;
+    std::vector<DcSettings> saved;
+};
+
+struct GdiState
+{
+    HandleTable<GdiObject> objects{1};
+    HandleTable<Dc> dcs{2};
+    HGDIOBJ stock[DEFAULT_GUI_FONT + 1] = {};
+    HBRUSH systemBrushes[COLOR_INFOBK + 1] = {};
+    int stockObjects = 0;
+    bool recording = false;
+    std::map<HWND, std::vector<DrawnText>> drawn;
+};
+
+GdiState& Gdi();
+Dc* DcOf(HDC handle);
+void NoteText(const Dc& dc, int x, int y, std::string_view text);
+
+inline std::string_view View(LPCSTR text, int length)
+{
+    return length < 0 ? std::string_view(text) : std::string_view(text, static_cast<std::size_t>(length));
+}
+} // namespace offscreen
