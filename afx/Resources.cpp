@@ -9,8 +9,6 @@ HINSTANCE AfxGetResourceHandle() { return resourceHandle ? resourceHandle : AfxG
 
 void AfxSetResourceHandle(HINSTANCE resources) { resourceHandle = resources; }
 
-HINSTANCE AfxGetProgramHandle() { return ::GetModuleHandleA(nullptr); }
-
 HINSTANCE AfxFindResourceHandle(LPCSTR, LPCSTR) { return AfxGetResourceHandle(); }
 
 int AfxLoadString(UINT id, LPSTR buffer, UINT size)

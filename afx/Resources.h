@@ -12,10 +12,6 @@ AFX_API void AfxSetResourceHandle(HINSTANCE resources);
 /// The module that contains this code: the library or, where the code is linked directly, the program.
 AFX_API HINSTANCE AfxGetInstanceHandle();
 
-/// The program that runs, whoever asks. A host that uses the library as a DLL makes its own resources the ones in use
-/// with it.
-AFX_API HINSTANCE AfxGetProgramHandle();
-
 /// The module to look for a resource in: always the one in use, there is no fallback.
 AFX_API HINSTANCE AfxFindResourceHandle(LPCSTR name, LPCSTR type);
 

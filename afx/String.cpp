@@ -78,7 +78,8 @@ CString::CString(char c, int count)
 
 CString& CString::operator=(const CString& other)
 {
-    Assign(other, other.GetLength());
+    if (this != &other)
+        Assign(other, other.GetLength());
     return *this;
 }
 

@@ -4,13 +4,22 @@ int AfxCharLength(LPCSTR text) { return IsDBCSLeadByte(static_cast<BYTE>(*text))
 
 LONG AfxGetDialogBaseUnits() { return GetDialogBaseUnits(); }
 
+// The full path of a module, however long; empty when there is no such module.
+static CString ModulePath(HINSTANCE module)
+{
+    CString path;
+    for (DWORD size = MAX_PATH;; size *= 2)
+    {
+        const DWORD length = ::GetModuleFileNameA(module, path.GetBuffer(static_cast<int>(size)), size);
+        path.ReleaseBuffer(length < size ? static_cast<int>(length) : 0);
+        if (length < size)
+            return path;
+    }
+}
+
 CString AfxGetModuleFolder(HINSTANCE module)
 {
-    char path[MAX_PATH];
-    const DWORD length = ::GetModuleFileNameA(module, path, MAX_PATH);
-    if (length == 0 || length >= MAX_PATH)
-        return CString();
-
+    const CString path = ModulePath(module);
     // Searched from the front: the second byte of a character may look like a backslash.
     int folderLength = 0;
     for (LPCSTR at = path; *at; at += AfxCharLength(at))
@@ -18,5 +27,7 @@ CString AfxGetModuleFolder(HINSTANCE module)
         if (*at == '\\' || *at == '/')
             folderLength = static_cast<int>(at - path) + 1;
     }
-    return CString(path, folderLength);
+    return path.Left(folderLength);
 }
+
+HINSTANCE AfxGetProgramHandle() { return ::GetModuleHandleA(nullptr); }

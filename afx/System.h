@@ -13,3 +13,7 @@ AFX_API LONG AfxGetDialogBaseUnits();
 /// The folder that a module was loaded from, with a closing backslash; null means the program. Empty when it cannot be
 /// told.
 AFX_API CString AfxGetModuleFolder(HINSTANCE module);
+
+/// The program that runs, whoever asks. A host that uses the library as a DLL makes its own resources the ones in use
+/// with it.
+AFX_API HINSTANCE AfxGetProgramHandle();

@@ -296,7 +296,8 @@ void CWnd::CenterWindow(CWnd* other)
 
     CRect place;
     GetWindowRect(place);
-    CPoint corner = around.CenterPoint() - CSize(place.Width() / 2, place.Height() / 2);
+    CPoint corner = around.CenterPoint();
+    corner.Offset(-(place.Width() / 2), -(place.Height() / 2));
     if (screen.PtInRect(around.CenterPoint())) // else on another screen, of whose size nothing is known
     {
         corner.x = Clamp(corner.x, place.Width(), screen.left, screen.right);
