@@ -129,9 +129,10 @@ bool IsLeadByte(unsigned char c) { return IsLeadByteIn(g_codePage, c); }
 
 int CharacterLength(std::string_view text, std::size_t position)
 {
-    return position + 1 < text.size() && text[position + 1] && IsLeadByte(static_cast<unsigned char>(text[position]))
-               ? 2
-               : 1;
+    constexpr unsigned char kFirstTrailByte = 0x30; // Of all code pages: a line break never ends a character.
+    const bool hasTrail =
+        position + 1 < text.size() && static_cast<unsigned char>(text[position + 1]) >= kFirstTrailByte;
+    return hasTrail && IsLeadByte(static_cast<unsigned char>(text[position])) ? 2 : 1;
 }
 
 std::size_t PreviousCharacter(std::string_view text, std::size_t position)

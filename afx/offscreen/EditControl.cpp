@@ -186,7 +186,7 @@ LRESULT HandleEditMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lPar
     case EM_SETTABSTOPS:
         return IsMultiLine(edit);
     case EM_POSFROMCHAR: {
-        if (static_cast<int>(wParam) >= LengthOf(edit))
+        if (wParam >= edit.text.size())
             return -1;
         const POINT point = PositionOf(edit, static_cast<int>(wParam));
         return MAKELONG(point.x, point.y);

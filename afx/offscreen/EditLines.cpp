@@ -47,6 +47,6 @@ void EditLines::BreakParagraph(std::string_view text, int start, int end, const 
 int EditLines::LineOf(int position) const
 {
     const auto next = std::upper_bound(m_starts.begin(), m_starts.end(), position);
-    return static_cast<int>(next - m_starts.begin()) - 1;
+    return std::max(static_cast<int>(next - m_starts.begin()) - 1, 0);
 }
 } // namespace offscreen

@@ -2,11 +2,13 @@
 
 #include "tests/afx/desktop/TestDialog.h"
 
+#include <sstream>
+
 using namespace desktop;
 
 namespace
 {
-std::string g_asked;
+std::ostringstream g_asked;
 UINT g_height = 0;
 
 INT_PTR CALLBACK DrawingProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
@@ -14,8 +16,7 @@ INT_PTR CALLBACK DrawingProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
     if (message == WM_MEASUREITEM)
     {
         auto* measure = reinterpret_cast<MEASUREITEMSTRUCT*>(lParam);
-        g_asked += "m" + std::to_string(measure->CtlID) + "," + std::to_string(measure->CtlType) + "," +
-                   std::to_string(static_cast<int>(measure->itemID)) + " ";
+        g_asked << "m" << measure->CtlID << "," << measure->CtlType << "," << static_cast<int>(measure->itemID) << " ";
         if (g_height)
             measure->itemHeight = g_height;
         return TRUE;
@@ -26,9 +27,8 @@ INT_PTR CALLBACK DrawingProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
         EXPECT_EQ(item->hwndItem, GetDlgItem(dialog, static_cast<int>(item->CtlID)));
         EXPECT_EQ(wParam, item->CtlID);
         EXPECT_NE(item->hDC, nullptr);
-        g_asked += "d" + std::to_string(item->CtlID) + "," + std::to_string(item->CtlType) + "," +
-                   std::to_string(static_cast<int>(item->itemID)) + "," + std::to_string(item->itemData) +
-                   (item->itemState & ODS_DISABLED ? ",disabled" : "") + " ";
+        g_asked << "d" << item->CtlID << "," << item->CtlType << "," << static_cast<int>(item->itemID) << ","
+                << item->itemData << (item->itemState & ODS_DISABLED ? ",disabled " : " ");
         return TRUE;
     }
     if (message == WM_COMPAREITEM)
@@ -39,7 +39,7 @@ INT_PTR CALLBACK DrawingProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
     if (message == WM_DELETEITEM)
     {
         const auto* deleted = reinterpret_cast<const DELETEITEMSTRUCT*>(lParam);
-        g_asked += "x" + std::to_string(deleted->CtlID) + "," + std::to_string(deleted->itemData) + " ";
+        g_asked << "x" << deleted->CtlID << "," << deleted->itemData << " ";
         return TRUE;
     }
     return message == WM_INITDIALOG;
@@ -47,8 +47,8 @@ INT_PTR CALLBACK DrawingProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
 
 std::string Asked()
 {
-    std::string asked;
-    asked.swap(g_asked);
+    const std::string asked = g_asked.str();
+    g_asked.str("");
     return asked;
 }
 

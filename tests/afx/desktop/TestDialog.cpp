@@ -161,11 +161,10 @@ INT_PTR CALLBACK TestDialog::Procedure(HWND dialog, UINT message, WPARAM wParam,
     if (!self)
         return FALSE;
     if (message == WM_COMMAND)
-        self->m_log += (self->m_log.empty() ? "" : " ") + std::to_string(LOWORD(wParam)) + ":" +
-                       std::to_string(static_cast<short>(HIWORD(wParam)));
+        self->m_log << LOWORD(wParam) << ":" << static_cast<short>(HIWORD(wParam)) << " ";
     for (UINT noted : self->m_noted)
         if (noted == message)
-            self->m_log += (self->m_log.empty() ? "#" : " #") + std::to_string(message);
+            self->m_log << "#" << message << " ";
     return message == WM_INITDIALOG;
 }
 
@@ -179,8 +178,10 @@ int TestDialog::FocusId() const
 
 std::string TestDialog::Log()
 {
-    std::string log;
-    log.swap(m_log);
+    std::string log = m_log.str();
+    m_log.str("");
+    if (!log.empty())
+        log.pop_back(); // The last blank
     return log;
 }
 

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -98,7 +99,7 @@ private:
     void Deliver(UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND m_window = nullptr;
-    std::string m_log;
+    std::ostringstream m_log;
     std::vector<UINT> m_noted;
 };
 

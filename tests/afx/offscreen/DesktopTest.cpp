@@ -404,6 +404,78 @@ TEST_F(OffscreenDesktop, SurvivesItsWindowsVanishingInNotifications)
     EXPECT_LT(g_seen, g_destroyAt); // The last rounds ran through.
 }
 
+TEST_F(OffscreenDesktop, SurvivesRandomMessages)
+{
+    Failures failures; // Much of it is not modelled.
+    unsigned random = 99;
+    const auto next = [&](unsigned limit) {
+        random = random * 1103515245u + 12345u;
+        return (random >> 8) % limit;
+    };
+    constexpr UINT kKeys[] = {VK_UP,     VK_DOWN, VK_LEFT,   VK_RIGHT,  VK_HOME,  VK_END, VK_PRIOR, VK_NEXT,
+                              VK_DELETE, VK_TAB,  VK_RETURN, VK_ESCAPE, VK_SPACE, VK_F4,  VK_BACK,  VK_INSERT};
+    // Messages without pointers
+    constexpr UINT kPlain[] = {EM_SETSEL,       EM_LIMITTEXT,     EM_SCROLLCARET,   EM_UNDO,        EM_LINEINDEX,
+                               EM_LINELENGTH,   EM_LINEFROMCHAR,  EM_GETLINECOUNT,  EM_LINESCROLL,  EM_SETREADONLY,
+                               EM_POSFROMCHAR,  EM_CHARFROMPOS,   EM_SETMARGINS,    CB_SETCURSEL,   CB_DELETESTRING,
+                               CB_SHOWDROPDOWN, CB_SETITEMHEIGHT, CB_GETLBTEXTLEN,  CB_SETITEMDATA, LB_SETCURSEL,
+                               LB_DELETESTRING, LB_SETTOPINDEX,   LB_ITEMFROMPOINT, LB_SETITEMDATA, BM_SETCHECK,
+                               BM_SETSTATE,     BM_SETSTYLE,      WM_ENABLE,        WM_CLEAR,       WM_COPY,
+                               WM_CUT,          WM_PASTE,         WM_UNDO,          WM_PAINT,       WM_SETFONT,
+                               WM_KILLFOCUS,    SBM_SETPOS,       SBM_SETRANGE};
+    constexpr UINT kTexts[] = {CB_ADDSTRING,    CB_SELECTSTRING,    CB_FINDSTRING, LB_ADDSTRING,
+                               LB_INSERTSTRING, LB_FINDSTRINGEXACT, EM_REPLACESEL, WM_SETTEXT};
+    for (int round = 0; round < 30; ++round)
+    {
+        CodePage codePage(round % 2 ? 932 : 1252);
+        TestDialog dialog(TemplateBuilder(kDialog)
+                              .Control(kEdit, 1, "abc", ES_AUTOHSCROLL | WS_TABSTOP)
+                              .Control(kEdit, 2, "abc", ES_MULTILINE | WS_TABSTOP | WS_VSCROLL)
+                              .Control(kEdit, 3, "abc", ES_NUMBER | ES_UPPERCASE | WS_TABSTOP)
+                              .Control(kComboBox, 4, "", CBS_DROPDOWNLIST | WS_TABSTOP)
+                              .Control(kListBox, 5, "", LBS_NOTIFY | LBS_SORT | WS_TABSTOP)
+                              .Control(kButton, 6, "&x", BS_AUTOCHECKBOX | WS_TABSTOP)
+                              .Control(kButton, 7, "&y", BS_AUTORADIOBUTTON | WS_TABSTOP | WS_GROUP)
+                              .Control(kScrollBar, 8, "", SBS_VERT | WS_TABSTOP)
+                              .Control(kStatic, 9, "&z", 0));
+        for (int step = 0; step < 600; ++step)
+        {
+            const HWND control = dialog.Item(static_cast<int>(next(9)) + 1);
+            const auto small = static_cast<WPARAM>(static_cast<LPARAM>(next(12)) - 2);
+            const LPARAM point = MAKELPARAM(next(120) - 10, next(60) - 10);
+            const char text[] = {
+                static_cast<char>(next(255) + 1), static_cast<char>(next(255) + 1), '\r', '\n', 'a', 0};
+            switch (next(7))
+            {
+            case 0:
+                SendMessageA(control, WM_CHAR, next(256), 1);
+                break;
+            case 1:
+                SendMessageA(control, WM_KEYDOWN, kKeys[next(std::size(kKeys))], 1);
+                break;
+            case 2:
+                dialog.Key(kKeys[next(std::size(kKeys))], next(2) != 0);
+                break;
+            case 3:
+                SendMessageA(control, WM_MOUSEMOVE + next(4), MK_LBUTTON, point);
+                break;
+            case 4:
+                SendMessageA(control, kPlain[next(std::size(kPlain))], small, static_cast<LPARAM>(next(9)) - 1);
+                break;
+            case 5:
+                SendMessageA(control, kTexts[next(std::size(kTexts))], small, reinterpret_cast<LPARAM>(text + next(3)));
+                break;
+            default:
+                SetFocus(control);
+                break;
+            }
+        }
+    }
+    OpenClipboard(nullptr);
+    EmptyClipboard();
+    CloseClipboard();
+}
+
 // ---------------------------------------------------------------------------- as documented, though not everywhere so
 
 TEST_F(OffscreenDesktop, AnInvalidIndexClearsTheSelectionOfAComboBox)
