@@ -7,7 +7,11 @@ class CSize : public SIZE
 {
 public:
     CSize() : CSize(0, 0) {}
-    CSize(int width, int height) : SIZE{width, height} {}
+    CSize(int width, int height)
+    {
+        cx = width;
+        cy = height;
+    }
     CSize(const SIZE& size) : SIZE(size) {}
 };
 
@@ -15,7 +19,11 @@ class CPoint : public POINT
 {
 public:
     CPoint() : CPoint(0, 0) {}
-    CPoint(int left, int top) : POINT{left, top} {}
+    CPoint(int left, int top)
+    {
+        x = left;
+        y = top;
+    }
     CPoint(const POINT& point) : POINT(point) {}
     /// From the parameter of a mouse message.
     explicit CPoint(LPARAM packed) : CPoint(static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))) {}
@@ -35,7 +43,7 @@ class CRect : public RECT
 {
 public:
     CRect() : CRect(0, 0, 0, 0) {}
-    CRect(int l, int t, int r, int b) : RECT{l, t, r, b} {}
+    CRect(int l, int t, int r, int b) { ::SetRect(this, l, t, r, b); }
     CRect(const RECT& rect) : RECT(rect) {}
     CRect(POINT corner, SIZE size) : CRect(corner.x, corner.y, corner.x + size.cx, corner.y + size.cy) {}
     CRect(POINT topLeft, POINT bottomRight) : CRect(topLeft.x, topLeft.y, bottomRight.x, bottomRight.y) {}
