@@ -16,6 +16,7 @@ struct ListBoxState : ControlState
     int extent = 0;
     std::vector<int> tabs; // In dialog units.
     bool pressed = false;
+    bool mayScroll = false; // Created with WS_VSCROLL; the style is set while the bar is there.
 };
 
 bool IsOwnerDrawn(const Window& list) { return (list.style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0; }
@@ -27,11 +28,30 @@ int VisibleItems(const Window& list, const ListBoxState& state)
     return std::max<int>(ClientRectOf(list).bottom / std::max(state.itemHeight, 1), 1);
 }
 
+void UpdateScrollBar(Window& list)
+{
+    const ListBoxState& state = Of(list);
+    if (!state.mayScroll)
+        return;
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    info.nMax = state.items.Count() - 1;
+    info.nPage = static_cast<UINT>(VisibleItems(list, state));
+    info.nPos = state.top;
+    if (info.nMax < info.nMin)
+        info.nMax = info.nMin;
+    if (list.style & LBS_DISABLENOSCROLL)
+        info.fMask |= SIF_DISABLENOSCROLL;
+    SetScrollInfo(list.handle, SB_VERT, &info, FALSE);
+}
+
 void SetTop(Window& list, int top)
 {
     ListBoxState& state = Of(list);
     const int last = std::max(state.items.Count() - VisibleItems(list, state), 0);
     state.top = std::clamp(top, 0, last);
+    UpdateScrollBar(list);
 }
 
 void ShowItem(Window& list, int index)
@@ -77,13 +97,6 @@ void AdjustHeight(Window& list)
     if (height > state.itemHeight && rest)
         SetWindowPos(list.handle, nullptr, 0, 0, list.rect.right - list.rect.left,
                      list.rect.bottom - list.rect.top - rest, SWP_NOZORDER | SWP_NOMOVE | SWP_NOACTIVATE);
-}
-
-void UpdateScrollBar(Window& list)
-{
-    if (!(list.style & (WS_VSCROLL | LBS_DISABLENOSCROLL)))
-        return;
-    SetTop(list, Of(list).top);
 }
 
 void PaintOn(Window& list, HDC dc)
@@ -232,6 +245,8 @@ LRESULT Create(Window& list)
     if (traits.ownerDrawnType)
         Measure(list);
     AdjustHeight(list);
+    Of(list).mayScroll = (list.style & WS_VSCROLL) != 0;
+    UpdateScrollBar(list);
     return 0;
 }
 
@@ -270,18 +285,19 @@ LRESULT HandleListMessage(Window& list, UINT message, WPARAM wParam, LPARAM lPar
     case LB_INSERTSTRING: {
         const LRESULT index =
             message == LB_ADDSTRING ? items.Add(list, lParam) : items.Insert(list, static_cast<int>(wParam), lParam);
+        UpdateScrollBar(list);
         Invalidate(list);
         return index;
     }
     case LB_DELETESTRING: {
         const LRESULT left = items.Remove(list, wParam);
-        UpdateScrollBar(list);
+        SetTop(list, state.top);
         Invalidate(list);
         return left;
     }
     case LB_RESETCONTENT:
         items.Clear(list);
-        state.top = 0;
+        SetTop(list, 0);
         Invalidate(list);
         return LB_OKAY;
     case LB_GETCOUNT:
@@ -386,6 +402,7 @@ LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lP
     case WM_SETFONT:
         list.font = reinterpret_cast<HFONT>(wParam);
         SetItemHeight(list);
+        SetTop(list, Of(list).top);
         if (lParam)
             Invalidate(list);
         return 0;
@@ -393,6 +410,7 @@ LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lP
         return reinterpret_cast<LRESULT>(list.font);
     case WM_SIZE:
         AdjustHeight(list);
+        SetTop(list, Of(list).top);
         return 0;
     case WM_ERASEBKGND:
         return TRUE;

@@ -12,7 +12,7 @@ namespace
 // of them stand for the rest.
 #if defined(_WIN32)
 constexpr unsigned kTexts = 10000;
-constexpr unsigned kStep = 37;
+constexpr unsigned kStep = 11;
 #else
 constexpr unsigned kTexts = 12000;
 constexpr unsigned kStep = 1;

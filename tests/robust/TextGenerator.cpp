@@ -138,7 +138,7 @@ std::string CTextGenerator::LongText()
 
 std::string GeneratedText(unsigned index)
 {
-    constexpr unsigned kLongOnesApart = 997;
+    constexpr unsigned kLongOnesApart = 211;
     CTextGenerator generator(index);
     return index % kLongOnesApart == 1 ? generator.LongText() : generator.Text();
 }

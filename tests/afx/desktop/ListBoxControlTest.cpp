@@ -182,3 +182,26 @@ TEST_F(QuietListBox, TellsOfTheFocusOnly)
     EXPECT_EQ(dialog.Log(), "1:5");
     EXPECT_EQ(Send(LB_GETCURSEL), 1);
 }
+
+TEST_F(ListBoxControl, HasAScrollBarOnlyWhenItNeedsOne)
+{
+    const auto bar = [this] { return (GetWindowLongA(list(), GWL_STYLE) & static_cast<LONG>(WS_VSCROLL)) != 0; };
+    const auto width = [this] {
+        RECT client{};
+        GetClientRect(list(), &client);
+        return client.right;
+    };
+    EXPECT_FALSE(bar());
+    EXPECT_EQ(width(), 90);
+    Fill(4);
+    EXPECT_FALSE(bar());
+    Fill(1);
+    EXPECT_TRUE(bar());
+    EXPECT_EQ(width(), 90 - 17);
+    Send(LB_DELETESTRING, 0);
+    EXPECT_FALSE(bar());
+    Fill(9);
+    Send(LB_RESETCONTENT);
+    EXPECT_FALSE(bar());
+    EXPECT_EQ(width(), 90);
+}

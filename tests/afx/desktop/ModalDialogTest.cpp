@@ -489,3 +489,14 @@ TEST(WindowLife, TimersTick)
     DestroyWindow(window);
     TakeLife();
 }
+
+TEST_F(ModalDialog, EndingAModelessDialogHidesItAndEnablesItsOwner)
+{
+    TestDialog dialog(OkAndCancel(), owner);
+    ShowWindow(dialog.Window(), SW_SHOW);
+    EnableWindow(owner, FALSE);
+    EXPECT_TRUE(EndDialog(dialog.Window(), 1));
+    EXPECT_TRUE(IsWindow(dialog.Window()));
+    EXPECT_FALSE(IsWindowVisible(dialog.Window()));
+    EXPECT_TRUE(IsWindowEnabled(owner));
+}

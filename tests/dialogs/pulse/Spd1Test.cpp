@@ -29,6 +29,7 @@ void CSpd1Test::Confirm(ESpd1Variant variant, const Scene& scene)
         EXPECT_EQ(dialog.ClickAndAnswer(IDOK), CString()) << "OK was refused";
     };
     EXPECT_EQ(Play([this] { return m_wizard.DoOpenPosDlg(0, 1, nullptr); }, {Choose(variant), confirm}), IDOK);
+    m_confirmed = variant;
 }
 
 void CSpd1Test::Leave(ESpd1Variant variant, const Scene& scene)
@@ -47,7 +48,8 @@ void CSpd1Test::Leave(ESpd1Variant variant, const Scene& scene)
 void CSpd1Test::Remember(ESpd1Variant variant, const SResults& results)
 {
     // Only a confirmed dialog makes its instruction the last one; the lists of any other would be emptied.
-    Confirm(variant, [](CDialogRobot& dialog) { FillIn(dialog, {}); });
+    if (m_confirmed != variant)
+        Confirm(variant, [](CDialogRobot& dialog) { FillIn(dialog, {}); });
     WriteResults(m_wizard, results);
 }
 
@@ -89,6 +91,7 @@ void ExpectRefusal(CDialogRobot& dialog, unsigned message, unsigned edit)
     EXPECT_EQ(dialog.ClickAndAnswer(IDOK), CString(MessageText(message).c_str()));
     ASSERT_EQ(dialog.MessageBoxes().size(), boxes + 1);
     EXPECT_EQ(dialog.MessageBoxes().back().caption, CString("Ladder tool"));
+    EXPECT_EQ(dialog.MessageBoxes().back().icon, UINT{MB_ICONEXCLAMATION});
     EXPECT_TRUE(dialog.IsOpen());
     EXPECT_EQ(dialog.FocusId(), edit);
     const std::pair<int, int> all = {0, dialog.Text(edit).GetLength()};

@@ -7,6 +7,8 @@
 
 #include "resources/resource.h"
 
+#include <optional>
+
 class CSpd1Test : public CDesktopTest
 {
 protected:
@@ -32,6 +34,9 @@ protected:
 
     CFunWizard m_wizard;
     bool m_registerComments = true;
+
+private:
+    std::optional<ESpd1Variant> m_confirmed; // last
 };
 
 /// The name under which a device stands in the list of contacts.

@@ -2,72 +2,81 @@
 
 #include "afx/Platform.h"
 
-#include <functional>
+#include <algorithm>
+#include <cstdint>
 #include <vector>
 
 namespace
 {
 
+bool IsOurs(HWND window)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process == GetCurrentProcessId();
+}
+
+BOOL CALLBACK CountWindow(HWND window, LPARAM count)
+{
+    *reinterpret_cast<int*>(count) += IsOurs(window);
+    return TRUE;
+}
+
+BOOL CALLBACK CountTree(HWND window, LPARAM count)
+{
+    if (IsOurs(window))
+        EnumChildWindows(window, &CountWindow, count);
+    return CountWindow(window, count);
+}
+
 int Windows()
 {
     int count = 0;
-    const WNDENUMPROC countTree = [](HWND window, LPARAM counter) -> BOOL {
-        ++*reinterpret_cast<int*>(counter);
-        EnumChildWindows(
-            window,
-            [](HWND, LPARAM inner) -> BOOL {
-                ++*reinterpret_cast<int*>(inner);
-                return TRUE;
-            },
-            counter);
-        return TRUE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), countTree, reinterpret_cast<LPARAM>(&count));
+    EnumWindows(&CountTree, reinterpret_cast<LPARAM>(&count));
+    HWND unseen = nullptr; // those that only receive messages are not enumerated
+    while ((unseen = FindWindowExA(HWND_MESSAGE, unseen, nullptr, nullptr)) != nullptr)
+        CountTree(unseen, reinterpret_cast<LPARAM>(&count));
     return count;
 }
 
-// The system does not tell how many objects are in use on every version, but there is only room for so many of them:
-// what is in use is missing from those that can still be made.
-template <typename THandle>
-int RoomFor(const std::function<THandle()>& make, const std::function<void(THandle)>& destroy)
+// A handle is known by its lower half, an even number, and the menus of other processes are none to this one.
+int Menus()
 {
-    constexpr size_t kMost = 100000;
-    std::vector<THandle> made;
-    while (made.size() < kMost)
-    {
-        const THandle handle = make();
-        if (handle == nullptr)
-            break;
-        made.push_back(handle);
-    }
-    for (THandle handle : made)
-        destroy(handle);
-    return static_cast<int>(made.size());
+    int count = 0;
+    for (uintptr_t handle = 2; handle <= 0xFFFE; handle += 2)
+        count += IsMenu(reinterpret_cast<HMENU>(handle)) != FALSE;
+    return count;
+}
+
+// The system does not tell on every version how many graphics objects a process has, but there is only room for so many:
+// those that there are cannot be made any more.
+int RoomForGraphics()
+{
+    std::vector<HBRUSH> brushes(100000);
+    const auto end = std::find_if(brushes.begin(), brushes.end(),
+                                  [](HBRUSH& brush) { return (brush = CreateSolidBrush(RGB(1, 2, 3))) == nullptr; });
+    std::for_each(brushes.begin(), end, [](HBRUSH brush) { DeleteObject(brush); });
+    return static_cast<int>(end - brushes.begin());
 }
 
 } // namespace
 
 Holdings CurrentHoldings()
 {
-    const int brushes = RoomFor<HBRUSH>([] { return CreateSolidBrush(RGB(1, 2, 3)); }, [](HBRUSH brush) { DeleteObject(brush); });
-    const int menus = RoomFor<HMENU>([] { return CreateMenu(); }, [](HMENU menu) { DestroyMenu(menu); });
-    return {{"windows", Windows()}, {"room for graphics objects", brushes}, {"room for user objects", menus}};
+    return {{"windows", Windows()}, {"menus", Menus()}, {"room for graphics objects", RoomForGraphics()}};
 }
 
 size_t AllocatedBytes()
 {
     HANDLE heaps[100];
-    const DWORD count = GetProcessHeaps(100, heaps);
+    const DWORD count = std::min<DWORD>(GetProcessHeaps(100, heaps), 100);
     size_t bytes = 0;
-    for (DWORD i = 0; i < count && i < 100; ++i)
+    for (DWORD i = 0; i < count; ++i)
     {
         PROCESS_HEAP_ENTRY entry = {};
         HeapLock(heaps[i]);
         while (HeapWalk(heaps[i], &entry))
-        {
-            if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0)
-                bytes += entry.cbData;
-        }
+            bytes += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
         HeapUnlock(heaps[i]);
     }
     return bytes;

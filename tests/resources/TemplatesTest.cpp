@@ -1,0 +1,343 @@
+// Every dialog template: that it is what the interface demands, and that it looks right in every language.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <numeric>
+#include <string>
+#include <vector>
+
+#include "tests/resources/DialogPicture.h"
+#include "tests/resources/ExpectedTemplates.h"
+
+namespace
+{
+
+EControl KindOf(const SPicturedControl& control)
+{
+    if (control.className == "Edit")
+        return EControl::Edit;
+    if (control.className == "ListBox")
+        return EControl::ListBox;
+    if (control.className == "ComboBox" && (control.style & 3) == CBS_DROPDOWNLIST)
+        return EControl::DropList;
+    if (control.className == "Button" && (control.style & 0xF) == BS_AUTOCHECKBOX)
+        return EControl::CheckBox;
+    if (control.className == "Button" && (control.style & 0xF) == BS_PUSHBUTTON)
+        return EControl::PushButton;
+    if (control.className == "Button" && (control.style & 0xF) == BS_DEFPUSHBUTTON)
+        return EControl::DefaultButton;
+    EXPECT_EQ(control.className, "Static") << control.id;
+    return EControl::Static;
+}
+
+std::string Name(const SPicturedControl& control)
+{
+    return control.className + " " + std::to_string(control.id) + " \"" + control.text + "\"";
+}
+
+bool AreInOneRow(const RECT& a, const RECT& b) { return a.top < b.bottom && b.top < a.bottom; }
+bool Overlap(const RECT& a, const RECT& b) { return AreInOneRow(a, b) && a.left < b.right && b.left < a.right; }
+
+int Width(const RECT& rect) { return rect.right - rect.left; }
+int Height(const RECT& rect) { return rect.bottom - rect.top; }
+
+/// What is left of a control's width for its text.
+int RoomForText(const SPicturedControl& control)
+{
+    constexpr int kCheckBoxAndGap = 13 + 5;
+    constexpr int kButtonEdges = 2 * 6;
+    switch (KindOf(control))
+    {
+    case EControl::CheckBox:
+        return Width(control.rect) - kCheckBoxAndGap;
+    case EControl::PushButton:
+    case EControl::DefaultButton:
+        return Width(control.rect) - kButtonEdges;
+    default:
+        return Width(control.rect);
+    }
+}
+
+/// What is left of a closed drop-down list beside its arrow and within its edges.
+int RoomForItem(const SPicturedControl& list) { return Width(list.rect) - Height(list.rect) - 2 * 4; }
+
+class TemplatesTest : public testing::TestWithParam<SExpectedTemplate>
+{
+protected:
+    /// Calls look() with the picture of the template in each language there is.
+    template <class TLook>
+    static void InEveryLanguage(const std::vector<unsigned>& texts, TLook look)
+    {
+        for (int language : BuiltLanguages())
+        {
+            SCOPED_TRACE("language " + std::to_string(language));
+            const CLanguage scope(language);
+            ASSERT_TRUE(scope.IsLoaded());
+            const SDialogPicture picture = PictureOf(GetParam().id, texts);
+            ASSERT_EQ(picture.failures, std::vector<std::string>());
+            ASSERT_FALSE(picture.controls.empty());
+            look(picture);
+        }
+    }
+
+    template <class TLook>
+    static void InEveryLanguage(TLook look)
+    {
+        InEveryLanguage({}, look);
+    }
+};
+
+TEST_P(TemplatesTest, HoldsItsControlsInTabOrder)
+{
+    const std::vector<SExpectedControl>& expected = GetParam().controls;
+    InEveryLanguage([&](const SDialogPicture& picture) {
+        ASSERT_EQ(picture.controls.size(), expected.size());
+        for (size_t i = 0; i < expected.size(); ++i)
+        {
+            EXPECT_EQ(picture.controls[i].id, expected[i].id) << "control " << i;
+            EXPECT_EQ(KindOf(picture.controls[i]), expected[i].kind) << "control " << i;
+        }
+    });
+}
+
+TEST_P(TemplatesTest, HasItsEnglishTexts)
+{
+    for (int language : {kModule, kEnglish})
+    {
+        const CLanguage scope(language);
+        const SDialogPicture picture = PictureOf(GetParam().id);
+        EXPECT_EQ(picture.caption, GetParam().caption);
+        ASSERT_EQ(picture.controls.size(), GetParam().controls.size());
+        for (size_t i = 0; i < picture.controls.size(); ++i)
+            EXPECT_EQ(picture.controls[i].text, GetParam().controls[i].text) << "control " << i;
+    }
+}
+
+TEST_P(TemplatesTest, IsAModalDialogWithACloseBox)
+{
+    InEveryLanguage([](const SDialogPicture& picture) {
+        EXPECT_EQ(picture.style & (WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME),
+                  static_cast<DWORD>(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME));
+        EXPECT_FALSE(picture.style & (WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX));
+        EXPECT_FALSE(picture.caption.empty());
+    });
+}
+
+TEST_P(TemplatesTest, LetsTheKeyboardReachEveryInput)
+{
+    InEveryLanguage([](const SDialogPicture& picture) {
+        for (const SPicturedControl& control : picture.controls)
+            EXPECT_EQ((control.style & WS_TABSTOP) != 0, control.className != "Static") << Name(control);
+    });
+}
+
+TEST_P(TemplatesTest, KeepsItsControlsInsideAndApart)
+{
+    InEveryLanguage([](const SDialogPicture& picture) {
+        for (const SPicturedControl& control : picture.controls)
+        {
+            EXPECT_GT(Width(control.rect), 0) << Name(control);
+            EXPECT_GT(Height(control.rect), 0) << Name(control);
+            EXPECT_GE(control.rect.left, 0) << Name(control);
+            EXPECT_GE(control.rect.top, 0) << Name(control);
+            EXPECT_LE(control.rect.right, picture.width) << Name(control);
+            EXPECT_LE(control.rect.bottom, picture.height) << Name(control);
+            for (const SPicturedControl& other : picture.controls)
+                if (&other != &control)
+                    EXPECT_FALSE(Overlap(control.rect, other.rect)) << Name(control) << " and " << Name(other);
+        }
+    });
+}
+
+TEST_P(TemplatesTest, ReadsFromTheTopLeftToTheBottomRight)
+{
+    InEveryLanguage([](const SDialogPicture& picture) {
+        for (size_t i = 1; i < picture.controls.size(); ++i)
+        {
+            const SPicturedControl& before = picture.controls[i - 1];
+            const SPicturedControl& control = picture.controls[i];
+            if (AreInOneRow(before.rect, control.rect))
+                EXPECT_GE(control.rect.left, before.rect.right) << Name(before) << ", " << Name(control);
+            else
+                EXPECT_GE(control.rect.top, before.rect.bottom) << Name(before) << ", " << Name(control);
+        }
+    });
+}
+
+TEST_P(TemplatesTest, ShowsEveryTextWhole)
+{
+    InEveryLanguage([](const SDialogPicture& picture) {
+        for (const SPicturedControl& control : picture.controls)
+        {
+            EXPECT_LE(control.textWidth, RoomForText(control)) << Name(control);
+            if (!control.text.empty())
+                EXPECT_LE(picture.lineHeight, Height(control.rect)) << Name(control);
+        }
+    });
+}
+
+// Other languages need more room than English.
+TEST_P(TemplatesTest, LeavesRoomForLongerWords)
+{
+    const CLanguage english(kEnglish);
+    for (const SPicturedControl& control : PictureOf(GetParam().id).controls)
+        EXPECT_LE(control.textWidth * 13 / 10, RoomForText(control)) << Name(control);
+}
+
+TEST_P(TemplatesTest, ShowsEveryListItemWhole)
+{
+    std::vector<unsigned> texts;
+    for (const SExpectedItems& items : GetParam().items)
+        texts.insert(texts.end(), items.texts.begin(), items.texts.end());
+
+    InEveryLanguage(texts, [](const SDialogPicture& picture) {
+        for (const SExpectedItems& items : GetParam().items)
+        {
+            const SPicturedControl* list = picture.Find(items.combo);
+            ASSERT_NE(list, nullptr) << items.combo;
+            for (unsigned text : items.texts)
+                EXPECT_LE(picture.columnWidths.at(text).front(), RoomForItem(*list)) << text << " in " << items.combo;
+        }
+    });
+}
+
+TEST_P(TemplatesTest, GivesEveryAccessKeyOnce)
+{
+    InEveryLanguage([](const SDialogPicture& picture) {
+        std::map<char, std::string> keys;
+        for (const SPicturedControl& control : picture.controls)
+        {
+            if (control.className == "Static" && (control.style & SS_NOPREFIX))
+                continue;
+            const size_t mark = control.text.find('&');
+            if (mark == std::string::npos)
+                continue;
+            ASSERT_LT(mark + 1, control.text.size()) << Name(control);
+            const char key = static_cast<char>(std::toupper(static_cast<unsigned char>(control.text[mark + 1])));
+            const auto [known, isNew] = keys.emplace(key, Name(control));
+            EXPECT_TRUE(isNew) << known->second << " and " << Name(control);
+        }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(All, TemplatesTest, testing::ValuesIn(ExpectedTemplates()),
+                         [](const auto& info) { return std::to_string(info.param.id); });
+
+// A template without a row in the tables above would go untested.
+TEST(Templates, AreAllTested)
+{
+    std::vector<unsigned> tested;
+    for (const SExpectedTemplate& expected : ExpectedTemplates())
+        tested.push_back(expected.id);
+    for (int language : BuiltLanguages())
+    {
+        const CLanguage scope(language);
+        std::vector<unsigned> found;
+        for (unsigned id = 1000; id < 1100; ++id)
+        {
+            CDialog dialog(id);
+            CDialogRobot robot;
+            if (robot.Play([&] { return static_cast<int>(dialog.DoModal()); },
+                           {[](CDialogRobot& scene) { scene.Dismiss(); }}) != -1)
+                found.push_back(id);
+        }
+        EXPECT_EQ(found, tested) << "language " << language;
+    }
+}
+
+// ---- The selection dialog -------------------------------------------------------------------------------------------
+
+std::vector<unsigned> Ids(unsigned first, unsigned last)
+{
+    std::vector<unsigned> ids;
+    for (unsigned id = first; id <= last; id += 2)
+        ids.push_back(id);
+    return ids;
+}
+
+TEST(SelectTemplate, HasAListWithTabStopsAndAReadOnlyExplanation)
+{
+    const SDialogPicture picture = PictureOf(1001);
+    ASSERT_NE(picture.Find(2001), nullptr);
+    ASSERT_NE(picture.Find(2002), nullptr);
+    constexpr DWORD kList = LBS_NOTIFY | LBS_USETABSTOPS;
+    constexpr DWORD kEdit = ES_MULTILINE | ES_READONLY | WS_VSCROLL;
+    EXPECT_EQ(picture.Find(2001)->style & kList, kList);
+    EXPECT_EQ(picture.Find(2001)->style & LBS_SORT, 0u);
+    EXPECT_EQ(picture.Find(2002)->style & kEdit, kEdit);
+}
+
+// An empty list has no scroll bar on real windows, whatever its template says.
+TEST(SelectTemplate, ScrollsALongList)
+{
+    CDialog dialog(1001);
+    CDialogRobot robot;
+    robot.Play([&] { return static_cast<int>(dialog.DoModal()); },
+               {[](CDialogRobot& scene) {
+                   CWnd* list = scene.Dialog()->GetDlgItem(2001);
+                   for (int item = 0; item < 100; item++)
+                       list->SendMessage(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item"));
+                   EXPECT_NE(list->GetStyle() & WS_VSCROLL, 0u);
+                   scene.Click(IDCANCEL);
+               }});
+    EXPECT_TRUE(robot.Failures().empty());
+}
+
+TEST(SelectTemplate, ShowsItsLongestItemsWhole)
+{
+    constexpr int kColumnGaps = 20 + 15;
+    constexpr int kScrollBarAndEdges = 20 + 4;
+    for (int language : BuiltLanguages())
+    {
+        const CLanguage scope(language);
+        const unsigned last = language == kModule ? 10022 : 10038;
+        const SDialogPicture picture = PictureOf(1001, Ids(10000, last));
+        ASSERT_NE(picture.Find(2001), nullptr);
+
+        std::vector<int> widths(3);
+        for (const auto& [id, columns] : picture.columnWidths)
+        {
+            ASSERT_EQ(columns.size(), widths.size()) << id;
+            for (size_t i = 0; i < widths.size(); ++i)
+                widths[i] = std::max(widths[i], columns[i]);
+        }
+        EXPECT_LE(std::accumulate(widths.begin(), widths.end(), kColumnGaps + kScrollBarAndEdges),
+                  Width(picture.Find(2001)->rect))
+            << "language " << language;
+    }
+}
+
+TEST(SelectTemplate, ShowsEveryInstructionOfAFamilyWithoutScrolling)
+{
+    constexpr int kMostItems = 11;
+    const SDialogPicture picture = PictureOf(1001);
+    ASSERT_NE(picture.Find(2001), nullptr);
+    EXPECT_GE(Height(picture.Find(2001)->rect), kMostItems * picture.lineHeight + 4);
+}
+
+// A line that is broken between words is at least four fifths full.
+TEST(SelectTemplate, ShowsEveryExplanationWithoutScrolling)
+{
+    constexpr int kScrollBarAndEdges = 20 + 4;
+    for (int language : BuiltLanguages())
+    {
+        const CLanguage scope(language);
+        std::vector<unsigned> texts = Ids(10001, language == kModule ? 10023 : 10039);
+        for (unsigned id : Ids(10501, 10515))
+            texts.push_back(id);
+        if (language != kModule)
+            texts.insert(texts.end(), {22005, 22006, 22007, 22008, 22009});
+
+        const SDialogPicture picture = PictureOf(1001, texts);
+        ASSERT_NE(picture.Find(2002), nullptr);
+        const RECT& edit = picture.Find(2002)->rect;
+        const int lines = (Height(edit) - 4) / picture.lineHeight;
+        for (const auto& [id, columns] : picture.columnWidths)
+            EXPECT_LE(columns.front(), lines * (Width(edit) - kScrollBarAndEdges) * 4 / 5)
+                << "language " << language << ", text " << id;
+    }
+}
+
+} // namespace
