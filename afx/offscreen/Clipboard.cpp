@@ -35,7 +35,7 @@ ClipboardState& State()
 Memory* MemoryOf(HGLOBAL handle)
 {
     ClipboardState& state = State();
-    if (Memory* movable = state.movable.Find(reinterpret_cast<std::uintptr_t>(handle)))
+    if (Memory* movable = state.movable.Find(handle))
         return movable;
     const auto it = state.fixed.find(handle);
     if (it != state.fixed.end())
@@ -46,14 +46,8 @@ Memory* MemoryOf(HGLOBAL handle)
 
 void Free(HGLOBAL handle)
 {
-    ClipboardState& state = State();
-    if (Memory* movable = state.movable.Find(reinterpret_cast<std::uintptr_t>(handle)))
-    {
-        state.movable.Remove(reinterpret_cast<std::uintptr_t>(handle));
-        delete movable;
-    }
-    else
-        state.fixed.erase(handle);
+    if (!State().movable.Remove(handle))
+        State().fixed.erase(handle);
 }
 
 void Empty()
@@ -67,11 +61,11 @@ void Empty()
 void ResetClipboard()
 {
     ClipboardState& state = State();
-    std::vector<Memory*> movable;
-    state.movable.ForEach([&](Memory& memory) { movable.push_back(&memory); });
-    state = ClipboardState{};
-    for (Memory* memory : movable)
-        delete memory;
+    state.movable.Clear();
+    state.fixed.clear();
+    state.contents.clear();
+    state.open = false;
+    state.opener = state.owner = nullptr;
 }
 
 int CountGlobals()
@@ -91,7 +85,7 @@ HGLOBAL GlobalAlloc(UINT flags, SIZE_T size)
     auto memory = std::make_unique<Memory>();
     memory->bytes.resize(std::max<SIZE_T>(size, 1));
     if (flags & GMEM_MOVEABLE)
-        return reinterpret_cast<HGLOBAL>(state.movable.Add(memory.release()));
+        return state.movable.Add<HGLOBAL>(std::move(memory));
     // Fixed memory is its own handle.
     void* address = memory->bytes.data();
     state.fixed[address] = std::move(memory);

@@ -267,7 +267,7 @@ LPSTR ChangeCaseOf(LPSTR text, bool upper)
         return reinterpret_cast<LPSTR>(static_cast<ULONG_PTR>(static_cast<unsigned char>(changed[0])));
     }
     const std::string changed = upper ? UpperCase(text) : LowerCase(text);
-    std::memcpy(text, changed.data(), changed.size());
+    std::copy(changed.begin(), changed.end(), text);
     return text;
 }
 } // namespace
@@ -279,14 +279,23 @@ DWORD CharUpperBuffA(LPSTR text, DWORD length)
 {
     Inside inside;
     const std::string changed = UpperCase({text, length});
-    std::memcpy(text, changed.data(), changed.size());
+    std::copy(changed.begin(), changed.end(), text);
     return length;
 }
 
 int lstrlenA(LPCSTR text) { return text ? static_cast<int>(std::strlen(text)) : 0; }
 
-LPSTR lstrcpyA(LPSTR target, LPCSTR source) { return std::strcpy(target, source); }
-LPSTR lstrcatA(LPSTR target, LPCSTR source) { return std::strcat(target, source); }
+LPSTR lstrcpyA(LPSTR target, LPCSTR source)
+{
+    std::copy_n(source, std::strlen(source) + 1, target);
+    return target;
+}
+
+LPSTR lstrcatA(LPSTR target, LPCSTR source)
+{
+    lstrcpyA(target + std::strlen(target), source);
+    return target;
+}
 
 LPSTR lstrcpynA(LPSTR target, LPCSTR source, int size)
 {

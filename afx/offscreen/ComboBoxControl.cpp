@@ -413,6 +413,8 @@ LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM l
         }
         return 0;
     }
+    case WM_SETREDRAW: // The list inside leaves out the drawing; the combo box does not become invisible.
+        return 0;
     case WM_ERASEBKGND:
         return TRUE;
     case WM_PAINT: {

@@ -102,12 +102,14 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         if (LOWORD(wParam) != WA_INACTIVE && !(found->style & WS_MINIMIZE))
             SetFocus(window);
         return 0;
+    // NOLINTBEGIN(bugprone-branch-clone): these answers only happen to be the same number
     case WM_NCACTIVATE:
         return TRUE;
     case WM_MOUSEACTIVATE:
         return MA_ACTIVATE;
     case WM_NCHITTEST:
         return HTCLIENT;
+    // NOLINTEND(bugprone-branch-clone)
     case WM_ERASEBKGND:
         return found->windowClass->background != nullptr;
     case WM_PAINT:

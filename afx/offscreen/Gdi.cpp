@@ -10,16 +10,12 @@ namespace offscreen
 namespace
 {
 template <class Handle>
-Handle Make(GdiObject object)
+Handle Make(const GdiObject& object)
 {
-    auto* made = new GdiObject(std::move(object));
-    const auto handle = Gdi().objects.Add(made);
-    if (!handle)
-        delete made;
-    return reinterpret_cast<Handle>(handle);
+    return Gdi().objects.Add<Handle>(std::make_unique<GdiObject>(object));
 }
 
-GdiObject* ObjectOf(HGDIOBJ handle) { return Gdi().objects.Find(reinterpret_cast<std::uintptr_t>(handle)); }
+GdiObject* ObjectOf(HGDIOBJ handle) { return Gdi().objects.Find(handle); }
 
 HBRUSH MakeBrush(COLORREF color, UINT style = BS_SOLID)
 {
@@ -114,13 +110,13 @@ HGDIOBJ Stock(int index)
 
 HDC MakeDc(HWND window, bool memory)
 {
-    auto* dc = new Dc;
+    auto dc = std::make_unique<Dc>();
     dc->window = window;
     dc->memory = memory;
     dc->font = Stock(SYSTEM_FONT);
     dc->brush = Stock(WHITE_BRUSH);
     dc->pen = Stock(BLACK_PEN);
-    return reinterpret_cast<HDC>(Gdi().dcs.Add(dc));
+    return Gdi().dcs.Add<HDC>(std::move(dc));
 }
 
 HGDIOBJ* SlotFor(DcSettings& dc, DWORD kind)
@@ -155,7 +151,7 @@ GdiState& Gdi()
     return *state;
 }
 
-Dc* DcOf(HDC handle) { return Gdi().dcs.Find(reinterpret_cast<std::uintptr_t>(handle)); }
+Dc* DcOf(HDC handle) { return Gdi().dcs.Find(handle); }
 
 void NoteText(const Dc& dc, int x, int y, std::string_view text)
 {
@@ -186,12 +182,7 @@ HDC OpenDc(HWND window, bool forPainting)
     return MakeDc(window, false);
 }
 
-void CloseDc(HDC handle)
-{
-    Dc* dc = DcOf(handle);
-    Gdi().dcs.Remove(reinterpret_cast<std::uintptr_t>(handle));
-    delete dc;
-}
+void CloseDc(HDC handle) { Gdi().dcs.Remove(handle); }
 
 void ForgetDcsOf(HWND window)
 {
@@ -220,15 +211,10 @@ void CountGdi(Counts& counts)
 void ResetGdi()
 {
     GdiState& state = Gdi();
-    std::vector<GdiObject*> objects;
-    state.objects.ForEach([&](GdiObject& object) { objects.push_back(&object); });
-    std::vector<Dc*> dcs;
-    state.dcs.ForEach([&](Dc& dc) { dcs.push_back(&dc); });
-    state = GdiState{};
-    for (GdiObject* object : objects)
-        delete object;
-    for (Dc* dc : dcs)
-        delete dc;
+    state.dcs.Clear();
+    state.objects.RemoveIf([](const GdiObject& object) { return !object.stock; });
+    state.recording = false;
+    state.drawn.clear();
 }
 
 void RecordDrawing(bool on)
@@ -369,13 +355,11 @@ HGDIOBJ GetCurrentObject(HDC dc, UINT kind)
 BOOL DeleteObject(HGDIOBJ object)
 {
     Inside inside;
-    GdiObject* found = ObjectOf(object);
+    const GdiObject* found = ObjectOf(object);
     if (!found)
         return FALSE;
-    if (found->stock)
-        return TRUE;
-    Gdi().objects.Remove(reinterpret_cast<std::uintptr_t>(object));
-    delete found;
+    if (!found->stock)
+        Gdi().objects.Remove(object);
     return TRUE;
 }
 

@@ -2,59 +2,73 @@
 
 #include <cstdint>
 #include <deque>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace offscreen
 {
-// Gives objects handles that look like the system's: small numbers, never a pointer. A handle carries the generation of
-// its slot and slots are used again in turn, so the handle of a dead object finds nothing, and no object that is born
-// soon after takes its place.
+// Owns objects and gives them handles that look like the system's: small numbers, never a pointer. A handle carries the
+// generation of its slot and slots are used again in turn, so the handle of a dead object finds nothing, and no object
+// that is born soon after takes its place.
 template <class Object>
 class HandleTable
 {
 public:
+    // Tables with different tags never give the same handle.
     explicit HandleTable(std::uintptr_t tag = 0) : m_tag(tag) {}
 
-    std::uintptr_t Add(Object* object)
+    // 0 when there is no handle left; the object is gone then.
+    template <class Handle>
+    Handle Add(std::unique_ptr<Object> object)
     {
-        std::size_t index = 0;
+        std::size_t index = m_slots.size();
         if (m_free.size() > kRestingSlots)
         {
             index = m_free.front();
             m_free.pop_front();
         }
+        else if (index > kLast)
+            return Handle{};
         else
-        {
-            index = m_slots.size();
             m_slots.emplace_back();
-        }
-        if (index > 0xFFFF - kFirst)
-            return 0;
         Slot& slot = m_slots[index];
-        slot.object = object;
+        slot.object = std::move(object);
         ++m_count;
-        return HandleOf(index, slot.generation);
+        return reinterpret_cast<Handle>(NumberOf(index));
     }
 
-    Object* Find(std::uintptr_t handle) const
+    Object* Find(const void* handle) const
     {
-        const std::size_t index = (handle & 0xFFFF) - kFirst;
-        if (index >= m_slots.size())
+        const std::size_t index = IndexOf(handle);
+        return index < m_slots.size() ? m_slots[index].object.get() : nullptr;
+    }
+
+    // Takes the object out; its handle is dead from then on.
+    std::unique_ptr<Object> Remove(const void* handle)
+    {
+        const std::size_t index = IndexOf(handle);
+        if (index >= m_slots.size() || !m_slots[index].object)
             return nullptr;
-        const Slot& slot = m_slots[index];
-        return slot.object && HandleOf(index, slot.generation) == handle ? slot.object : nullptr;
-    }
-
-    void Remove(std::uintptr_t handle)
-    {
-        if (!Find(handle))
-            return;
-        const std::size_t index = (handle & 0xFFFF) - kFirst;
         Slot& slot = m_slots[index];
-        slot.object = nullptr;
         slot.generation = slot.generation % kGenerations + 1;
         m_free.push_back(index);
         --m_count;
+        return std::move(slot.object);
+    }
+
+    // Removes all objects that the condition holds for.
+    template <class Condition>
+    void RemoveIf(Condition condition)
+    {
+        for (std::size_t index = 0; index < m_slots.size(); ++index)
+            if (m_slots[index].object && condition(*m_slots[index].object))
+                Remove(reinterpret_cast<const void*>(NumberOf(index)));
+    }
+
+    void Clear()
+    {
+        RemoveIf([](const Object&) { return true; });
     }
 
     int Count() const { return m_count; }
@@ -69,18 +83,27 @@ public:
 
 private:
     static constexpr std::size_t kFirst = 0x10;
+    static constexpr std::size_t kLast = 0xFFFF - kFirst;
     static constexpr std::size_t kRestingSlots = 64;
     static constexpr unsigned kGenerations = 0x3FF;
 
     struct Slot
     {
-        Object* object = nullptr;
+        std::unique_ptr<Object> object;
         unsigned generation = 1;
     };
 
-    std::uintptr_t HandleOf(std::size_t index, unsigned generation) const
+    std::uintptr_t NumberOf(std::size_t index) const
     {
-        return m_tag << 26 | static_cast<std::uintptr_t>(generation) << 16 | (index + kFirst);
+        return m_tag << 26 | static_cast<std::uintptr_t>(m_slots[index].generation) << 16 | (index + kFirst);
+    }
+
+    // Past the end for what is no handle of a slot's present generation.
+    std::size_t IndexOf(const void* handle) const
+    {
+        const auto number = reinterpret_cast<std::uintptr_t>(handle);
+        const std::size_t index = (number & 0xFFFF) - kFirst;
+        return index < m_slots.size() && NumberOf(index) == number ? index : m_slots.size();
     }
 
     std::uintptr_t m_tag;

@@ -441,10 +441,8 @@ LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lP
     case WM_LBUTTONUP:
     case WM_LBUTTONDBLCLK:
         return HandleMouse(list, message, lParam);
-    case WM_GETTEXT:
-    case WM_GETTEXTLENGTH:
-    case WM_SETTEXT:
-        return DefWindowProcA(handle, message, wParam, lParam);
+    case WM_SETREDRAW: // The list itself leaves out the drawing; it does not become invisible.
+        return 0;
     default:
         return DefWindowProcA(handle, message, wParam, lParam);
     }

@@ -38,17 +38,13 @@ MenuState& State()
 
 Menu* MenuOf(HMENU handle)
 {
-    Menu* menu = State().menus.Find(reinterpret_cast<std::uintptr_t>(handle));
+    Menu* menu = State().menus.Find(handle);
     if (!menu)
         SetLastError(ERROR_INVALID_MENU_HANDLE);
     return menu;
 }
 
-HMENU Make()
-{
-    auto* menu = new Menu;
-    return reinterpret_cast<HMENU>(State().menus.Add(menu));
-}
+HMENU Make() { return State().menus.Add<HMENU>(std::make_unique<Menu>()); }
 
 MenuItem* ItemOf(HMENU handle, UINT id, UINT flags)
 {
@@ -159,6 +155,12 @@ int ByMnemonic(const Menu& menu, WPARAM character)
     return -1;
 }
 
+bool LeavesMenu(const MSG& msg)
+{
+    return msg.message == WM_CANCELMODE ||
+           (msg.message == WM_KEYDOWN && (msg.wParam == VK_ESCAPE || msg.wParam == VK_MENU));
+}
+
 // Runs until an item is chosen (its id) or the menu is left (0).
 UINT_PTR Track(HMENU handle, HWND owner, HWND window)
 {
@@ -179,6 +181,8 @@ UINT_PTR Track(HMENU handle, HWND owner, HWND window)
         const Menu* menu = MenuOf(handle);
         if (!menu || CallMsgFilterA(&msg, MSGF_MENU))
             continue;
+        if (LeavesMenu(msg))
+            break;
         int chosen = -1;
         if (msg.message == WM_KEYDOWN && msg.wParam == VK_DOWN)
             position = Step(*menu, position, 1);
@@ -186,14 +190,10 @@ UINT_PTR Track(HMENU handle, HWND owner, HWND window)
             position = Step(*menu, position, -1);
         else if (msg.message == WM_KEYDOWN && msg.wParam == VK_RETURN)
             chosen = position;
-        else if (msg.message == WM_KEYDOWN && (msg.wParam == VK_ESCAPE || msg.wParam == VK_MENU))
-            break;
         else if (msg.message == WM_KEYDOWN)
             TranslateMessage(&msg);
         else if (msg.message == WM_CHAR || msg.message == WM_SYSCHAR)
             chosen = ByMnemonic(*menu, msg.wParam);
-        else if (msg.message == WM_CANCELMODE)
-            break;
         else if (msg.message != WM_KEYUP)
             DispatchMessageA(&msg);
 
@@ -212,11 +212,8 @@ UINT_PTR Track(HMENU handle, HWND owner, HWND window)
 
 void ResetMenus()
 {
-    std::vector<Menu*> menus;
-    State().menus.ForEach([&](Menu& menu) { menus.push_back(&menu); });
-    State() = MenuState{};
-    for (Menu* menu : menus)
-        delete menu;
+    State().menus.Clear();
+    State().tracking = State().ended = false;
 }
 
 int CountMenus() { return State().menus.Count(); }
@@ -235,18 +232,19 @@ HMENU CreatePopupMenu() { return CreateMenu(); }
 BOOL DestroyMenu(HMENU handle)
 {
     Inside inside;
-    Menu* menu = MenuOf(handle);
+    const std::unique_ptr<Menu> menu = State().menus.Remove(handle);
     if (!menu)
+    {
+        SetLastError(ERROR_INVALID_MENU_HANDLE);
         return FALSE;
-    State().menus.Remove(reinterpret_cast<std::uintptr_t>(handle));
+    }
     for (const MenuItem& item : menu->items)
         if (item.flags & MF_POPUP)
             DestroyMenu(reinterpret_cast<HMENU>(item.id));
-    delete menu;
     return TRUE;
 }
 
-BOOL IsMenu(HMENU handle) { return State().menus.Find(reinterpret_cast<std::uintptr_t>(handle)) != nullptr; }
+BOOL IsMenu(HMENU handle) { return State().menus.Find(handle) != nullptr; }
 
 BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
 {

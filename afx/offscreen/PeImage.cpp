@@ -11,9 +11,10 @@ constexpr WORD kDosSignature = 0x5A4D;     // "MZ"
 constexpr DWORD kPeSignature = 0x00004550; // "PE"
 constexpr WORD kMachineX86 = 0x014C;
 constexpr WORD kOptionalHeader32 = 0x010B;
-constexpr std::size_t kFileHeader = 4;      // Behind the signature
-constexpr std::size_t kOptionalHeader = 24; // Behind the signature
-constexpr std::size_t kDirectories = 96;    // In the optional header
+constexpr std::size_t kFileHeader = 4;         // Behind the signature
+constexpr std::size_t kOptionalHeader = 24;    // Behind the signature
+constexpr std::size_t kDirectories = 96;       // In the optional header
+constexpr std::size_t kResourceDirectory = 16; // In the directories
 constexpr std::size_t kSectionSize = 40;
 constexpr DWORD kSubdirectory = 0x80000000u;
 } // namespace
@@ -41,7 +42,7 @@ PeImage::PeImage(const BYTE* data, std::size_t size) : m_data(data), m_size(size
     const DWORD directoryCount = Read<DWORD>(header + kOptionalHeader + kDirectories - 4);
     if (directoryCount <= 2)
         return;
-    const DWORD address = Read<DWORD>(header + kOptionalHeader + kDirectories + 2 * 8);
+    const DWORD address = Read<DWORD>(header + kOptionalHeader + kDirectories + kResourceDirectory);
     if (address)
         m_resources = OffsetOf(address, 16);
 }

@@ -32,7 +32,7 @@ std::string PathOf(HKEY key)
 {
     if (IsRoot(key))
         return std::to_string(reinterpret_cast<std::uintptr_t>(key) & 0xFF);
-    const std::string* path = State().open.Find(reinterpret_cast<std::uintptr_t>(key));
+    const std::string* path = State().open.Find(key);
     return path ? *path : std::string();
 }
 
@@ -58,12 +58,8 @@ void ClearRegistry() { State().keys.clear(); }
 
 void ResetRegistry()
 {
-    RegistryState& state = State();
-    std::vector<std::string*> open;
-    state.open.ForEach([&](std::string& path) { open.push_back(&path); });
-    state = RegistryState{};
-    for (std::string* path : open)
-        delete path;
+    State().keys.clear();
+    State().open.Clear();
 }
 
 int CountKeys() { return State().open.Count(); }
@@ -80,7 +76,7 @@ LSTATUS RegOpenKeyExA(HKEY key, LPCSTR subKey, DWORD, REGSAM, PHKEY result)
     const std::string path = Below(parent, subKey);
     if (!(IsRoot(key) && path == parent) && !Exists(path))
         return ERROR_FILE_NOT_FOUND;
-    *result = reinterpret_cast<HKEY>(State().open.Add(new std::string(path)));
+    *result = State().open.Add<HKEY>(std::make_unique<std::string>(path));
     return ERROR_SUCCESS;
 }
 
@@ -131,10 +127,5 @@ LSTATUS RegCloseKey(HKEY key)
     Inside inside;
     if (IsRoot(key))
         return ERROR_SUCCESS;
-    std::string* path = State().open.Find(reinterpret_cast<std::uintptr_t>(key));
-    if (!path)
-        return ERROR_INVALID_HANDLE;
-    State().open.Remove(reinterpret_cast<std::uintptr_t>(key));
-    delete path;
-    return ERROR_SUCCESS;
+    return State().open.Remove(key) ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
 }

@@ -38,7 +38,7 @@ struct Library
 struct ModuleState
 {
     HandleTable<Module> modules{3};
-    Module own;
+    Module* own = nullptr; // The program itself
     std::vector<Library> libraries;
     int attempts = 0;
 };
@@ -54,9 +54,11 @@ ModuleState& State()
 {
     static auto* state = [] {
         auto* made = new ModuleState;
-        made->own.handle = reinterpret_cast<HMODULE>(made->modules.Add(&made->own));
-        made->own.path = ExecutablePath();
-        made->own.image = PeImage(g_moduleImage, static_cast<std::size_t>(g_moduleImageEnd - g_moduleImage));
+        const auto handle = made->modules.Add<HMODULE>(std::make_unique<Module>());
+        made->own = made->modules.Find(handle);
+        made->own->handle = handle;
+        made->own->path = ExecutablePath();
+        made->own->image = PeImage(g_moduleImage, static_cast<std::size_t>(g_moduleImageEnd - g_moduleImage));
         return made;
     }();
     return *state;
@@ -66,7 +68,7 @@ ModuleState& State()
 Module* ModuleOf(HMODULE handle)
 {
     ModuleState& state = State();
-    Module* module = handle ? state.modules.Find(reinterpret_cast<std::uintptr_t>(handle)) : &state.own;
+    Module* module = handle ? state.modules.Find(handle) : state.own;
     if (!module)
         SetLastError(ERROR_INVALID_HANDLE);
     return module;
@@ -137,8 +139,11 @@ Module* FindLoaded(std::string_view path)
 
 HMODULE Keep(std::unique_ptr<Module> module)
 {
-    module->handle = reinterpret_cast<HMODULE>(State().modules.Add(module.get()));
-    return module.release()->handle;
+    ModuleState& state = State();
+    const auto handle = state.modules.Add<HMODULE>(std::move(module));
+    if (Module* kept = state.modules.Find(handle))
+        kept->handle = handle;
+    return handle;
 }
 
 HMODULE LoadRegistered(std::string_view name)
@@ -205,16 +210,7 @@ Bytes FindResourceBytes(HMODULE handle, LPCSTR name, LPCSTR type)
 void ResetModules()
 {
     ModuleState& state = State();
-    std::vector<Module*> loaded;
-    state.modules.ForEach([&](Module& module) {
-        if (&module != &state.own)
-            loaded.push_back(&module);
-    });
-    for (Module* module : loaded)
-    {
-        state.modules.Remove(reinterpret_cast<std::uintptr_t>(module->handle));
-        delete module;
-    }
+    state.modules.RemoveIf([&](const Module& module) { return &module != state.own; });
     state.libraries.clear();
     state.attempts = 0;
 }
@@ -255,10 +251,8 @@ BOOL FreeLibrary(HMODULE handle)
     Module* module = handle ? ModuleOf(handle) : nullptr;
     if (!module)
         return FALSE;
-    if (module == &State().own || --module->references > 0)
-        return TRUE;
-    State().modules.Remove(reinterpret_cast<std::uintptr_t>(handle));
-    delete module;
+    if (module != State().own && --module->references == 0)
+        State().modules.Remove(handle);
     return TRUE;
 }
 
@@ -278,7 +272,7 @@ HMODULE GetModuleHandleA(LPCSTR name)
 {
     Inside inside;
     if (!name)
-        return State().own.handle;
+        return State().own->handle;
     if (const Module* module = FindLoaded(name))
         return module->handle;
     SetLastError(ERROR_MOD_NOT_FOUND);

@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <cstdint>
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the system's names
+
 #ifndef __int64
 #define __int64 long long
 #endif
@@ -2051,3 +2053,5 @@ int _chdrive(int drive);
 #define lstrcpy lstrcpyA
 #define lstrcpyn lstrcpynA
 #define lstrlen lstrlenA
+
+// NOLINTEND(bugprone-reserved-identifier)

@@ -25,8 +25,9 @@ struct Roots
 
 Window* MakeRoot(const char* className)
 {
-    auto* root = new Window;
-    root->handle = reinterpret_cast<HWND>(Windows().Add(root));
+    const HWND handle = Windows().Add<HWND>(std::make_unique<Window>());
+    Window* root = Windows().Find(handle);
+    root->handle = handle;
     root->windowClass = FindClass(className);
     root->procedure = root->windowClass->procedure;
     root->style = WS_POPUP | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
@@ -93,10 +94,10 @@ void Bury(Window& window)
         DestroyMenu(reinterpret_cast<HMENU>(window.id));
 
     Unlink(window);
-    Windows().Remove(reinterpret_cast<std::uintptr_t>(window.handle));
     --window.windowClass->windows;
     --g_liveWindows;
     window.dead = true;
+    static_cast<void>(Windows().Remove(window.handle).release()); // The last pin frees it.
 }
 
 std::vector<HWND> OwnedBy(HWND owner)
@@ -191,7 +192,7 @@ HWND RejectCreation(DWORD error)
 
 bool IsInside() { return g_inside; }
 
-Window* Find(HWND window) { return Windows().Find(reinterpret_cast<std::uintptr_t>(window)); }
+Window* Find(HWND window) { return Windows().Find(window); }
 
 Window* Lookup(HWND window)
 {
@@ -323,14 +324,12 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     ReplaceDefaults(style, x, y, width, height);
     CompleteStyles(style, exStyle);
 
-    auto* window = new Window;
-    const Pin pin(window);
-    window->handle = reinterpret_cast<HWND>(Windows().Add(window));
-    if (!window->handle)
-    {
-        delete window;
+    const HWND handle = Windows().Add<HWND>(std::make_unique<Window>());
+    Window* window = Windows().Find(handle);
+    if (!window)
         return RejectCreation(ERROR_NOT_ENOUGH_MEMORY);
-    }
+    const Pin pin(window);
+    window->handle = handle;
     window->windowClass = windowClass;
     window->procedure = windowClass->procedure;
     window->instance = instance;
@@ -346,7 +345,6 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     ++windowClass->windows;
     ++g_liveWindows;
 
-    const HWND handle = window->handle;
     CREATESTRUCTA create{};
     create.lpCreateParams = param;
     create.hInstance = instance;
