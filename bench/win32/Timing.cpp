@@ -47,41 +47,26 @@ public:
     {
         s_window = CreateWindowExA(0, "Static", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
         SetWindowLongPtrA(s_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&OnMessage));
-        m_hook = SetWindowsHookExA(WH_CALLWNDPROC, &BeforeMessage, nullptr, GetCurrentThreadId());
-        if (s_window == nullptr || m_hook == nullptr)
-            Stop("The dialogs cannot be watched.");
     }
-    ~CReadiness()
-    {
-        UnhookWindowsHookEx(m_hook);
-        DestroyWindow(s_window);
-    }
+    ~CReadiness() { DestroyWindow(s_window); }
     CReadiness(const CReadiness&) = delete;
     CReadiness& operator=(const CReadiness&) = delete;
 
-    /// Before a dialog is opened. `ended` tells whether it shall be ended by its Back button once it is ready.
-    static void Expect(bool ended)
+    static void Expect() { s_readyAt = 0; }
+
+    /// Every message of the dialog; cheap, as it is part of what is measured.
+    static void See(HWND dialog, UINT message, LPARAM lParam)
     {
-        s_dialog = nullptr;
-        s_ends = ended;
-        s_readyAt = 0;
+        if (message != WM_WINDOWPOSCHANGED || (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW) == 0)
+            return;
+        s_dialog = dialog;
+        PostMessageA(s_window, kReady, 0, 0);
     }
+
     static double ReadyAt() { return s_readyAt; }
 
 private:
     static constexpr UINT kReady = WM_APP;
-
-    static LRESULT CALLBACK BeforeMessage(int code, WPARAM wParam, LPARAM lParam)
-    {
-        const auto* message = reinterpret_cast<const CWPSTRUCT*>(lParam);
-        if (code == HC_ACTION && message->message == WM_WINDOWPOSCHANGED && s_dialog == nullptr &&
-            (reinterpret_cast<const WINDOWPOS*>(message->lParam)->flags & SWP_SHOWWINDOW) != 0)
-        {
-            s_dialog = message->hwnd;
-            PostMessageA(s_window, kReady, 0, 0);
-        }
-        return CallNextHookEx(nullptr, code, wParam, lParam);
-    }
 
     static LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     {
@@ -90,34 +75,47 @@ private:
         s_readyAt = Milliseconds();
         if (!IsWindowVisible(s_dialog) || GetParent(GetFocus()) != s_dialog)
             Stop("A dialog was ready without being shown or having the focus.");
-        if (s_ends)
-            PostMessageA(s_dialog, WM_COMMAND, IDCANCEL, 0);
+        PostMessageA(s_dialog, WM_COMMAND, IDCANCEL, 0);
         return 0;
     }
 
-    static inline HWND s_dialog = nullptr;
-    static inline bool s_ends = false;
-    static inline double s_readyAt = 0;
     static inline HWND s_window = nullptr;
+    static inline HWND s_dialog = nullptr;
+    static inline double s_readyAt = 0;
+};
 
-    HHOOK m_hook;
+class CWatchedDlg : public CSpd1Dlg
+{
+public:
+    using CSpd1Dlg::CSpd1Dlg;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        CReadiness::See(m_hWnd, message, lParam);
+        return CSpd1Dlg::WindowProc(message, wParam, lParam);
+    }
 };
 
 double OpenWizard(CFunWizard& wizard, CWnd* owner)
 {
-    CReadiness::Expect(true);
+    CReadiness::Expect();
     const double start = Milliseconds();
-    if (CSpd1Dlg(&wizard, false, owner).DoModal() != IDCANCEL)
+    if (CWatchedDlg(&wizard, false, owner).DoModal() != IDCANCEL)
         Stop("The dialog could not be opened.");
     return CReadiness::ReadyAt() - start;
 }
 
-INT_PTR CALLBACK BareProc(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
+INT_PTR CALLBACK BareProc(HWND dialog, UINT message, WPARAM, LPARAM lParam)
+{
+    CReadiness::See(dialog, message, lParam);
+    return message == WM_INITDIALOG;
+}
 
 double OpenBare(CWnd* owner)
 {
     const HINSTANCE module = AfxGetInstanceHandle();
-    CReadiness::Expect(false);
+    CReadiness::Expect();
     const double start = Milliseconds();
     const HRSRC found = FindResourceA(module, MAKEINTRESOURCEA(IDD_SPD1_TRAPEZOIDAL), MAKEINTRESOURCEA(5));
     const auto* dialogTemplate = static_cast<LPCDLGTEMPLATE>(LockResource(LoadResource(module, found)));
@@ -140,9 +138,9 @@ double OpenBare(CWnd* owner)
 void CompareOpenings(int rounds)
 {
     constexpr int kWarmUp = 20;
-    const CReadiness readiness;
     CWnd owner;
     owner.CreateEx(0, "Static", "Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr);
+    const CReadiness readiness;
     CFunWizard wizard;
     SetUpController(wizard);
     wizard.CreateDlgFont(&owner);
