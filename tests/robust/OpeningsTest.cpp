@@ -50,7 +50,8 @@ protected:
         EXPECT_EQ(CurrentHoldings(), before);
     }
 
-    static constexpr ESpd1Variant VariantOf(int i) { return i % 2 == 0 ? kTrapezoidal : kHomeReturn; }
+    /// Each variant twice: the second time it shows what the first has stored.
+    static constexpr ESpd1Variant VariantOf(int i) { return i / 2 % 2 == 0 ? kTrapezoidal : kHomeReturn; }
 };
 
 TEST_F(COpeningsTest, ConfirmedLeaveNothingBehind)
