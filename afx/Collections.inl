@@ -44,6 +44,7 @@ template <class TYPE, class ARG_TYPE>
 inline TYPE& CArray<TYPE, ARG_TYPE>::operator[](int index)
 {
     ASSERT(index >= 0 && index < m_nSize);
+    // NOLINTNEXTLINE(clang-analyzer-core.uninitialized.UndefReturn): there is memory once there are elements
     return m_pData[index];
 }
 

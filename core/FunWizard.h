@@ -28,7 +28,7 @@ class AFX_API CFunWizard : public CObject
 public:
     CFunWizard();
     /// Frees everything: the lists, the dialog data, the font and the language library.
-    virtual ~CFunWizard();
+    ~CFunWizard() override;
 
     CFunWizard(const CFunWizard&) = delete;
     CFunWizard& operator=(const CFunWizard&) = delete;

@@ -273,7 +273,7 @@ bool CInstCodeGenerator::GenerateUnitSpeedChange()
     constexpr int kSpeeds = 2;
     // Two rungs select the speed by the speed change condition (contact 1) and the starting condition (contact 0).
     for (int rung = 0; rung < kSpeeds; rung++)
-        if (!EmitContactAs(kInstContact, 1, rung == 0) || !EmitContactAs(kInstContactOr, 0, 0) ||
+        if (!EmitContactAs(kInstContact, 1, rung == 0) || !EmitContactAs(kInstSecondContact, 0, 0) ||
             !EmitUnitTransfer(kFirstSpeed + rung))
             return false;
     if (!EmitContact(0) || !EmitDifferential())

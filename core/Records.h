@@ -63,12 +63,12 @@ static_assert(sizeof(SFWzdInstCode) == 10, "instruction record");
 /// Instruction kinds of contacts and generated records.
 enum EInstKind : short
 {
-    kInstOperand = -1,     ///< an operand of the preceding function instruction
-    kInstContactOr = 1,    ///< the second contact of a speed-selection rung
-    kInstContact = 2,      ///< a contact of the starting condition
-    kInstStartOutput = 3,  ///< the output of a start relay
-    kInstFunction = 8,     ///< a function instruction, its number in the value
-    kInstDifferential = 17 ///< the differential instruction after the starting contact
+    kInstOperand = -1,      ///< an operand of the preceding function instruction
+    kInstSecondContact = 1, ///< the second contact of a speed-selection rung
+    kInstContact = 2,       ///< a contact of the starting condition
+    kInstStartOutput = 3,   ///< the output of a start relay
+    kInstFunction = 8,      ///< a function instruction, its number in the value
+    kInstDifferential = 17  ///< the differential instruction after the starting contact
 };
 
 /// Data-type byte of SFunSetData.

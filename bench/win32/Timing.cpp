@@ -158,8 +158,8 @@ void CompareOpenings(int rounds)
     }
     const double time = Median(wizards);
     const double bare = Median(bares);
-    std::printf("opening F168      %8.3f ms   bare template  %8.3f ms   ratio %.2f   (median of %d, target 1.30)\n", time,
-                bare, time / bare, rounds);
+    std::printf("opening F168      %8.3f ms   bare template  %8.3f ms   ratio %.2f   (median of %d, target 1.30)\n",
+                time, bare, time / bare, rounds);
 }
 
 // ---- Instructions ---------------------------------------------------------------------------------------------------

@@ -31,7 +31,7 @@ public:
         if (CFont* font = control->GetFont())
             m_previous = SelectObject(font);
     }
-    ~CControlDC()
+    ~CControlDC() override
     {
         if (m_previous != nullptr)
             SelectObject(m_previous);
@@ -58,7 +58,7 @@ struct SColumn
 CString TakeColumn(CString& text)
 {
     const int tab = text.Find('\t');
-    const CString column = tab >= 0 ? text.Left(tab) : text;
+    CString column = tab >= 0 ? text.Left(tab) : text;
     text = tab >= 0 ? text.Mid(tab + 1) : CString();
     return column;
 }

@@ -61,7 +61,7 @@ struct SWzdFieldInfo
     SWzdRange range = {0, -1};
     SWzdBits bits = {0, 0};
     CWzdChoices choices;
-    int offset = -1; // of its entry in the data table,
+    int offset = -1;               // of its entry in the data table,
     EDataType type = kOneRegister; // and what the entry takes
 };
 

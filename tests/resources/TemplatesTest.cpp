@@ -274,8 +274,7 @@ TEST(SelectTemplate, ScrollsALongList)
 {
     CDialog dialog(1001);
     CDialogRobot robot;
-    robot.Play([&] { return static_cast<int>(dialog.DoModal()); },
-               {[](CDialogRobot& scene) {
+    robot.Play([&] { return static_cast<int>(dialog.DoModal()); }, {[](CDialogRobot& scene) {
                    CWnd* list = scene.Dialog()->GetDlgItem(2001);
                    for (int item = 0; item < 100; item++)
                        list->SendMessage(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item"));

@@ -8,8 +8,8 @@
 namespace
 {
 
-// How many of the texts are tried. A message box of the real desktop takes its time: there, texts evenly spread over all
-// of them stand for the rest.
+// How many of the texts are tried. A message box of the real desktop takes its time: there, texts evenly spread over
+// all of them stand for the rest.
 #if defined(_WIN32)
 constexpr unsigned kTexts = 10000;
 constexpr unsigned kStep = 11;
@@ -93,7 +93,9 @@ protected:
             if (dialog.IsOpen())
                 dialog.Dismiss();
         };
-        const auto open = [&] { return static_cast<int>(CSpd1Dlg(&m_wizard, variant == kHomeReturn, nullptr).DoModal()); };
+        const auto open = [&] {
+            return static_cast<int>(CSpd1Dlg(&m_wizard, variant == kHomeReturn, nullptr).DoModal());
+        };
         for (unsigned opening = 0; index < count; ++opening)
         {
             UseCodePage(kCodePages[opening % std::size(kCodePages)]);

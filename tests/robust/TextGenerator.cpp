@@ -50,9 +50,9 @@ private:
     std::string NearBound()
     {
         static constexpr long long kBounds[] = {
-            0,     4,      10,      15,       29,       30,       39,         40,          100,        255,
-            999,   5000,   6000,    9500,     9999,     14416,    15999,      32758,       32761,      32767,
-            65535, 65536,  99999,   8388607,  8388608,  16777216, 2147483647, 4294967295,  4294967396, 9223372036854775807};
+            0,     4,     10,    15,      29,      30,       39,         40,         100,        255,
+            999,   5000,  6000,  9500,    9999,    14416,    15999,      32758,      32761,      32767,
+            65535, 65536, 99999, 8388607, 8388608, 16777216, 2147483647, 4294967295, 4294967396, 9223372036854775807};
         const long long number = kBounds[Below(static_cast<unsigned>(std::size(kBounds)))];
         const std::string digits = std::to_string(static_cast<unsigned long long>(number) + Below(5) - 2);
         return (Below(3) == 0 ? "-" : "") + digits;

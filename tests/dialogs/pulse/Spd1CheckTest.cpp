@@ -72,39 +72,17 @@ struct SBound
 };
 
 constexpr SBound kBounds[] = {
-    {2106, "39", 20004},
-    {2106, "40", kAccepted},
-    {2106, "5000", kAccepted},
-    {2106, "5001", 20004},
-    {2106, "-40", 20004},
-    {2106, "0", 20004},
-    {2107, "39", 20005},
-    {2107, "40", kAccepted},
-    {2107, "6000", kAccepted},
-    {2107, "6001", 20005},
-    {2107, "9500", 20005},
-    {2107, "39", 20005, 1},
-    {2107, "40", kAccepted, 1},
-    {2107, "6000", kAccepted, 1},
-    {2107, "6001", kAccepted, 1},
-    {2107, "9500", kAccepted, 1},
-    {2107, "9501", 20005, 1},
-    {2108, "29", 20006},
-    {2108, "30", kAccepted},
-    {2108, "32767", kAccepted},
-    {2108, "32768", 20006},
-    {2108, "99999", 20006},
-    {2110, "-8388608", kAccepted},
-    {2110, "8388607", kAccepted},
-    {2110, "8388608", 20007},
-    {2110, "0", kAccepted},
-    {2110, "99999999", 20007},
-    {2052, "0", kAccepted},
-    {2052, "255F", kAccepted},
-    {2052, "2560", 20020},
-    {2052, "999F", 20020},
-    {2101, "0", kAccepted},
-    {2101, "-1", 20003},
+    {2106, "39", 20004},          {2106, "40", kAccepted},       {2106, "5000", kAccepted},
+    {2106, "5001", 20004},        {2106, "-40", 20004},          {2106, "0", 20004},
+    {2107, "39", 20005},          {2107, "40", kAccepted},       {2107, "6000", kAccepted},
+    {2107, "6001", 20005},        {2107, "9500", 20005},         {2107, "39", 20005, 1},
+    {2107, "40", kAccepted, 1},   {2107, "6000", kAccepted, 1},  {2107, "6001", kAccepted, 1},
+    {2107, "9500", kAccepted, 1}, {2107, "9501", 20005, 1},      {2108, "29", 20006},
+    {2108, "30", kAccepted},      {2108, "32767", kAccepted},    {2108, "32768", 20006},
+    {2108, "99999", 20006},       {2110, "-8388608", kAccepted}, {2110, "8388607", kAccepted},
+    {2110, "8388608", 20007},     {2110, "0", kAccepted},        {2110, "99999999", 20007},
+    {2052, "0", kAccepted},       {2052, "255F", kAccepted},     {2052, "2560", 20020},
+    {2052, "999F", 20020},        {2101, "0", kAccepted},        {2101, "-1", 20003},
     {2101, "99999", 20003},
 };
 
@@ -145,8 +123,8 @@ struct SStartBound
 
 // Registers 100 to 1000: the table takes seven or four of them.
 constexpr SStartBound kStartBounds[] = {
-    {kTrapezoidal, "99", 20003}, {kTrapezoidal, "100", kAccepted}, {kTrapezoidal, "994", kAccepted},
-    {kTrapezoidal, "995", 20003}, {kHomeReturn, "99", 20003},      {kHomeReturn, "100", kAccepted},
+    {kTrapezoidal, "99", 20003},     {kTrapezoidal, "100", kAccepted}, {kTrapezoidal, "994", kAccepted},
+    {kTrapezoidal, "995", 20003},    {kHomeReturn, "99", 20003},       {kHomeReturn, "100", kAccepted},
     {kHomeReturn, "997", kAccepted}, {kHomeReturn, "998", 20003},
 };
 
@@ -166,7 +144,8 @@ TEST_F(CSpd1CheckTest, KeepsTheWholeTableInTheRegisters)
 // ---- Texts that are no numbers --------------------------------------------------------------------------------------
 
 // "-" alone reads as 0.
-constexpr const char* kMalformed[] = {"", " ", "    ", "a", "12a", "1-2", "--1", "+1", "1 2", "1.5", "0x1", "1e3", "\x80"};
+constexpr const char* kMalformed[] = {"",   " ",   "    ", "a",   "12a", "1-2", "--1",
+                                      "+1", "1 2", "1.5",  "0x1", "1e3", "\x80"};
 
 TEST_F(CSpd1CheckTest, RefusesWhatIsNoNumber)
 {
@@ -182,8 +161,8 @@ TEST_F(CSpd1CheckTest, RefusesWhatIsNoNumber)
                 const CString good = dialog.Text(edit);
                 for (const char* text : kMalformed)
                 {
-                    const bool isBitNumber = edit == 2052 && (text[0] == 'a' || std::string(text) == "12a" ||
-                                                              std::string(text) == "1 2");
+                    const bool isBitNumber =
+                        edit == 2052 && (text[0] == 'a' || std::string(text) == "12a" || std::string(text) == "1 2");
                     if (isBitNumber)
                         continue;
                     SCOPED_TRACE(testing::Message() << variant << ", \"" << text << "\" in edit " << edit);
@@ -207,8 +186,9 @@ TEST_F(CSpd1CheckTest, TakesALoneSignForZero)
 TEST_F(CSpd1CheckTest, RefusesHugeNumbersAsOutOfRange)
 {
     constexpr UINT kMessages[] = {20020, 20003, 20004, 20005, 20006, 20007};
-    const char* kHuge[] = {"4294967296",           "4294967396",           "18446744073709551616", "18446744073709551716",
-                           "99999999999999999999", "9223372036854775808",  "-9223372036854775809", "-18446744073709551516"};
+    const char* kHuge[] = {"4294967296",           "4294967396",           "18446744073709551616",
+                           "18446744073709551716", "99999999999999999999", "9223372036854775808",
+                           "-9223372036854775809", "-18446744073709551516"};
     Leave(kTrapezoidal, [&](CDialogRobot& dialog) {
         FillIn(dialog, {});
         for (size_t i = 0; i < std::size(kEdits); ++i)
@@ -332,7 +312,8 @@ TEST_F(CSpd1CheckTest, ClearSettingsEmptiesTheDialogAndNothingElse)
         {
             Remember(variant, EarlierResults());
             Leave(variant, [&](CDialogRobot& dialog) {
-                FillIn(dialog, {.device = kL, .contact = "7F", .output = 1, .width = 1, .mode = 4, .onlyDataTable = only});
+                FillIn(dialog,
+                       {.device = kL, .contact = "7F", .output = 1, .width = 1, .mode = 4, .onlyDataTable = only});
                 dialog.Click(IDC_CLEAR_SETTINGS);
                 for (UINT combo : {2051, 2103, 2104, 2105})
                     EXPECT_EQ(dialog.Selection(combo), 0) << "of list " << combo;

@@ -61,7 +61,8 @@ TEST_F(CSpd1ContactTest, IsOneOfTheBitDevicesInTheOrderOfTheDeviceTable)
         // Each item carries its device: the kind under which ranges are set, and the code.
         for (size_t i = 0; i < std::size(kDevices); ++i)
         {
-            const auto data = static_cast<DWORD>(dialog.Dialog()->SendDlgItemMessage(IDC_CONTACT_DEVICE, CB_GETITEMDATA, i));
+            const auto data =
+                static_cast<DWORD>(dialog.Dialog()->SendDlgItemMessage(IDC_CONTACT_DEVICE, CB_GETITEMDATA, i));
             EXPECT_EQ(data, 0xFFFF0000u | static_cast<DWORD>(kDevices[i].code)) << "of item " << i;
         }
     });
@@ -143,9 +144,24 @@ struct SReading
 };
 
 constexpr SReading kReadings[] = {
-    {kR, "A", 10},       {kR, "a", 10},      {kR, "10a", 170}, {kR, "0010", 16},  {kR, " 1F", 31},  {kR, "1 F", 31},
-    {kR, "1G", -1},      {kR, "A0", -1},     {kR, "-1", -1},   {kR, "1.0", -1},   {kT, "100", 100}, {kT, "1A", -1},
-    {kT, "0100", 100},   {kT, " 99", 99},    {kT, "9 9", -1},  {kE, "10", 10},    {kE, "A", -1},    {kC, "1010", 1010},
+    {kR, "A", 10},
+    {kR, "a", 10},
+    {kR, "10a", 170},
+    {kR, "0010", 16},
+    {kR, " 1F", 31},
+    {kR, "1 F", 31},
+    {kR, "1G", -1},
+    {kR, "A0", -1},
+    {kR, "-1", -1},
+    {kR, "1.0", -1},
+    {kT, "100", 100},
+    {kT, "1A", -1},
+    {kT, "0100", 100},
+    {kT, " 99", 99},
+    {kT, "9 9", -1},
+    {kE, "10", 10},
+    {kE, "A", -1},
+    {kC, "1010", 1010},
     {kSpecialR, "901f", 14431},
 };
 

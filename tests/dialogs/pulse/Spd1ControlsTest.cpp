@@ -98,12 +98,18 @@ TEST_P(CSpd1ControlsTest, ListsItsItems)
         EXPECT_EQ(dialog.Items(2051), (Texts{"X", "Y", "R", "Sp.R", "T", "C", "L"}));
         EXPECT_EQ(dialog.Items(2103), (Texts{"Y0", "Y1"}));
         EXPECT_EQ(dialog.Items(2104), (Texts{"Duty 50%", "Fixed pulse width (approx80us)"}));
-        const Texts trapezoidal = {"Incremental  Does not use directional output", "Incremental  forward off/reverse on",
-                                   "Incremental  forward on/reverse off",          "absolute  Does not use directional output",
-                                   "absolute  forward off/reverse on",             "absolute  forward on/reverse off"};
-        const Texts homeReturn = {"Homing mode1  No directional output",  "Homing mode1  directional output off",
-                                  "Homing mode1  directional output on",  "Homing mode2  No directional output",
-                                  "Homing mode2  output off",             "Homing mode2  output on"};
+        const Texts trapezoidal = {"Incremental  Does not use directional output",
+                                   "Incremental  forward off/reverse on",
+                                   "Incremental  forward on/reverse off",
+                                   "absolute  Does not use directional output",
+                                   "absolute  forward off/reverse on",
+                                   "absolute  forward on/reverse off"};
+        const Texts homeReturn = {"Homing mode1  No directional output",
+                                  "Homing mode1  directional output off",
+                                  "Homing mode1  directional output on",
+                                  "Homing mode2  No directional output",
+                                  "Homing mode2  output off",
+                                  "Homing mode2  output on"};
         EXPECT_EQ(dialog.Items(2105), IsTrapezoidal() ? trapezoidal : homeReturn);
         for (UINT combo : {2051, 2103, 2104, 2105})
             EXPECT_EQ(dialog.Selection(combo), 0) << "of list " << combo;
@@ -139,9 +145,9 @@ struct SStartLimit
 };
 
 // The limit of the start address is as long as its highest value, not as the highest register.
-constexpr SStartLimit kStartLimits[] = {{9, 1, 1},    {12, 1, 1},   {13, 1, 2},      {15, 1, 2},      {16, 2, 2},
-                                        {102, 2, 2},  {103, 2, 3},  {106, 3, 3},     {10002, 4, 4},   {10003, 4, 5},
-                                        {10006, 5, 5}, {32764, 5, 5}, {100005, 5, 6}, {2147483647, 10, 10}};
+constexpr SStartLimit kStartLimits[] = {
+    {9, 1, 1},   {12, 1, 1},    {13, 1, 2},    {15, 1, 2},    {16, 2, 2},    {102, 2, 2},    {103, 2, 3},
+    {106, 3, 3}, {10002, 4, 4}, {10003, 4, 5}, {10006, 5, 5}, {32764, 5, 5}, {100005, 5, 6}, {2147483647, 10, 10}};
 
 TEST_P(CSpd1ControlsTest, LimitsTheStartToTheDigitsOfItsHighestValue)
 {

@@ -69,11 +69,7 @@ const SRestoring kRestorings[] = {
     {"a negative output", {.operands = {{9, 3}, {12, -1}}}, {.start = "3"}},
 
     {"records of other devices",
-     {.data = {{10, 0, 0, 1, 0x113},
-               {20009, 1, 0, 0, 500},
-               {0, 2, 0, 0, 500},
-               {-1, 3, 0, 0, 300},
-               {11, 4, 0, 0, 300}}},
+     {.data = {{10, 0, 0, 1, 0x113}, {20009, 1, 0, 0, 500}, {0, 2, 0, 0, 500}, {-1, 3, 0, 0, 300}, {11, 4, 0, 0, 300}}},
      {}},
     {"one record of another device",
      {.data = {{9, 0, 0, 1, 0x103}, {9, 1, 0, 0, 41}, {10, 2, 0, 0, 500}, {9, 3, 0, 0, 31}, {9, 4, 0, 0, 7}}},
@@ -120,7 +116,8 @@ TEST_F(CSpd1Test, BackKeepsWhatWasConfirmedBefore)
         Confirm(variant, [](CDialogRobot& dialog) { FillIn(dialog, {}); });
         const SResults confirmed = ReadResults(m_wizard);
         Leave(variant, [](CDialogRobot& dialog) {
-            FillIn(dialog, {.device = kL, .contact = "1", .start = "2", .initial = "50", .output = 1, .onlyDataTable = true});
+            FillIn(dialog,
+                   {.device = kL, .contact = "1", .start = "2", .initial = "50", .output = 1, .onlyDataTable = true});
         });
         EXPECT_EQ(ReadResults(m_wizard), confirmed);
         EXPECT_EQ(m_wizard.IsOnlyDataTable(), 0);

@@ -250,8 +250,9 @@ TEST_F(CSpd1ResultsTest, LeaveOutTheCommentOfAnEditWithoutLabel)
         ::SetWindowPos(*dialog.Dialog()->GetDlgItem(IDC_SPD1_MAXIMUM), HWND_TOP, 0, 0, 0, 0,
                        SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE); // nothing stands before it any more
     });
-    EXPECT_EQ(ReadResults(m_wizard).comments, (std::vector<std::string>{"Control code", "Initial speed",
-                                                                        "Acceleration/deceleration time", "Target value"}));
+    EXPECT_EQ(
+        ReadResults(m_wizard).comments,
+        (std::vector<std::string>{"Control code", "Initial speed", "Acceleration/deceleration time", "Target value"}));
 }
 
 TEST_F(CSpd1ResultsTest, HaveTheCommentsOfTheLanguage)

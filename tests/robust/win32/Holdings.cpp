@@ -48,8 +48,8 @@ int Menus()
     return count;
 }
 
-// The system does not tell on every version how many graphics objects a process has, but there is only room for so many:
-// those that there are cannot be made any more.
+// The system does not tell on every version how many graphics objects a process has, but there is only room for so
+// many: those that there are cannot be made any more.
 int RoomForGraphics()
 {
     std::vector<HBRUSH> brushes(100000);

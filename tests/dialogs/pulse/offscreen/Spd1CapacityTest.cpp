@@ -33,7 +33,9 @@ TEST_F(CSpd1CapacityTest, OpensOnlyWhenEveryListHoldsItsItems)
                 std::vector<Scene> scenes;
                 if (fits)
                     scenes.push_back([](CDialogRobot& dialog) { dialog.Click(IDCANCEL); });
-                const auto open = [&] { return static_cast<int>(CSpd1Dlg(&wizard, variant == kHomeReturn, nullptr).DoModal()); };
+                const auto open = [&] {
+                    return static_cast<int>(CSpd1Dlg(&wizard, variant == kHomeReturn, nullptr).DoModal());
+                };
                 EXPECT_EQ(Play(open, scenes), IDCANCEL);
             }
         }
