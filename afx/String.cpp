@@ -177,6 +177,15 @@ void CString::TrimRight()
         SetLength(length);
 }
 
+void CString::TrimRight(char target)
+{
+    int length = GetLength();
+    while (length > 0 && m_pchData[length - 1] == target)
+        --length;
+    if (m_pchData)
+        SetLength(length);
+}
+
 void CString::MakeUpper()
 {
     if (m_pchData)

@@ -60,6 +60,7 @@ public:
     /// Cut white space off one end.
     void TrimLeft();
     void TrimRight();
+    void TrimRight(char target);
     // Only a-z and A-Z change, and never the second byte of a character.
     void MakeUpper();
     void MakeLower();

@@ -205,11 +205,13 @@ private:
     friend struct SFunWizardTest;
 
     friend class CInstCodeGenerator;
+    template <typename TGenerate>
+    int Generate(TGenerate generate);
 
     void ForgetResults();
     void EnterWizard(int instruction, int variant);
     void RecordWizard(unsigned char mode, int instruction, int variant);
-    int OpenDirectly(int instruction, unsigned int templateId, CWnd* parent);
+    int OpenDirectly(int instruction, CDialog* dialog, CWnd* parent);
     const WORD* ChannelMask(int instruction) const;
 
     HINSTANCE m_library;

@@ -4,6 +4,7 @@
 // generator below is one layout of such a sequence; the steps they share are the functions of the class.
 #include "core/Devices.h"
 #include "core/FunWizard.h"
+#include "core/Memory.h"
 
 #include <algorithm>
 
@@ -19,10 +20,6 @@ constexpr int kTransferDoubleWord = 1;
 constexpr int kTransferReal = 309;
 
 constexpr int kPid = 355;
-constexpr int kUnitOperation = 151;
-constexpr int kVariantJog = 10040;
-constexpr int kVariantJogSpeedChange = 10050;
-constexpr int kVariantPulsar = 10080;
 
 // Special relay word 901: bit 0 is always on, bit 3 is on in the first scan.
 constexpr int kAlwaysOnRelay = 901 * 16 + 0;
@@ -43,7 +40,7 @@ bool StartsOnEdge(int instruction)
 } // namespace
 
 /// Appends generated records to the instruction list of a wizard. Every Emit function returns whether the records it
-/// needed were there and could be added; the first false ends the generation.
+/// needed were there; the first false ends the generation. Running out of memory throws.
 class CInstCodeGenerator
 {
 public:
@@ -65,15 +62,13 @@ public:
     [[nodiscard]] bool GenerateUnit(bool edgeBeforeOutput);
     [[nodiscard]] bool GenerateUnitSpeedChange();
 
-    bool IsJog() const
-    {
-        return m_wizard.m_lastVariant == kVariantJog || m_wizard.m_lastVariant == kVariantJogSpeedChange;
-    }
+    bool IsJog() const { return m_wizard.m_lastVariant == kUnitJog || m_wizard.m_lastVariant == kUnitJogSpeedChange; }
 
 private:
     bool Emit(short kind, short code, int value, BYTE flag1 = 0, BYTE flag2 = 0)
     {
-        return m_wizard.AddInstCodeInfo(kind, code, value, flag1, flag2) != 0;
+        m_wizard.m_instructions.Add({kind, code, value, flag1, flag2});
+        return true;
     }
 
     bool EmitDifferential() { return Emit(kInstDifferential, -1, 0); }
@@ -294,23 +289,45 @@ int CFunWizard::CreateInstCode()
     RemoveAllInstCodeInfo();
     if (m_unitMode == 0)
         return IsScaling(m_lastInstruction) ? CreateInstCode_11() : CreateInstCode_1();
-    if (m_lastInstruction == kUnitOperation && m_lastVariant == kVariantPulsar)
+    if (m_lastInstruction == kUnitInstruction && m_lastVariant == kUnitPulsar)
         return CreateInstCode_4();
-    if (m_lastInstruction == kUnitOperation && m_lastVariant == kVariantJogSpeedChange)
+    if (m_lastInstruction == kUnitInstruction && m_lastVariant == kUnitJogSpeedChange)
         return CreateInstCode_3();
     return CreateInstCode_2();
 }
 
-int CFunWizard::CreateInstCode_1() { return CInstCodeGenerator(*this).GeneratePulse(); }
+template <typename TGenerate>
+int CFunWizard::Generate(TGenerate generate)
+{
+    bool complete = false;
+    const int enough = WithMemory([&] {
+        CInstCodeGenerator generator(*this);
+        complete = generate(generator);
+    });
+    return enough && complete;
+}
 
-int CFunWizard::CreateInstCode_11() { return CInstCodeGenerator(*this).GenerateScaling(); }
+int CFunWizard::CreateInstCode_1()
+{
+    return Generate([](CInstCodeGenerator& generator) { return generator.GeneratePulse(); });
+}
+
+int CFunWizard::CreateInstCode_11()
+{
+    return Generate([](CInstCodeGenerator& generator) { return generator.GenerateScaling(); });
+}
 
 int CFunWizard::CreateInstCode_2()
 {
-    CInstCodeGenerator generator(*this);
-    return generator.GenerateUnit(!generator.IsJog());
+    return Generate([](CInstCodeGenerator& generator) { return generator.GenerateUnit(!generator.IsJog()); });
 }
 
-int CFunWizard::CreateInstCode_3() { return CInstCodeGenerator(*this).GenerateUnitSpeedChange(); }
+int CFunWizard::CreateInstCode_3()
+{
+    return Generate([](CInstCodeGenerator& generator) { return generator.GenerateUnitSpeedChange(); });
+}
 
-int CFunWizard::CreateInstCode_4() { return CInstCodeGenerator(*this).GenerateUnit(true); }
+int CFunWizard::CreateInstCode_4()
+{
+    return Generate([](CInstCodeGenerator& generator) { return generator.GenerateUnit(true); });
+}

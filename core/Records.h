@@ -71,6 +71,21 @@ enum EInstKind : short
     kInstDifferential = 17  ///< the differential instruction after the starting contact
 };
 
+/// The instruction number under which every operation of the positioning unit is recorded, and its variants.
+constexpr int kUnitInstruction = 151;
+
+enum EUnitVariant
+{
+    kUnitEPoint = 10010,
+    kUnitPPointStart = 10020,
+    kUnitPPointPassing = 10030,
+    kUnitJog = 10040,
+    kUnitJogSpeedChange = 10050,
+    kUnitJogPositioning = 10060,
+    kUnitHomeReturn = 10070,
+    kUnitPulsar = 10080
+};
+
 /// Data-type byte of SFunSetData.
 enum EDataType : unsigned char
 {

@@ -122,6 +122,33 @@ CString FormatHex32(DWORD value)
     return text;
 }
 
+BOOL ParseFixed(LPCSTR text, int whole, int decimals, LONGLONG& value)
+{
+    CString trimmed = Trimmed(text);
+    if (trimmed.FindOneOf("0123456789") < 0)
+        return FALSE;
+    if (trimmed.Find('.') >= 0)
+        trimmed.TrimRight('0');
+    LONGLONG magnitude = 0;
+    int missing = decimals;
+    bool behindPoint = false;
+    for (LPCSTR next = trimmed; *next != '\0'; next++)
+    {
+        if (*next == '.' && !behindPoint)
+        {
+            behindPoint = true;
+            continue;
+        }
+        if (!IsDigit(*next) || (behindPoint ? --missing : --whole) < 0)
+            return FALSE;
+        magnitude = magnitude * 10 + (*next - '0');
+    }
+    while (missing-- > 0)
+        magnitude *= 10;
+    value = magnitude;
+    return TRUE;
+}
+
 CString FormatFixed(LONGLONG value, int decimals)
 {
     const bool negative = value < 0;

@@ -38,6 +38,11 @@ CString FormatDeviceNumber(short code, int number);
 /// becomes the nearest one. False, and `number` untouched, for a malformed text.
 BOOL ParseDeviceNumber(short code, LPCSTR text, int& number);
 
+/// Reads an unsigned fixed-point number with at most `whole` digits before the point and `decimals` after it, not
+/// counting zeros at the end; blanks around it are trimmed. The value is in units of the last decimal: "2.5" with two
+/// decimals is 250. False, and `value` untouched, for a malformed text or one without any digit.
+BOOL ParseFixed(LPCSTR text, int whole, int decimals, LONGLONG& value);
+
 /// The notation of fixed-point values: a sign, the whole part and `decimals` (0..9) digits of fraction. 1250 with two
 /// decimals is "12.50".
 CString FormatFixed(LONGLONG value, int decimals);
