@@ -83,6 +83,7 @@ void SPlc::Configure(CFunWizard& wizard) const
 
     wizard.SetPlcType(static_cast<unsigned char>(type));
     wizard.SetMaxSlot(static_cast<unsigned char>(slots));
+    wizard.SetStartType(static_cast<unsigned char>(startType));
     for (const SDeviceRange& range : ranges)
         wizard.SetDevRange(-1, static_cast<short>(DeviceCode(range.device)), range.low, range.high);
 

@@ -30,6 +30,7 @@ struct SPlc
     std::vector<SDeviceRange> ranges;
     std::vector<SOfferedChannel> channels;
     std::vector<int> instructions; ///< of the pulse-output list: 168..177
+    int startType = 2; ///< what starts a positioning unit: 0 the user's program, 1 the relay of the axis, 2 any output
 
     /// Hands everything to the wizard, in place of what another controller left there.
     void Configure(CFunWizard& wizard) const;

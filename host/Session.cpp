@@ -169,7 +169,8 @@ SPlc Plc(const CNode& node)
     if (node.IsText())
         return Preset(node);
 
-    node.ExpectKeys({"preset", "type", "slots", "axes", "display175", "ranges", "channels", "instructions"});
+    node.ExpectKeys(
+        {"preset", "type", "slots", "axes", "startType", "display175", "ranges", "channels", "instructions"});
     SPlc plc = node.Has("preset") ? Preset(node["preset"]) : SPlc();
     if (!node.Has("preset"))
         plc.name = "custom";
@@ -179,6 +180,8 @@ SPlc Plc(const CNode& node)
         plc.slots = node["slots"].Int(0, 255);
     if (node.Has("axes"))
         plc.axes = node["axes"].Int(2, 4);
+    if (node.Has("startType"))
+        plc.startType = node["startType"].Int(0, 2);
     if (node.Has("display175"))
         plc.display175 = node["display175"].Int(0, 2);
     if (node.Has("ranges"))

@@ -109,6 +109,7 @@ void CSessionPlayer::PlayRun(const SRun& run)
     for (const CDialogSteps& steps : run.dialogs)
         scenes.emplace_back([this, &steps](CDialogRobot& robot) { PlayDialog(robot, steps); });
     CDialogRobot robot;
+    m_reportedBoxes = 0;
     const int result = robot.Play([&] { return Open(run); }, scenes);
     m_report << "Result: " << result << '\n';
     ReportFailures(robot, "");
@@ -169,8 +170,6 @@ void CSessionPlayer::PlayDialog(CDialogRobot& robot, const CDialogSteps& steps)
 
 void CSessionPlayer::PlayStep(CDialogRobot& robot, const SStep& step)
 {
-    const size_t boxes = robot.MessageBoxes().size();
-
     m_report << "  " << OneLine(Describe(step)) << '\n';
     if (step.answer)
         robot.Answering(*step.answer, [&] { Act(robot, step); });
@@ -180,9 +179,9 @@ void CSessionPlayer::PlayStep(CDialogRobot& robot, const SStep& step)
     // An edit need not take everything that is typed.
     if (step.verb == EVerb::Type && robot.IsOpen() && Std(robot.Text(step.control)) != step.text)
         m_report << "    it holds " << Quoted(OneLine(Std(robot.Text(step.control)))) << '\n';
-    for (size_t i = boxes; i < robot.MessageBoxes().size(); ++i)
+    for (; m_reportedBoxes < robot.MessageBoxes().size(); ++m_reportedBoxes)
     {
-        const SRobotMessageBox& box = robot.MessageBoxes()[i];
+        const SRobotMessageBox& box = robot.MessageBoxes()[m_reportedBoxes];
         m_report << "    message box " << Quoted(Std(box.caption)) << ": " << Quoted(OneLine(Std(box.text))) << ", "
                  << ButtonName(box.answer) << '\n';
     }

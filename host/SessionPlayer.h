@@ -32,6 +32,7 @@ private:
     std::ostream& m_report;
     std::string m_shots;
     int m_shotCount = 0;
+    size_t m_reportedBoxes = 0;
     bool m_success = true;
     CFunWizard m_wizard;
     int m_axes = 4;

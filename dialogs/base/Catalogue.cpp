@@ -51,24 +51,15 @@ constexpr SCatalogueItem kListB3[] = {
     {IDS_LIST_B_F177, {177, 0}},
 };
 
-constexpr int kEPoint = 10010;
-constexpr int kPPointStart = 10020;
-constexpr int kPPointPassing = 10030;
-constexpr int kJog = 10040;
-constexpr int kJogSpeedChange = 10050;
-constexpr int kJogPositioning = 10060;
-constexpr int kHomeReturn = 10070;
-constexpr int kPulsar = 10080;
-
 constexpr SCatalogueItem kUnitList[] = {
-    {IDS_LIST_E_POINT, {kUnitInstruction, kEPoint}},
-    {IDS_LIST_P_POINT_START, {kUnitInstruction, kPPointStart}},
-    {IDS_LIST_P_POINT_PASSING, {kUnitInstruction, kPPointPassing}},
-    {IDS_LIST_JOG, {kUnitInstruction, kJog}},
-    {IDS_LIST_JOG_SPEED_CHANGE, {kUnitInstruction, kJogSpeedChange}},
-    {IDS_LIST_JOG_POSITIONING, {kUnitInstruction, kJogPositioning}},
-    {IDS_LIST_HOME_RETURN, {kUnitInstruction, kHomeReturn}},
-    {IDS_LIST_PULSAR, {kUnitInstruction, kPulsar}},
+    {IDS_LIST_E_POINT, {kUnitInstruction, kUnitEPoint}},
+    {IDS_LIST_P_POINT_START, {kUnitInstruction, kUnitPPointStart}},
+    {IDS_LIST_P_POINT_PASSING, {kUnitInstruction, kUnitPPointPassing}},
+    {IDS_LIST_JOG, {kUnitInstruction, kUnitJog}},
+    {IDS_LIST_JOG_SPEED_CHANGE, {kUnitInstruction, kUnitJogSpeedChange}},
+    {IDS_LIST_JOG_POSITIONING, {kUnitInstruction, kUnitJogPositioning}},
+    {IDS_LIST_HOME_RETURN, {kUnitInstruction, kUnitHomeReturn}},
+    {IDS_LIST_PULSAR, {kUnitInstruction, kUnitPulsar}},
 };
 
 constexpr BYTE kPlcTypeB2 = 114;
@@ -139,19 +130,19 @@ UINT UnitTemplate(int variant)
 {
     switch (variant)
     {
-    case kEPoint:
-    case kPPointStart:
-    case kJogPositioning:
+    case kUnitEPoint:
+    case kUnitPPointStart:
+    case kUnitJogPositioning:
         return IDD_EPOINT;
-    case kPPointPassing:
+    case kUnitPPointPassing:
         return IDD_PPOINT;
-    case kJog:
+    case kUnitJog:
         return IDD_JOG;
-    case kJogSpeedChange:
+    case kUnitJogSpeedChange:
         return IDD_JOG_SPEED_CHANGE;
-    case kHomeReturn:
+    case kUnitHomeReturn:
         return IDD_HOME_RETURN;
-    case kPulsar:
+    case kUnitPulsar:
         return IDD_PULSAR;
     default:
         return 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "afx/afx.h"
+#include "core/Records.h"
 
 #include <span>
 
@@ -11,9 +12,6 @@ enum EWizardMode : unsigned char
     kPulseInstructions = 0,
     kUnitOperations = 1
 };
-
-/// The instruction number under which every positioning-unit operation is recorded.
-constexpr int kUnitInstruction = 151;
 
 /// An instruction with the form or operation chosen.
 struct SWizardChoice

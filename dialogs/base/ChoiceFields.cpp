@@ -10,14 +10,6 @@
 namespace
 {
 
-// The position of a code in a list, or -1.
-int Find(CWzdChoices choices, DWORD code)
-{
-    const auto found =
-        std::find_if(choices.begin(), choices.end(), [code](const SWzdChoice& choice) { return choice.code == code; });
-    return found != choices.end() ? static_cast<int>(found - choices.begin()) : -1;
-}
-
 /// A combo box that lists the choices in order, so that the position in the list is the position of the choice.
 class CChoiceField : public CWzdField
 {
@@ -27,14 +19,7 @@ public:
     {
     }
 
-    bool Open() override
-    {
-        if (!m_dialog.FillCombo(m_combo, m_choices))
-            return false;
-        const int stored = StoredIndex();
-        m_dialog.Select(m_combo, stored >= 0 && stored < static_cast<int>(m_choices.size()) ? stored : 0);
-        return true;
-    }
+    bool Open() override { return m_dialog.FillCombo(m_combo, m_choices, StoredIndex()); }
 
     void Clear() override { m_dialog.Select(m_combo, 0); }
 
@@ -42,7 +27,7 @@ public:
     {
         SWzdFieldInfo info;
         info.combo = m_combo;
-        info.choices = m_choices;
+        info.choices.assign(m_choices.begin(), m_choices.end());
         return info;
     }
 
@@ -91,11 +76,21 @@ protected:
         short code;
         int value;
         const bool stored = m_dialog.Wizard().GetOprdInfo(m_operand, code, value);
-        return stored && (code == kDeviceK || code == kDeviceH) ? Find(m_choices, static_cast<DWORD>(value)) : -1;
+        return stored && (code == kDeviceK || code == kDeviceH) ? IndexOfCode(m_choices, static_cast<DWORD>(value))
+                                                                : -1;
     }
 
 private:
     int m_operand;
+};
+
+class CChannelField : public COutputField
+{
+public:
+    using COutputField::COutputField;
+
+    bool Open() override { return m_choices.size() > 1 && COutputField::Open(); }
+    void OnOnlyDataTable() override { m_dialog.Select(m_combo, 0); }
 };
 
 class CCodeField : public CChoiceField
@@ -125,11 +120,8 @@ public:
 protected:
     int StoredIndex() const override
     {
-        SFunSetData data;
-        if (!m_dialog.Wizard().GetDataInfo(0, &data) || data.code != kDeviceDT)
-            return -1;
-        const DWORD code = m_bits.Extract(static_cast<DWORD>(data.value));
-        return std::max(Find(m_choices, code), Find(m_alsoRestores, code));
+        const DWORD code = m_dialog.StoredControlCode(m_bits);
+        return std::max(IndexOfCode(m_choices, code), IndexOfCode(m_alsoRestores, code));
     }
 
 private:
@@ -140,27 +132,36 @@ private:
 class CControlCodeField : public CWzdField
 {
 public:
-    CControlCodeField(CWzdDlgBase& dialog, EDataType type) : CWzdField(dialog), m_type(type) {}
+    CControlCodeField(CWzdDlgBase& dialog, SWzdEntry entry, const CWnd* commentLabel)
+        : CWzdField(dialog), m_entry(entry), m_commentLabel(commentLabel)
+    {
+    }
 
     bool Collect(CWzdResults& results) override
     {
-        results.AddControlCode({0, m_type});
-        CString comment;
-        comment.LoadString(IDS_CONTROL_CODE);
-        results.AddComment(comment);
+        results.AddControlCode(m_entry);
+        if (m_commentLabel != nullptr)
+            results.AddCommentFrom(m_commentLabel);
+        else
+        {
+            CString comment;
+            comment.LoadString(IDS_CONTROL_CODE);
+            results.AddComment(comment);
+        }
         return true;
     }
 
     SWzdFieldInfo Describe() const override
     {
         SWzdFieldInfo info;
-        info.offset = 0;
-        info.type = m_type;
+        info.offset = m_entry.offset;
+        info.registers = m_entry.Registers();
         return info;
     }
 
 private:
-    EDataType m_type;
+    SWzdEntry m_entry;
+    const CWnd* m_commentLabel;
 };
 
 } // namespace
@@ -171,10 +172,24 @@ void WDX_Output(CWzdExchange* wx, UINT combo, CWzdChoices choices, int operand)
     wx->Declare(field);
 }
 
-void WDX_ControlCode(CWzdExchange* wx, EDataType type)
+void WDX_Channel(CWzdExchange* wx, UINT combo, int instruction, int operand)
 {
-    wx->NextRecord();
-    CControlCodeField field(wx->Dialog(), type);
+    const CFunWizard& wizard = wx->Dialog().Wizard();
+    std::vector<SWzdChoice> channels;
+    for (int i = 0; i < wizard.GetNumOfChannel(instruction); ++i)
+    {
+        const int channel = wizard.GetChannelNo(i, instruction);
+        channels.push_back({IDS_CHANNEL, static_cast<DWORD>(channel), channel});
+    }
+    CChannelField field(wx->Dialog(), combo, channels, operand);
+    wx->Declare(field);
+}
+
+void WDX_ControlCode(CWzdExchange* wx, EDataType type, const CWnd* commentLabel)
+{
+    const SWzdEntry entry = {0, type};
+    wx->AddEntry(entry);
+    CControlCodeField field(wx->Dialog(), entry, commentLabel);
     wx->Declare(field);
 }
 

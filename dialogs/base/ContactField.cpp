@@ -40,14 +40,10 @@ public:
 
     bool Collect(CWzdResults& results) override
     {
-        short kind, code;
-        int low, high, number;
-        if (!m_dialog.GetSelectedDeviceRange(m_ids.combo, kind, code, low, high))
-            return m_dialog.Refuse(m_ids.edit, m_message);
-        if (!ParseDeviceNumber(code, m_dialog.ItemText(m_ids.edit), number))
-            return m_dialog.Refuse(m_ids.edit, IDS_ERR_NOT_A_NUMBER);
-        if (number < low || number > high)
-            return m_dialog.Refuse(m_ids.edit, m_message);
+        short code;
+        int number;
+        if (!m_dialog.ReadContact(m_ids.combo, m_ids.edit, m_message, code, number))
+            return false;
         results.AddContact(kInstContact, code, number);
         return true;
     }

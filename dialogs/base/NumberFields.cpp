@@ -41,12 +41,7 @@ public:
         if (!m_dialog.ReadNumber(m_edit, m_range, m_message, value))
             return false;
         results.AddData(m_entry, kDecimalConstant, static_cast<LONG>(value));
-        if (const CWnd* label = m_dialog.ControlBefore(m_edit))
-        {
-            CString comment;
-            label->GetWindowText(comment);
-            results.AddComment(comment);
-        }
+        results.AddCommentFrom(m_dialog.ControlBefore(m_edit));
         return true;
     }
 
@@ -59,7 +54,7 @@ public:
         info.limit = m_limit;
         info.range = m_range;
         info.offset = m_entry.offset;
-        info.type = m_entry.type;
+        info.registers = m_entry.Registers();
         return info;
     }
 
@@ -90,7 +85,7 @@ public:
     {
         SWzdFieldInfo info;
         info.offset = m_entry.offset;
-        info.type = m_entry.type;
+        info.registers = m_entry.Registers();
         return info;
     }
 
@@ -103,13 +98,13 @@ private:
 
 void WDX_Number(CWzdExchange* wx, UINT edit, SWzdEntry entry, int limit, SWzdRange range, UINT message, UINT rangeLabel)
 {
-    CNumberField field(wx->Dialog(), edit, entry, wx->NextRecord(), limit, range, message, rangeLabel);
+    CNumberField field(wx->Dialog(), edit, entry, wx->AddEntry(entry), limit, range, message, rangeLabel);
     wx->Declare(field);
 }
 
 void WDX_Constant(CWzdExchange* wx, SWzdEntry entry, LONG value)
 {
-    wx->NextRecord();
+    wx->AddEntry(entry);
     CConstantField field(wx->Dialog(), entry, value);
     wx->Declare(field);
 }

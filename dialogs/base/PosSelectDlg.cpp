@@ -1,10 +1,7 @@
 #include "dialogs/base/PosSelectDlg.h"
 
-#include "afx/HtmlHelp.h"
 #include "afx/System.h"
 #include "core/FunWizard.h"
-#include "core/Memory.h"
-#include "core/ResourceScope.h"
 #include "core/Values.h"
 #include "resources/resource.h"
 
@@ -65,48 +62,29 @@ CString TakeColumn(CString& text)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CPosSelectDlg, CDialog)
+BEGIN_MESSAGE_MAP(CPosSelectDlg, CWzdDialog)
 ON_LBN_SELCHANGE(IDC_SELECT_LIST, &CPosSelectDlg::OnSelectionChanged)
-ON_LBN_DBLCLK(IDC_SELECT_LIST, &CPosSelectDlg::OnOK)
-ON_BN_CLICKED(IDC_HELP_TOPIC, &CPosSelectDlg::OnHelpTopic)
-ON_WM_HELPINFO()
+ON_LBN_DBLCLK(IDC_SELECT_LIST, &CPosSelectDlg::OnDoubleClick)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 CPosSelectDlg::CPosSelectDlg(CFunWizard* wizard, EWizardMode mode, CWnd* parent)
-    : CDialog(IDD_SELECT, parent), m_wizard(wizard), m_mode(mode)
+    : CWzdDialog(wizard, IDD_SELECT, parent), m_mode(mode)
 {
     m_white.CreateSolidBrush(kWhite);
 }
 
-INT_PTR CPosSelectDlg::DoModal()
+int CPosSelectDlg::HelpTopic() const
 {
-    CResourceScope scope(m_wizard->GetLoadInstance());
-    return CDialog::DoModal();
-}
-
-BOOL CPosSelectDlg::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    bool opened = false;
-    if (!WithMemory([&] { opened = Open(); }) || !opened)
-        EndDialog(IDCANCEL);
-    return TRUE;
+    return m_mode == kPulseInstructions ? HELP_TOPIC_INSTRUCTIONS : HELP_TOPIC_UNIT_OPERATIONS;
 }
 
 bool CPosSelectDlg::Open()
 {
-    m_wizard->SetDlgFont(this, 0, nullptr);
     if (!FillList())
         return false;
     ShowExplanation();
-    CheckDlgButton(IDC_REGISTER_COMMENTS, m_wizard->IsCmtRec() ? BST_CHECKED : BST_UNCHECKED);
-    CWnd* help = GetDlgItem(IDC_HELP_TOPIC);
-    if (m_wizard->GetHelpPath().IsEmpty() && help != nullptr)
-    {
-        help->EnableWindow(FALSE);
-        help->ShowWindow(SW_HIDE);
-    }
+    CheckDlgButton(IDC_REGISTER_COMMENTS, Wizard().IsCmtRec() ? BST_CHECKED : BST_UNCHECKED);
     return true;
 }
 
@@ -130,9 +108,9 @@ bool CPosSelectDlg::FillList()
     if (m_mode != kPulseInstructions)
         preset.instruction = kUnitInstruction; // Whatever was confirmed before, the variant tells the operation.
     int selected = 0;
-    for (const SCatalogueItem& item : CatalogueItems(m_mode, m_wizard->GetPlcType()))
+    for (const SCatalogueItem& item : CatalogueItems(m_mode, Wizard().GetPlcType()))
     {
-        if (m_mode == kPulseInstructions && !m_wizard->FindSupportFun(item.choice.instruction))
+        if (m_mode == kPulseInstructions && !Wizard().FindSupportFun(item.choice.instruction))
             continue;
         CString text;
         text.LoadString(item.text);
@@ -153,7 +131,7 @@ void CPosSelectDlg::SetTabStops()
     SColumn mnemonic = {20, 55};
     SColumn number = {15, 43};
     CControlDC dc(list);
-    for (const SCatalogueItem& item : CatalogueItems(m_mode, m_wizard->GetPlcType()))
+    for (const SCatalogueItem& item : CatalogueItems(m_mode, Wizard().GetPlcType()))
     {
         CString text;
         text.LoadString(item.text);
@@ -187,7 +165,7 @@ void CPosSelectDlg::ShowExplanation()
     if (edit == nullptr || !GetSelected(choice))
         return;
     CString text;
-    const UINT id = ExplanationText(m_mode, m_wizard->GetPlcType(), choice);
+    const UINT id = ExplanationText(m_mode, Wizard().GetPlcType(), choice);
     if (id == 0 || !text.LoadString(id))
         return;
 
@@ -206,7 +184,7 @@ void CPosSelectDlg::ShowExplanation()
 
 HBRUSH CPosSelectDlg::OnCtlColor(CDC* dc, CWnd* control, UINT type)
 {
-    const HBRUSH brush = CDialog::OnCtlColor(dc, control, type);
+    const HBRUSH brush = CWzdDialog::OnCtlColor(dc, control, type);
     if (control->GetDlgCtrlID() != IDC_SELECT_EXPLANATION)
         return brush;
     dc->SetTextColor(kBlue);
@@ -218,24 +196,12 @@ HBRUSH CPosSelectDlg::OnCtlColor(CDC* dc, CWnd* control, UINT type)
 
 void CPosSelectDlg::OnSelectionChanged() { ShowExplanation(); }
 
-void CPosSelectDlg::OnHelpTopic()
-{
-    const CString path = m_wizard->GetHelpPath();
-    if (!path.IsEmpty())
-        AfxHtmlHelp(path, m_mode == kPulseInstructions ? HELP_TOPIC_INSTRUCTIONS : HELP_TOPIC_UNIT_OPERATIONS);
-}
+void CPosSelectDlg::OnDoubleClick() { OnOK(); }
 
-// F1 does what the button does.
-BOOL CPosSelectDlg::OnHelpInfo(HELPINFO*)
-{
-    OnHelpTopic();
-    return TRUE;
-}
-
-void CPosSelectDlg::OnOK()
+bool CPosSelectDlg::Confirm()
 {
     if (!GetSelected(m_choice))
-        return;
-    m_wizard->SetCmtRec(IsDlgButtonChecked(IDC_REGISTER_COMMENTS) == BST_CHECKED);
-    EndDialog(IDOK);
+        return false;
+    Wizard().SetCmtRec(IsChecked(IDC_REGISTER_COMMENTS));
+    return true;
 }

@@ -2,40 +2,35 @@
 #pragma once
 
 #include "dialogs/base/Catalogue.h"
+#include "dialogs/base/WzdDialog.h"
 
-class CFunWizard;
-
-class CPosSelectDlg : public CDialog
+class CPosSelectDlg : public CWzdDialog
 {
 public:
     /// `wizard` is not owned and outlives the dialog.
     CPosSelectDlg(CFunWizard* wizard, EWizardMode mode, CWnd* parent);
-
-    /// 1 on OK, 2 on Cancel or when the list could not be filled.
-    INT_PTR DoModal() override;
 
     /// The choice that is selected when the dialog opens, and after OK the one the user made.
     void SetChoice(const SWizardChoice& choice) { m_choice = choice; }
     const SWizardChoice& GetChoice() const { return m_choice; }
 
 protected:
-    BOOL OnInitDialog() override;
-    void OnOK() override;
+    int HelpTopic() const override;
+    bool Open() override;
+    bool Confirm() override;
+
     void OnSelectionChanged();
-    void OnHelpTopic();
-    BOOL OnHelpInfo(HELPINFO* info);
+    void OnDoubleClick();
     HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    [[nodiscard]] bool Open();
     [[nodiscard]] bool FillList();
     void SetTabStops();
     void ShowExplanation();
     bool GetSelected(SWizardChoice& choice) const;
 
-    CFunWizard* m_wizard;
     EWizardMode m_mode;
     CBrush m_white;
     SWizardChoice m_choice;

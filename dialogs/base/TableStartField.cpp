@@ -11,8 +11,8 @@ namespace
 class CTableStartField : public CWzdField
 {
 public:
-    CTableStartField(CWzdDlgBase& dialog, UINT edit, UINT rangeLabel, int operand)
-        : CWzdField(dialog), m_edit(edit), m_rangeLabel(rangeLabel), m_operand(operand)
+    CTableStartField(CWzdDlgBase& dialog, UINT edit, UINT rangeLabel, int operand, SWzdFormat format)
+        : CWzdField(dialog), m_edit(edit), m_rangeLabel(rangeLabel), m_operand(operand), m_format(format)
     {
     }
 
@@ -38,7 +38,7 @@ public:
         LONGLONG start;
         if (!m_dialog.GetDataTableRange(low, high))
             return m_dialog.Refuse(m_edit, IDS_ERR_TABLE_START);
-        if (!m_dialog.ReadNumber(m_edit, {low, high}, IDS_ERR_TABLE_START, start))
+        if (!m_dialog.ReadNumber(m_edit, {low, high}, IDS_ERR_TABLE_START, start, m_format))
             return false;
         results.SetOperand(m_operand, kDeviceDT, static_cast<int>(start));
         results.SetTableStart(static_cast<int>(start));
@@ -58,12 +58,13 @@ private:
     UINT m_edit;
     UINT m_rangeLabel;
     int m_operand;
+    SWzdFormat m_format;
 };
 
 } // namespace
 
-void WDX_TableStart(CWzdExchange* wx, UINT edit, UINT rangeLabel, int operand)
+void WDX_TableStart(CWzdExchange* wx, UINT edit, UINT rangeLabel, int operand, SWzdFormat format)
 {
-    CTableStartField field(wx->Dialog(), edit, rangeLabel, operand);
+    CTableStartField field(wx->Dialog(), edit, rangeLabel, operand, format);
     wx->Declare(field);
 }

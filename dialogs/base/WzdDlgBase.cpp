@@ -1,13 +1,13 @@
 #include "dialogs/base/WzdDlgBase.h"
 
 #include "afx/Clipboard.h"
-#include "core/AppName.h"
 #include "core/Devices.h"
 #include "core/FunWizard.h"
-#include "core/Memory.h"
-#include "core/ResourceScope.h"
 #include "core/Values.h"
 #include "dialogs/base/WzdResults.h"
+
+#include <algorithm>
+#include <climits>
 
 namespace
 {
@@ -19,23 +19,16 @@ constexpr short kRangeKind = -1; // Under which hosts set the device ranges.
 } // namespace
 
 // Every combo may change what another field shows or accepts, so a selection refreshes them all.
-BEGIN_MESSAGE_MAP(CWzdDlgBase, CDialog)
+BEGIN_MESSAGE_MAP(CWzdDlgBase, CWzdDialog)
 ON_CONTROL_RANGE(CBN_SELCHANGE, kFirstControl, kLastControl, &CWzdDlgBase::OnSelectionChanged)
 ON_BN_CLICKED(IDC_ONLY_DATA_TABLE, &CWzdDlgBase::OnOnlyDataTable)
+ON_BN_CLICKED(IDC_START_OUTPUT_ENABLE, &CWzdDlgBase::RefreshFields)
+ON_BN_CLICKED(IDC_SAME_CONDITION, &CWzdDlgBase::RefreshFields)
 ON_BN_CLICKED(IDC_CLEAR_SETTINGS, &CWzdDlgBase::OnClearSettings)
 ON_BN_CLICKED(IDC_UNIT_CLEAR_SETTINGS, &CWzdDlgBase::OnClearSettings)
 END_MESSAGE_MAP()
 
-CWzdDlgBase::CWzdDlgBase(CFunWizard* wizard, UINT templateId, CWnd* parent)
-    : CDialog(templateId, parent), m_wizard(wizard)
-{
-}
-
-INT_PTR CWzdDlgBase::DoModal()
-{
-    CResourceScope scope(m_wizard != nullptr ? m_wizard->GetLoadInstance() : nullptr);
-    return CDialog::DoModal();
-}
+CWzdDlgBase::CWzdDlgBase(CFunWizard* wizard, UINT templateId, CWnd* parent) : CWzdDialog(wizard, templateId, parent) {}
 
 void CWzdDlgBase::DoFieldExchange(CWzdExchange*) {}
 
@@ -49,38 +42,17 @@ bool CWzdDlgBase::ForEachField(TAction action)
 
 // ---- Opening and closing --------------------------------------------------------------------------------------------
 
-BOOL CWzdDlgBase::OnInitDialog()
+bool CWzdDlgBase::Open()
 {
-    CDialog::OnInitDialog();
-    bool opened = false;
-    const int enough = WithMemory([&] {
-        if (m_wizard == nullptr)
-            return;
-        m_wizard->SetDlgFont(this, 0, nullptr);
-        CheckDlgButton(IDC_ONLY_DATA_TABLE, m_wizard->IsOnlyDataTable() ? BST_CHECKED : BST_UNCHECKED);
-        opened = ForEachField([](CWzdField& field) { return field.Open(); });
-        if (opened)
-            RefreshFields();
-    });
-    if (!enough || !opened)
-    {
-        EndDialog(IDCANCEL);
-        return TRUE;
-    }
+    CheckDlgButton(IDC_ONLY_DATA_TABLE, Wizard().IsOnlyDataTable() ? BST_CHECKED : BST_UNCHECKED);
+    if (!ForEachField([](CWzdField& field) { return field.Open(); }))
+        return false;
+    RefreshFields();
     int low, high;
-    if (GetDataTableRange(low, high))
-        return TRUE;
-    DisableAllButFirstAndBack();
-    return FALSE; // Back has the focus.
-}
-
-void CWzdDlgBase::OnOK()
-{
-    bool confirmed = false;
-    if (!WithMemory([&] { confirmed = Confirm(); }))
-        ShowWarning(IDS_ERR_MEMORY);
-    else if (confirmed)
-        EndDialog(IDOK);
+    m_impossible = !GetDataTableRange(low, high);
+    if (m_impossible)
+        DisableAllButFirstAndBack();
+    return true;
 }
 
 bool CWzdDlgBase::Confirm()
@@ -88,18 +60,20 @@ bool CWzdDlgBase::Confirm()
     CWzdResults results;
     if (!ForEachField([&results](CWzdField& field) { return field.Collect(results); }))
         return false;
-    if (!results.StoreIn(*m_wizard))
+    if (!results.StoreIn(Wizard()))
     {
         ShowWarning(IDS_ERR_MEMORY);
         return false;
     }
     if (GetDlgItem(IDC_ONLY_DATA_TABLE) != nullptr)
-        m_wizard->SetOnlyDataTable(IsChecked(IDC_ONLY_DATA_TABLE));
+        Wizard().SetOnlyDataTable(IsChecked(IDC_ONLY_DATA_TABLE));
     return true;
 }
 
 void CWzdDlgBase::RefreshFields()
 {
+    if (m_impossible)
+        return; // Everything stays disabled.
     ForEachField([](CWzdField& field) {
         field.Refresh();
         return true;
@@ -131,79 +105,6 @@ void CWzdDlgBase::OnClearSettings()
         first->SetFocus();
 }
 
-// ---- Controls -------------------------------------------------------------------------------------------------------
-
-CString CWzdDlgBase::ItemText(UINT id) const
-{
-    CString text;
-    if (const CWnd* item = GetDlgItem(id))
-        item->GetWindowText(text);
-    return text;
-}
-
-void CWzdDlgBase::SetItemText(UINT id, LPCSTR text)
-{
-    if (CWnd* item = GetDlgItem(id))
-        item->SetWindowText(text);
-}
-
-bool CWzdDlgBase::IsChecked(UINT id) const { return IsDlgButtonChecked(id) == BST_CHECKED; }
-
-int CWzdDlgBase::Selection(UINT combo) const
-{
-    const auto* list = static_cast<CComboBox*>(GetDlgItem(combo));
-    return list != nullptr ? list->GetCurSel() : CB_ERR;
-}
-
-void CWzdDlgBase::Select(UINT combo, int index)
-{
-    if (auto* list = static_cast<CComboBox*>(GetDlgItem(combo)))
-        list->SetCurSel(index);
-}
-
-void CWzdDlgBase::Enable(UINT id, bool enabled)
-{
-    if (CWnd* item = GetDlgItem(id))
-        item->EnableWindow(enabled);
-}
-
-void CWzdDlgBase::LimitText(UINT edit, int characters)
-{
-    if (auto* item = static_cast<CEdit*>(GetDlgItem(edit)))
-        item->LimitText(characters);
-}
-
-CWnd* CWzdDlgBase::ControlBefore(UINT id) const
-{
-    const CWnd* item = GetDlgItem(id);
-    return item != nullptr ? item->GetWindow(GW_HWNDPREV) : nullptr;
-}
-
-CWnd* CWzdDlgBase::ControlAfter(UINT id) const
-{
-    const CWnd* item = GetDlgItem(id);
-    return item != nullptr ? item->GetWindow(GW_HWNDNEXT) : nullptr;
-}
-
-bool CWzdDlgBase::FillCombo(UINT combo, CWzdChoices choices)
-{
-    auto* list = static_cast<CComboBox*>(GetDlgItem(combo));
-    if (list == nullptr)
-        return false;
-    list->ResetContent();
-    for (const SWzdChoice& choice : choices)
-    {
-        CString text;
-        if (choice.argument == SWzdChoice::kPlainText)
-            text.LoadString(choice.text);
-        else
-            text.Format(choice.text, choice.argument);
-        if (text.IsEmpty() || list->AddString(text) < 0)
-            return false;
-    }
-    return true;
-}
-
 void CWzdDlgBase::DisableAllButFirstAndBack()
 {
     const CWnd* first = nullptr;
@@ -230,14 +131,14 @@ bool CWzdDlgBase::FillContactCombo(int comboId, int contactIndex)
         return false;
     short kind, wanted = -1;
     int number;
-    if (contactIndex <= 0 || !m_wizard->IsSameCondition())
-        m_wizard->GetContInfo(contactIndex, kind, wanted, number);
+    if (contactIndex <= 0 || !Wizard().IsSameCondition())
+        Wizard().GetContInfo(contactIndex, kind, wanted, number);
 
     list->ResetContent();
     list->SetCurSel(CB_ERR);
     short code;
     BYTE bitKind = kWordDevice;
-    for (int index = 0, found; (found = m_wizard->GetSeqDevInfo(index, kind, code, bitKind, 0)) >= 0; index++)
+    for (int index = 0, found; (found = Wizard().GetSeqDevInfo(index, kind, code, bitKind, 0)) >= 0; index++)
     {
         if (bitKind == kWordDevice)
             break;
@@ -262,8 +163,8 @@ bool CWzdDlgBase::FillJogDirectionCombo()
         return false;
     short kind, code;
     int number;
-    const int count = m_wizard->GetContInfoCount();
-    const bool reverse = count >= 3 && m_wizard->GetContInfo(count - 1, kind, code, number) && code == kDeviceY &&
+    const int count = Wizard().GetContInfoCount();
+    const bool reverse = count >= 3 && Wizard().GetContInfo(count - 1, kind, code, number) && code == kDeviceY &&
                          FormatDeviceNumber(kDeviceY, number).Right(1) == "4";
     Select(IDC_JOG_DIRECTION, reverse ? 1 : 0);
     return true;
@@ -283,7 +184,7 @@ bool CWzdDlgBase::GetSelectedDevice(int comboId, short& kind, short& code) const
 
 bool CWzdDlgBase::GetSelectedDeviceRange(int comboId, short& kind, short& code, int& low, int& high) const
 {
-    return GetSelectedDevice(comboId, kind, code) && m_wizard->GetDevRange(kind, code, low, high);
+    return GetSelectedDevice(comboId, kind, code) && Wizard().GetDevRange(kind, code, low, high);
 }
 
 bool CWzdDlgBase::ShowContactRange(UINT combo, UINT label)
@@ -310,18 +211,25 @@ bool CWzdDlgBase::ShowContactRange(int which)
 BOOL CWzdDlgBase::GetDataTableRange(int& low, int& high)
 {
     int last;
-    if (m_wizard == nullptr || !m_wizard->GetDevRange(kRangeKind, kDeviceDT, low, last))
+    if (!Wizard().GetDevRange(kRangeKind, kDeviceDT, low, last))
         return FALSE;
-    const LONGLONG highest = static_cast<LONGLONG>(last) - (TableWords() - 1);
+    const LONGLONG highest = std::min<LONGLONG>(last - (TableWords() - 1), INT_MAX);
     if (highest < low)
         return FALSE;
     high = static_cast<int>(highest);
     return TRUE;
 }
 
+LONGLONG CWzdDlgBase::TableWords()
+{
+    CWzdWalk declarations(*this, [](CWzdField&) { return true; });
+    DoFieldExchange(&declarations);
+    return declarations.TableWords();
+}
+
 bool CWzdDlgBase::GetWordDeviceRange(short code, int& low, int& high) const
 {
-    return (code == kDeviceY || code == kDeviceWY) && m_wizard->GetDevRange(kRangeKind, code, low, high) && high >= low;
+    return (code == kDeviceY || code == kDeviceWY) && Wizard().GetDevRange(kRangeKind, code, low, high) && high >= low;
 }
 
 void CWzdDlgBase::ShowRange(CWnd* label, SWzdRange range)
@@ -342,45 +250,45 @@ bool CWzdDlgBase::ShowDataTableRange(UINT labelId)
     return true;
 }
 
-void CWzdDlgBase::ShowAxisRange(UINT editId) { ShowRange(ControlAfter(editId), {1, m_wizard->IsAxisType() ? 2 : 4}); }
+SWzdRange CWzdDlgBase::AxisRange() const { return {1, Wizard().IsAxisType() ? 2 : 4}; }
 
-void CWzdDlgBase::ShowSlotRange(UINT editId) { ShowRange(ControlAfter(editId), {0, m_wizard->GetMaxSlot() - 1}); }
+SWzdRange CWzdDlgBase::SlotRange() const { return {0, Wizard().GetMaxSlot() - 1}; }
+
+void CWzdDlgBase::ShowAxisRange(UINT editId) { ShowRange(ControlAfter(editId), AxisRange()); }
+
+void CWzdDlgBase::ShowSlotRange(UINT editId) { ShowRange(ControlAfter(editId), SlotRange()); }
+
+LONGLONG CWzdDlgBase::StoredTableStart() const
+{
+    short code;
+    int number;
+    return Wizard().GetOprdInfo(0, code, number) && code == kDeviceDT ? number : -1;
+}
 
 DWORD CWzdDlgBase::StoredControlCode() const
 {
     SFunSetData data;
-    return m_wizard->GetDataInfo(0, &data) && data.code == kDeviceDT ? static_cast<DWORD>(data.value) : 0;
+    return Wizard().GetDataInfo(0, &data) && data.code == kDeviceDT ? static_cast<DWORD>(data.value) : 0;
 }
 
 // ---- Checking -------------------------------------------------------------------------------------------------------
 
-bool CWzdDlgBase::ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value)
+bool CWzdDlgBase::ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value, SWzdFormat format)
 {
-    BOOL ok = FALSE;
-    value = ParseEntry64(ItemText(edit), &ok);
-    if (!ok)
+    if (!format.Parse(ItemText(edit), value))
         return Refuse(edit, IDS_ERR_NOT_A_NUMBER);
     return range.Holds(value) || Refuse(edit, message);
 }
 
-bool CWzdDlgBase::Refuse(UINT edit, UINT message)
+bool CWzdDlgBase::ReadContact(UINT combo, UINT edit, UINT message, short& code, int& number)
 {
-    if (auto* item = static_cast<CEdit*>(GetDlgItem(edit)))
-    {
-        item->SetSel(0, -1); // and scrolls it into view
-        item->SetFocus();
-    }
-    ShowWarning(message);
-    return false;
-}
-
-int CWzdDlgBase::ShowWarning(UINT stringId, UINT flags)
-{
-    // Without allocating: the message may be that memory has run out.
-    char text[512];
-    AfxLoadString(stringId, text, sizeof text);
-    CWnd* owner = CWnd::GetSafeOwner();
-    return (owner != nullptr ? owner : this)->MessageBox(text, GetAppName(), flags | MB_ICONEXCLAMATION);
+    short kind;
+    int low, high;
+    if (!GetSelectedDeviceRange(combo, kind, code, low, high))
+        return Refuse(edit, message);
+    if (!ParseDeviceNumber(code, ItemText(edit), number))
+        return Refuse(edit, IDS_ERR_NOT_A_NUMBER);
+    return (number >= low && number <= high) || Refuse(edit, message);
 }
 
 bool CWzdDlgBase::IsClipboardText() { return AfxIsClipboardText(); }

@@ -1,23 +1,18 @@
 // The base of all instruction dialogs.
 //
-// A dialog derived from it says which template it has, how many registers its data table takes and, in
-// DoFieldExchange, what its fields are. Everything that is done to the fields is done here: filling and restoring,
-// labels, clearing, checking in order with focus and message, and replacing the wizard's lists on OK.
+// A dialog derived from it says which template it has and, in DoFieldExchange, what its fields are. Everything that is
+// done to the fields is done here: filling and restoring, labels, clearing, checking in order with focus and message,
+// and replacing the wizard's lists on OK.
 #pragma once
 
+#include "dialogs/base/WzdDialog.h"
 #include "dialogs/base/WzdExchange.h"
 
-class CFunWizard;
-
-class CWzdDlgBase : public CDialog
+class CWzdDlgBase : public CWzdDialog
 {
 public:
     /// `wizard` is not owned and outlives the dialog.
     CWzdDlgBase(CFunWizard* wizard, UINT templateId, CWnd* parent);
-
-    /// Runs the dialog with the language library as the source of texts: 1 on OK, 2 on Back or Cancel, -1 when the
-    /// source does not hold the template.
-    INT_PTR DoModal() override;
 
     /// The permitted data-table starts: the registers of the PLC, less those that the table takes after the first.
     /// False when there is no such range.
@@ -25,24 +20,6 @@ public:
 
     /// Lists the fields in the order in which they are checked and stored.
     virtual void DoFieldExchange(CWzdExchange* wx);
-
-    CFunWizard& Wizard() const { return *m_wizard; }
-
-    // ---- Controls; a control that the template does not carry counts as empty, unchecked and without selection -----
-
-    CString ItemText(UINT id) const;
-    void SetItemText(UINT id, LPCSTR text);
-    bool IsChecked(UINT id) const;
-    int Selection(UINT combo) const;
-    void Select(UINT combo, int index);
-    void Enable(UINT id, bool enabled);
-    void LimitText(UINT edit, int characters);
-    /// The control before or after another one in tab order; null when there is none.
-    CWnd* ControlBefore(UINT id) const;
-    CWnd* ControlAfter(UINT id) const;
-
-    /// Empties a combo and adds an item for every choice. False when a text is missing or the list refuses an item.
-    [[nodiscard]] bool FillCombo(UINT combo, CWzdChoices choices);
 
     // ---- Contacts ---------------------------------------------------------------------------------------------------
 
@@ -67,24 +44,28 @@ public:
     /// The range of words of the devices Y and WY; false for any other device or without a range.
     bool GetWordDeviceRange(short code, int& low, int& high) const;
     bool ShowDataTableRange(UINT labelId);
+    /// The axes of the positioning unit, and the slots in which it can be.
+    SWzdRange AxisRange() const;
+    SWzdRange SlotRange() const;
     /// Shows the axes of the unit in the control after `editId`.
     void ShowAxisRange(UINT editId);
     /// Shows the slots in the control after `editId`.
     void ShowSlotRange(UINT editId);
 
+    /// The register that the first operand names; -1 when it names none.
+    LONGLONG StoredTableStart() const;
     /// The control code that the data list begins with; 0 when it does not begin with a register.
-    DWORD StoredControlCode() const;
+    virtual DWORD StoredControlCode() const;
     /// A field of it.
     DWORD StoredControlCode(SWzdBits bits) const { return bits.Extract(StoredControlCode()); }
 
     // ---- Checking ---------------------------------------------------------------------------------------------------
 
-    /// Reads a decimal entry. False, with the message shown, when it is no number or outside the range.
-    [[nodiscard]] bool ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value);
-    /// Selects the whole text of an edit, gives it the focus and shows the message. Always false.
-    bool Refuse(UINT edit, UINT message);
-    /// Shows a message box with an exclamation mark above the active window; returns the button pressed.
-    int ShowWarning(UINT stringId, UINT flags = 0);
+    /// Reads an entry. False, with the message shown, when it is no number or outside the range.
+    [[nodiscard]] bool ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value, SWzdFormat format = {});
+    /// Reads a contact: the device selected in `combo` and the number in `edit`. False, with the message shown, when it
+    /// is no number or not of the PLC.
+    [[nodiscard]] bool ReadContact(UINT combo, UINT edit, UINT message, short& code, int& number);
 
     /// Only the first control and Back stay usable: there is no room for the data table.
     void DisableAllButFirstAndBack();
@@ -92,12 +73,15 @@ public:
     /// The first relay of an axis of the positioning unit in a slot; -1 when `axis` is below 1.
     static int UnitBufferAddress(int slot, int axis);
 
-protected:
-    /// How many registers the data table takes.
-    virtual int TableWords() const { return 1; }
+    /// How many registers the data table takes: as far as the declared entries reach.
+    virtual LONGLONG TableWords();
 
-    BOOL OnInitDialog() override;
-    void OnOK() override;
+protected:
+    /// Brings all labels and the enabling into line with what the controls hold.
+    void RefreshFields();
+
+    [[nodiscard]] bool Open() override;
+    [[nodiscard]] bool Confirm() override;
 
     void OnSelectionChanged(UINT id);
     void OnOnlyDataTable();
@@ -108,8 +92,6 @@ protected:
 private:
     template <typename TAction>
     bool ForEachField(TAction action);
-    void RefreshFields();
-    [[nodiscard]] bool Confirm();
 
-    CFunWizard* m_wizard;
+    bool m_impossible = false; // there is no room for the data table
 };

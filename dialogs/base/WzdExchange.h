@@ -14,6 +14,8 @@
 #include "dialogs/base/WzdField.h"
 #include "resources/resource.h"
 
+#include <algorithm>
+
 class CWzdExchange
 {
 public:
@@ -25,8 +27,18 @@ public:
 
     CWzdDlgBase& Dialog() const { return m_dialog; }
 
-    /// The position in the wizard's data list of the entry that is declared next.
-    int NextRecord() { return m_nextRecord++; }
+    /// Declares an entry of the data table; returns its position in the wizard's data list.
+    int AddEntry(SWzdEntry entry)
+    {
+        Reserve(entry.offset + entry.Registers());
+        return m_nextRecord++;
+    }
+    /// The data table takes at least this many registers.
+    void Reserve(LONGLONG registers) { m_tableWords = std::max(m_tableWords, registers); }
+    LONGLONG TableWords() const { return m_tableWords; }
+
+    /// Where a walk stands that restores entries by their register: the data record that comes next.
+    int& StoredRecord() { return m_storedRecord; }
 
     /// Hands a declared field to the walk. After the first failure the remaining fields are passed over.
     void Declare(CWzdField& field) { m_succeeded = m_succeeded && Visit(field); }
@@ -38,6 +50,8 @@ protected:
 private:
     CWzdDlgBase& m_dialog;
     int m_nextRecord = 0;
+    int m_storedRecord = 1; // behind the control code
+    LONGLONG m_tableWords = 1;
     bool m_succeeded = true;
 };
 
@@ -57,6 +71,9 @@ private:
 
 // ---- The rows -------------------------------------------------------------------------------------------------------
 
+/// The caption of a dialog whose template serves several operations; 0 leaves the template's.
+void WDX_Caption(CWzdExchange* wx, UINT text);
+
 /// The starting condition: a device, a number in the notation of that device, and its range. `index` is the position
 /// of the contact in the contact list.
 struct SWzdContactIds
@@ -69,13 +86,18 @@ struct SWzdContactIds
 void WDX_Contact(CWzdExchange* wx, UINT message = IDS_ERR_CONTACT, const SWzdContactIds& ids = {});
 
 /// The register at which the data table starts, within CWzdDlgBase::GetDataTableRange; it is operand `operand`.
-void WDX_TableStart(CWzdExchange* wx, UINT edit, UINT rangeLabel, int operand = 0);
+void WDX_TableStart(CWzdExchange* wx, UINT edit, UINT rangeLabel, int operand = 0, SWzdFormat format = {});
 
 /// The pulse output, a constant operand; without an instruction ("Only a data table is created.") there is no choice.
 void WDX_Output(CWzdExchange* wx, UINT combo, CWzdChoices choices, int operand = 1);
 
+/// The same for the channels that the wizard offers to an instruction. A single channel leaves nothing to choose: then
+/// the dialog does not open.
+void WDX_Channel(CWzdExchange* wx, UINT combo, int instruction, int operand = 1);
+
 /// The control code, the hexadecimal entry at the head of the data table. The codes declared after it are its bits.
-void WDX_ControlCode(CWzdExchange* wx, EDataType type);
+/// `commentLabel` is the control whose text is its comment; without one it is "Control code".
+void WDX_ControlCode(CWzdExchange* wx, EDataType type, const CWnd* commentLabel = nullptr);
 
 /// A field of the control code. `alsoRestores` pairs further codes with the positions of the list: those under which
 /// the other variant of a dialog stored the same choice. A code that stands in neither list selects the first item.
@@ -88,3 +110,44 @@ void WDX_Number(CWzdExchange* wx, UINT edit, SWzdEntry entry, int limit, SWzdRan
 
 /// An entry of the data table that always has the same value.
 void WDX_Constant(CWzdExchange* wx, SWzdEntry entry, LONG value);
+
+/// An entry of one register that the user may leave out: a check box, its text the comment, then the edit and the label
+/// of its range.
+struct SWzdParameter
+{
+    UINT check;
+    UINT edit;
+    int offset;
+    SWzdFormat format;
+    int limit;       ///< characters
+    SWzdRange range; ///< in units of the last decimal
+    UINT message;    ///< when outside the range
+    LPCSTR initial;  ///< shown until there is a stored value
+    bool used;       ///< checked as long as nothing is stored at all
+    bool automatic;  ///< not for the user to choose; an unusable entry becomes the lowest value
+};
+void WDX_Parameter(CWzdExchange* wx, const SWzdParameter& parameter);
+
+/// Registers of the table that the program fills: `label` names them once `startEdit` holds the table's start.
+void WDX_Registers(CWzdExchange* wx, UINT label, UINT startEdit, SWzdFormat format, int offset, LONGLONG count);
+
+/// The check box "I/O comment is registered automatically.".
+void WDX_RegisterComments(CWzdExchange* wx);
+
+// ---- The positioning unit -------------------------------------------------------------------------------------------
+
+/// The operands of the instruction that transfers the data table to the unit.
+enum EUnitOperand
+{
+    kSlotOperand,
+    kTableOperand,
+    kWordsOperand,
+    kAxisOperand
+};
+
+/// The slot of the unit and its axis; the range of each stands in the control after its edit.
+void WDX_UnitAxis(CWzdExchange* wx, UINT slotEdit, UINT axisEdit);
+
+/// The start output and the second condition that switches it on, in templates that carry them. `startBit` is the relay
+/// of the axis that the output starts.
+void WDX_StartOutput(CWzdExchange* wx, int startBit);

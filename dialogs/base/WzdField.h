@@ -4,7 +4,10 @@
 #include "afx/afx.h"
 #include "core/Records.h"
 
+#include <algorithm>
+#include <climits>
 #include <span>
+#include <vector>
 
 class CWzdDlgBase;
 class CWzdResults;
@@ -17,6 +20,9 @@ struct SWzdRange
 
     bool Holds(LONGLONG value) const { return value >= low && value <= high; }
 };
+
+/// Every value of two registers.
+constexpr SWzdRange kAnyDoubleWord = {INT_MIN, INT_MAX};
 
 /// One item of a combo box: its text and the code that it stands for. When an argument is given the text is a format
 /// for it ("Y%1d").
@@ -47,7 +53,29 @@ struct SWzdEntry
 {
     int offset;
     EDataType type;
+
+    int Registers() const { return type == kOneRegister ? 1 : 2; }
 };
+
+/// How an entry is written. Without whole digits: a signed decimal number of any length. Else: an unsigned number with
+/// at most so many digits before and after the point, its value counted in units of the last decimal.
+struct SWzdFormat
+{
+    int whole = 0;
+    int decimals = 0;
+
+    [[nodiscard]] BOOL Parse(LPCSTR text, LONGLONG& value) const;
+    /// What Parse reads back, without zeros at the end of a fraction.
+    CString Format(LONGLONG value) const;
+};
+
+/// The position of a code in a list; -1 when it is not there.
+inline int IndexOfCode(CWzdChoices choices, DWORD code)
+{
+    const auto found =
+        std::find_if(choices.begin(), choices.end(), [code](const SWzdChoice& choice) { return choice.code == code; });
+    return found != choices.end() ? static_cast<int>(found - choices.begin()) : -1;
+}
 
 /// A field as data, for whoever wants to look at a dialog's declaration without running the dialog. Ids that a field
 /// does not have are 0.
@@ -60,9 +88,11 @@ struct SWzdFieldInfo
     int limit = 0;    // characters, 0 = none or computed
     SWzdRange range = {0, -1};
     SWzdBits bits = {0, 0};
-    CWzdChoices choices;
-    int offset = -1;               // of its entry in the data table,
-    EDataType type = kOneRegister; // and what the entry takes
+    std::vector<SWzdChoice> choices;
+    LONGLONG offset = -1;   // of its entry in the data table,
+    LONGLONG registers = 0; // and what the entry takes
+    UINT check = 0;         // to be checked for the entry to count
+    SWzdFormat format;
 };
 
 /// A field lives for the moment in which its dialog declares it; what it keeps between two such moments it keeps in the

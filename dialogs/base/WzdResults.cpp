@@ -34,6 +34,15 @@ void CWzdResults::AddToControlCode(DWORD bits)
 
 void CWzdResults::AddComment(const CString& text) { m_comments.push_back(text); }
 
+void CWzdResults::AddCommentFrom(const CWnd* label)
+{
+    if (label == nullptr)
+        return;
+    CString text;
+    label->GetWindowText(text);
+    AddComment(text);
+}
+
 bool CWzdResults::StoreIn(CFunWizard& wizard) const
 {
     return StoreContacts(wizard) && StoreOperands(wizard) && StoreData(wizard) && StoreComments(wizard);
@@ -68,6 +77,8 @@ bool CWzdResults::StoreData(CFunWizard& wizard) const
 
 bool CWzdResults::StoreComments(CFunWizard& wizard) const
 {
+    if (m_commentRecord)
+        wizard.SetCmtRec(*m_commentRecord);
     if (!wizard.IsCmtRec())
         return true;
     wizard.RemoveAllCmtInfo();

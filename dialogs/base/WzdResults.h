@@ -3,6 +3,7 @@
 
 #include "dialogs/base/WzdField.h"
 
+#include <optional>
 #include <vector>
 
 class CFunWizard;
@@ -27,6 +28,15 @@ public:
     void EndControlCode() { m_codeEnded = true; }
 
     void AddComment(const CString& text);
+    /// The text of a control; nothing when there is no control.
+    void AddCommentFrom(const CWnd* label);
+    /// Sets the wizard's comment flag when the results are stored.
+    void SetCommentRecord(bool on) { m_commentRecord = on; }
+
+    /// The unit's slot and axis, and the starting condition: a start output depends on them.
+    int m_slot = 0;
+    int m_axis = 0;
+    const SContact& FirstContact() const { return m_contacts.at(0); }
 
     /// Replaces the contact, operand and data lists and, when the wizard asks for them, the comments. False when the
     /// wizard ran out of memory: the lists are then as far as they were written.
@@ -49,6 +59,7 @@ private:
     std::vector<SOperand> m_operands;
     std::vector<SData> m_data;
     std::vector<CString> m_comments;
+    std::optional<bool> m_commentRecord;
     int m_tableStart = 0;
     size_t m_codeRecord = 0;
     bool m_codeEnded = false;

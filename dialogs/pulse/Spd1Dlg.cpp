@@ -33,8 +33,6 @@ CSpd1Dlg::CSpd1Dlg(CFunWizard* wizard, bool homeReturn, CWnd* parent)
 {
 }
 
-int CSpd1Dlg::TableWords() const { return m_homeReturn ? 4 : 7; }
-
 // clang-format off
 void CSpd1Dlg::DoFieldExchange(CWzdExchange* wx)
 {

@@ -11,9 +11,6 @@ public:
 
     void DoFieldExchange(CWzdExchange* wx) override;
 
-protected:
-    int TableWords() const override;
-
 private:
     SWzdRange MaximumSpeedRange() const;
 

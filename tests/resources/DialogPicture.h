@@ -21,6 +21,7 @@ struct SPicturedControl
 
 struct SDialogPicture
 {
+    int language = 0;
     std::string caption;
     DWORD style = 0;
     int width = 0; ///< of the client area, in pixels

@@ -41,7 +41,7 @@ TEST_F(CControlsTest, SelectItems)
     InProbe([&](CDialogRobot& robot) {
         static constexpr SWzdChoice kItems[] = {{IDS_DUTY_50_PERCENT, 0}, {IDS_FIXED_PULSE_WIDTH, 1}};
         ASSERT_TRUE(m_probe.FillCombo(IDC_PROBE_COMBO, kItems));
-        EXPECT_EQ(m_probe.Selection(IDC_PROBE_COMBO), -1);
+        EXPECT_EQ(m_probe.Selection(IDC_PROBE_COMBO), 0);
         m_probe.Select(IDC_PROBE_COMBO, 1);
         EXPECT_EQ(m_probe.Selection(IDC_PROBE_COMBO), 1);
         EXPECT_EQ(robot.Text(IDC_PROBE_COMBO), "Fixed pulse width (approx80us)");
@@ -108,7 +108,26 @@ TEST_F(CControlsTest, AreEmptiedBeforeTheyAreFilledAgain)
         m_probe.Select(IDC_PROBE_COMBO, 2);
         ASSERT_TRUE(m_probe.FillCombo(IDC_PROBE_COMBO, kOne));
         EXPECT_EQ(robot.Items(IDC_PROBE_COMBO), Texts({"ch3"}));
-        EXPECT_EQ(robot.Selection(IDC_PROBE_COMBO), -1);
+        EXPECT_EQ(robot.Selection(IDC_PROBE_COMBO), 0);
+    });
+}
+
+TEST_F(CControlsTest, SelectTheWantedItemOrTheFirst)
+{
+    InProbe([&](CDialogRobot& robot) {
+        static constexpr SWzdChoice kItems[] = {{IDS_OUTPUT_Y, 5, 0}, {IDS_OUTPUT_Y, 7, 1}, {IDS_OUTPUT_Y, 9, 2}};
+        struct
+        {
+            int wanted, selected;
+        } const rows[] = {{-2, 0}, {-1, 0}, {0, 0}, {1, 1}, {2, 2}, {3, 0}, {INT_MAX, 0}, {INT_MIN, 0}};
+        for (const auto& row : rows)
+        {
+            ASSERT_TRUE(m_probe.FillCombo(IDC_PROBE_COMBO, kItems, row.wanted));
+            EXPECT_EQ(robot.Selection(IDC_PROBE_COMBO), row.selected) << row.wanted;
+        }
+        const CWnd* combo = m_probe.GetDlgItem(IDC_PROBE_COMBO);
+        for (int item = 0; item < 3; ++item)
+            EXPECT_EQ(combo->SendMessage(CB_GETITEMDATA, item), static_cast<LRESULT>(kItems[item].code)) << item;
     });
 }
 

@@ -1,6 +1,9 @@
 // What every dialog declares of its fields holds together. A new dialog is one more row of the table.
 #include "core/Values.h"
+#include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/process/PidDlg.h"
 #include "dialogs/pulse/Spd1Dlg.h"
+#include "dialogs/pulse/SpdhDlg.h"
 #include "tests/dialogs/base/FieldRecorder.h"
 #include "tests/resources/LanguageLibrary.h"
 #include "tests/support/Controller.h"
@@ -39,6 +42,12 @@ std::unique_ptr<CWzdDlgBase> Make(CFunWizard* wizard)
 const SDialogRow kDialogs[] = {
     {"Spd1Trapezoidal", kEverywhere, Make<CSpd1Dlg, false>},
     {"Spd1Home", kEverywhere, Make<CSpd1Dlg, true>},
+    {"SpdhTrapezoidal", kEverywhere, Make<CSpdhDlg, false>},
+    {"SpdhHome", kEverywhere, Make<CSpdhDlg, true>},
+    {"EPoint", kEverywhere, Make<CEPointDlg, kEPointForm>},
+    {"PPointStart", kEverywhere, Make<CEPointDlg, kPPointStartForm>},
+    {"JogPositioning", kEverywhere, Make<CEPointDlg, kJogPositioningForm>},
+    {"Pid", kEverywhere, Make<CPidDlg, 19>},
 };
 
 std::ostream& operator<<(std::ostream& out, const SDialogRow& row) { return out << row.name; }
@@ -96,6 +105,40 @@ protected:
         return languages;
     }
 };
+
+bool CanBeUsed(CDialogRobot& robot, UINT id) { return robot.Enabled(id) && robot.Visible(id); }
+
+/// The lowest or the highest entry that a field takes.
+CString Bound(CWzdDlgBase& dialog, const SWzdFieldInfo& field, bool highest)
+{
+    short kind, code;
+    int low, high;
+    if (field.combo != 0 && dialog.GetSelectedDeviceRange(field.combo, kind, code, low, high))
+        return FormatDeviceNumber(code, highest ? high : low);
+    if (field.range.low <= field.range.high)
+        return field.format.Format(highest ? field.range.high : field.range.low);
+    EXPECT_TRUE(dialog.GetDataTableRange(low, high));
+    return FormatDecimal64(highest ? high : low);
+}
+
+/// Makes every choice that the round comes to, and enters a bound wherever something can be entered.
+void FillIn(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
+{
+    for (const UINT check : {IDC_START_OUTPUT_ENABLE, IDC_SAME_CONDITION})
+        if (robot.Exists(check))
+            robot.Check(check, check == IDC_START_OUTPUT_ENABLE);
+    int choice = round; // not the same in every combo: two contacts would become one
+    for (const SWzdFieldInfo& field : RecordFields(dialog))
+        if (field.combo != 0)
+            robot.Select(field.combo, choice++ % static_cast<int>(robot.Items(field.combo).size()));
+    for (const SWzdFieldInfo& field : RecordFields(dialog)) // their ranges may depend on the combos
+    {
+        if (field.check != 0 && CanBeUsed(robot, field.check))
+            robot.Check(field.check);
+        if (field.edit != 0 && CanBeUsed(robot, field.edit))
+            robot.Type(field.edit, Bound(dialog, field, round % 2 != 0));
+    }
+}
 
 int Length(LONGLONG number) { return FormatDecimal64(number).GetLength(); }
 
@@ -231,7 +274,7 @@ TEST_P(CDeclaredFieldsTest, HaveRegistersOfTheirOwnWithinTheTable)
         {
             if (field.offset < 0)
                 continue;
-            for (int word = field.offset; word < field.offset + Registers(field.type); ++word)
+            for (int word = static_cast<int>(field.offset); word < field.offset + field.registers; ++word)
             {
                 EXPECT_TRUE(taken.insert(word).second) << "two fields share word " << word;
                 EXPECT_LT(word, words);
@@ -246,6 +289,8 @@ TEST_P(CDeclaredFieldsTest, RestoreWhatTheyStored)
 {
     CFunWizard wizard;
     SetUpController(wizard);
+    wizard.SetLanguageInfo(kEnglish);
+    wizard.SetStartType(2);
     const auto picture = [](CDialogRobot& robot) {
         std::vector<CString> texts;
         for (const SRobotControl& control : robot.Controls())
@@ -257,20 +302,7 @@ TEST_P(CDeclaredFieldsTest, RestoreWhatTheyStored)
         SCOPED_TRACE(testing::Message() << "round " << round);
         std::vector<CString> entered;
         const int result = InDialog(wizard, [&](CWzdDlgBase& dialog, CDialogRobot& robot) {
-            for (const SWzdFieldInfo& field : RecordFields(dialog))
-                if (field.combo != 0)
-                    robot.Select(field.combo, round % static_cast<int>(robot.Items(field.combo).size()));
-            for (const SWzdFieldInfo& field : RecordFields(dialog)) // their ranges may depend on the combos
-            {
-                short kind, code;
-                int low, high;
-                if (IsNumber(field))
-                    robot.Type(field.edit, FormatDecimal64(round % 2 != 0 ? field.range.high : field.range.low));
-                else if (field.edit != 0 && dialog.GetSelectedDeviceRange(field.combo, kind, code, low, high))
-                    robot.Type(field.edit, FormatDeviceNumber(code, round % 2 != 0 ? high : low));
-                else if (field.edit != 0 && dialog.GetDataTableRange(low, high))
-                    robot.Type(field.edit, FormatDecimal64(round % 2 != 0 ? high : low));
-            }
+            FillIn(dialog, robot, round);
             entered = picture(robot);
             robot.Click(IDOK);
         });

@@ -27,6 +27,3 @@ inline std::vector<SWzdFieldInfo> RecordFields(CWzdDlgBase& dialog)
     dialog.DoFieldExchange(&recorder);
     return recorder.m_fields;
 }
-
-/// How many registers an entry of the data table takes.
-inline int Registers(EDataType type) { return type == kOneRegister ? 1 : 2; }

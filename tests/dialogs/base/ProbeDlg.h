@@ -32,8 +32,7 @@ public:
     Fields m_fields;
     int m_tableWords = 1;
 
-protected:
-    int TableWords() const override { return m_tableWords; }
+    LONGLONG TableWords() override { return m_tableWords; }
 };
 
 /// Opens probes with the test dialogs as language library.

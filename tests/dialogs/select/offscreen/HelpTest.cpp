@@ -1,37 +1,18 @@
 // The Help button of the selection dialog: which topic of which file it opens.
 #include "tests/dialogs/select/PosSelectTest.h"
 
-#include "afx/offscreen/Desktop.h"
+#include "tests/support/offscreen/HelpCalls.h"
 
 namespace
 {
 
-struct SHelpCall
-{
-    HWND owner;
-    std::string path;
-    UINT command;
-    DWORD_PTR topic;
-};
-
-std::vector<SHelpCall> g_calls;
-
-HWND WINAPI RecordHelp(HWND owner, LPCSTR path, UINT command, DWORD_PTR topic)
-{
-    g_calls.push_back({owner, path, command, topic});
-    return nullptr;
-}
-
 class CSelectionHelpTest : public CPosSelectTest
 {
 protected:
-    // The control is looked for once in the life of the program.
     void SetUp() override
     {
         CPosSelectTest::SetUp();
-        offscreen::RegisterLibrary("hhctrl.ocx",
-                                   {{14, reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&RecordHelp))}});
-        g_calls.clear();
+        HelpCalls().clear();
     }
 };
 
@@ -48,17 +29,17 @@ TEST_F(CSelectionHelpTest, OpensTheTopicOfTheMode)
     for (const auto& row : rows)
     {
         Look(row.mode, [&](CDialogRobot& robot) {
-            g_calls.clear();
+            HelpCalls().clear();
             robot.Click(kHelp);
             EXPECT_TRUE(robot.IsOpen());
-            ASSERT_EQ(g_calls.size(), 1u);
-            EXPECT_EQ(g_calls[0].owner, nullptr);
-            EXPECT_EQ(g_calls[0].path, "C:\\tool\\help.chm");
-            EXPECT_EQ(g_calls[0].command, 15u);
-            EXPECT_EQ(g_calls[0].topic, row.topic);
+            ASSERT_EQ(HelpCalls().size(), 1u);
+            EXPECT_EQ(HelpCalls()[0].owner, nullptr);
+            EXPECT_EQ(HelpCalls()[0].path, "C:\\tool\\help.chm");
+            EXPECT_EQ(HelpCalls()[0].command, 15u);
+            EXPECT_EQ(HelpCalls()[0].topic, row.topic);
 
             robot.Click(kHelp);
-            EXPECT_EQ(g_calls.size(), 2u);
+            EXPECT_EQ(HelpCalls().size(), 2u);
         });
     }
 }
@@ -67,19 +48,19 @@ TEST_F(CSelectionHelpTest, F1OpensTheSameTopic)
 {
     m_wizard.SetHelpPath("C:\\tool\\help.chm");
     Look(1, [](CDialogRobot& robot) {
-        g_calls.clear();
+        HelpCalls().clear();
         robot.PressKey(VK_F1);
-        ASSERT_EQ(g_calls.size(), 1u);
-        EXPECT_EQ(g_calls[0].topic, 5552u);
+        ASSERT_EQ(HelpCalls().size(), 1u);
+        EXPECT_EQ(HelpCalls()[0].topic, 5552u);
     });
 }
 
 TEST_F(CSelectionHelpTest, F1DoesNothingWithoutHelp)
 {
     Look(0, [](CDialogRobot& robot) {
-        g_calls.clear();
+        HelpCalls().clear();
         robot.PressKey(VK_F1);
-        EXPECT_TRUE(g_calls.empty());
+        EXPECT_TRUE(HelpCalls().empty());
         EXPECT_TRUE(robot.IsOpen());
     });
 }

@@ -1,0 +1,63 @@
+// Registers of the data table that the program fills: the dialog only tells where they are.
+#include "dialogs/base/WzdDlgBase.h"
+
+namespace
+{
+
+class CRegistersField : public CWzdField
+{
+public:
+    CRegistersField(CWzdDlgBase& dialog, UINT label, UINT startEdit, SWzdFormat format, int offset, LONGLONG count)
+        : CWzdField(dialog), m_label(label), m_startEdit(startEdit), m_format(format), m_offset(offset), m_count(count)
+    {
+    }
+
+    void Refresh() override
+    {
+        CString text;
+        LONGLONG start;
+        if (m_format.Parse(m_dialog.ItemText(m_startEdit), start))
+        {
+            const CString first = Name(start + m_offset);
+            const CString last = Name(start + m_offset + m_count - 1);
+            if (m_count == 1)
+                text = first;
+            else
+                text.Format(IDS_REGISTER_SPAN, static_cast<LPCSTR>(first), static_cast<LPCSTR>(last));
+            text = " " + text;
+        }
+        m_dialog.SetItemText(m_label, text);
+    }
+
+    SWzdFieldInfo Describe() const override
+    {
+        SWzdFieldInfo info;
+        info.rangeLabel = m_label;
+        info.offset = m_offset;
+        info.registers = m_count;
+        return info;
+    }
+
+private:
+    static CString Name(LONGLONG number)
+    {
+        CString name;
+        name.Format(IDS_DT_ADDRESS, static_cast<int>(number));
+        return name;
+    }
+
+    UINT m_label;
+    UINT m_startEdit;
+    SWzdFormat m_format;
+    int m_offset;
+    LONGLONG m_count;
+};
+
+} // namespace
+
+void WDX_Registers(CWzdExchange* wx, UINT label, UINT startEdit, SWzdFormat format, int offset, LONGLONG count)
+{
+    wx->Reserve(offset + count);
+    CRegistersField field(wx->Dialog(), label, startEdit, format, offset, count);
+    wx->Declare(field);
+}

@@ -1,0 +1,170 @@
+#include "dialogs/base/WzdDialog.h"
+
+#include "afx/HtmlHelp.h"
+#include "core/AppName.h"
+#include "core/FunWizard.h"
+#include "core/Memory.h"
+#include "core/ResourceScope.h"
+#include "resources/resource.h"
+
+BEGIN_MESSAGE_MAP(CWzdDialog, CDialog)
+ON_BN_CLICKED(IDC_HELP_TOPIC, &CWzdDialog::OnHelpTopic)
+ON_WM_HELPINFO()
+END_MESSAGE_MAP()
+
+CWzdDialog::CWzdDialog(CFunWizard* wizard, UINT templateId, CWnd* parent)
+    : CDialog(templateId, parent), m_wizard(wizard)
+{
+}
+
+INT_PTR CWzdDialog::DoModal()
+{
+    CResourceScope scope(m_wizard != nullptr ? m_wizard->GetLoadInstance() : nullptr);
+    return CDialog::DoModal();
+}
+
+BOOL CWzdDialog::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    bool opened = false;
+    const int enough = WithMemory([&] {
+        if (m_wizard == nullptr)
+            return;
+        m_wizard->SetDlgFont(this, 0, nullptr);
+        CWnd* help = GetDlgItem(IDC_HELP_TOPIC);
+        if (help != nullptr && m_wizard->GetHelpPath().IsEmpty())
+        {
+            help->EnableWindow(FALSE);
+            help->ShowWindow(SW_HIDE);
+        }
+        opened = Open();
+    });
+    if (!enough || !opened)
+        EndDialog(IDCANCEL);
+    const CWnd* focus = GetFocus();
+    return focus == nullptr || !IsChild(focus); // A control that has taken the focus keeps it.
+}
+
+void CWzdDialog::OnOK()
+{
+    bool confirmed = false;
+    if (!WithMemory([&] { confirmed = Confirm(); }))
+        ShowWarning(IDS_ERR_MEMORY);
+    else if (confirmed)
+        EndDialog(IDOK);
+}
+
+void CWzdDialog::OnHelpTopic()
+{
+    const CString path = m_wizard->GetHelpPath();
+    if (HelpTopic() != kNoHelp && !path.IsEmpty())
+        AfxHtmlHelp(path, HelpTopic());
+}
+
+// F1 does what the button does.
+BOOL CWzdDialog::OnHelpInfo(HELPINFO* info)
+{
+    if (HelpTopic() == kNoHelp)
+        return CDialog::OnHelpInfo(info);
+    OnHelpTopic();
+    return TRUE;
+}
+
+// ---- Controls -------------------------------------------------------------------------------------------------------
+
+CString CWzdDialog::ItemText(UINT id) const
+{
+    CString text;
+    if (const CWnd* item = GetDlgItem(id))
+        item->GetWindowText(text);
+    return text;
+}
+
+void CWzdDialog::SetItemText(UINT id, LPCSTR text)
+{
+    if (CWnd* item = GetDlgItem(id))
+        item->SetWindowText(text);
+}
+
+bool CWzdDialog::IsChecked(UINT id) const { return IsDlgButtonChecked(id) == BST_CHECKED; }
+
+int CWzdDialog::Selection(UINT combo) const
+{
+    const auto* list = static_cast<CComboBox*>(GetDlgItem(combo));
+    return list != nullptr ? list->GetCurSel() : CB_ERR;
+}
+
+void CWzdDialog::Select(UINT combo, int index)
+{
+    if (auto* list = static_cast<CComboBox*>(GetDlgItem(combo)))
+        list->SetCurSel(index);
+}
+
+void CWzdDialog::Enable(UINT id, bool enabled)
+{
+    if (CWnd* item = GetDlgItem(id))
+        item->EnableWindow(enabled);
+}
+
+void CWzdDialog::LimitText(UINT edit, int characters)
+{
+    if (auto* item = static_cast<CEdit*>(GetDlgItem(edit)))
+        item->LimitText(characters);
+}
+
+CWnd* CWzdDialog::ControlBefore(UINT id, int steps) const
+{
+    CWnd* item = GetDlgItem(id);
+    while (item != nullptr && steps-- > 0)
+        item = item->GetWindow(GW_HWNDPREV);
+    return item;
+}
+
+CWnd* CWzdDialog::ControlAfter(UINT id) const
+{
+    const CWnd* item = GetDlgItem(id);
+    return item != nullptr ? item->GetWindow(GW_HWNDNEXT) : nullptr;
+}
+
+bool CWzdDialog::FillCombo(UINT combo, CWzdChoices choices, int selected)
+{
+    auto* list = static_cast<CComboBox*>(GetDlgItem(combo));
+    if (list == nullptr)
+        return false;
+    list->ResetContent();
+    for (const SWzdChoice& choice : choices)
+    {
+        CString text;
+        if (choice.argument == SWzdChoice::kPlainText)
+            text.LoadString(choice.text);
+        else
+            text.Format(choice.text, choice.argument);
+        const int item = text.IsEmpty() ? CB_ERR : list->AddString(text);
+        if (item < 0 || list->SetItemData(item, choice.code) < 0)
+            return false;
+    }
+    list->SetCurSel(selected >= 0 && selected < list->GetCount() ? selected : 0);
+    return true;
+}
+
+// ---- Messages -------------------------------------------------------------------------------------------------------
+
+bool CWzdDialog::Refuse(UINT edit, UINT message)
+{
+    if (auto* item = static_cast<CEdit*>(GetDlgItem(edit)))
+    {
+        item->SetSel(0, -1); // and scrolls it into view
+        item->SetFocus();
+    }
+    ShowWarning(message);
+    return false;
+}
+
+int CWzdDialog::ShowWarning(UINT stringId, UINT flags)
+{
+    // Without allocating: the message may be that memory has run out.
+    char text[512];
+    AfxLoadString(stringId, text, sizeof text);
+    CWnd* owner = CWnd::GetSafeOwner();
+    return (owner != nullptr ? owner : this)->MessageBox(text, GetAppName(), flags | MB_ICONEXCLAMATION);
+}

@@ -1,0 +1,66 @@
+// What all dialogs of the library have in common: texts and template come from the language library, the wizard's font,
+// a help topic, running out of memory, and access to the controls by id.
+#pragma once
+
+#include "dialogs/base/WzdField.h"
+
+class CFunWizard;
+
+class CWzdDialog : public CDialog
+{
+public:
+    /// `wizard` is not owned and outlives the dialog.
+    CWzdDialog(CFunWizard* wizard, UINT templateId, CWnd* parent);
+
+    /// Runs the dialog with the language library as the source of texts: 1 on OK, 2 on Back or Cancel or when the
+    /// dialog could not be opened, -1 when the source does not hold the template.
+    INT_PTR DoModal() override;
+
+    CFunWizard& Wizard() const { return *m_wizard; }
+
+    // ---- Controls; a control that the template does not carry counts as empty, unchecked and without selection -----
+
+    CString ItemText(UINT id) const;
+    void SetItemText(UINT id, LPCSTR text);
+    bool IsChecked(UINT id) const;
+    int Selection(UINT combo) const;
+    void Select(UINT combo, int index);
+    void Enable(UINT id, bool enabled);
+    void LimitText(UINT edit, int characters);
+    /// The control before or after another one in tab order; null when there is none.
+    CWnd* ControlBefore(UINT id, int steps = 1) const;
+    CWnd* ControlAfter(UINT id) const;
+
+    /// Empties a combo, adds an item for every choice, its code as item data, and selects the item `selected`, or the
+    /// first one when there is no such item. False when a text is missing or the list refuses an item.
+    [[nodiscard]] bool FillCombo(UINT combo, CWzdChoices choices, int selected = 0);
+
+    // ---- Messages ---------------------------------------------------------------------------------------------------
+
+    /// Selects the whole text of an edit, gives it the focus and shows the message. Always false.
+    bool Refuse(UINT edit, UINT message);
+    /// Shows a message box with an exclamation mark above the active window; returns the button pressed.
+    int ShowWarning(UINT stringId, UINT flags = 0);
+
+protected:
+    static constexpr int kNoHelp = -1;
+
+    /// The help topic of the dialog. The Help button is hidden when the wizard has no help file.
+    virtual int HelpTopic() const { return kNoHelp; }
+
+    /// Fills the controls. False ends the dialog with 2; so does running out of memory.
+    [[nodiscard]] virtual bool Open() { return true; }
+    /// Checks and stores the entries. False, with the message shown, keeps the dialog open; so does running out of
+    /// memory.
+    [[nodiscard]] virtual bool Confirm() { return true; }
+
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+    void OnHelpTopic();
+    BOOL OnHelpInfo(HELPINFO* info);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CFunWizard* m_wizard;
+};

@@ -1,0 +1,52 @@
+#include "dialogs/posunit/EPointDlg.h"
+
+#include "dialogs/base/AxisCode.h"
+
+namespace
+{
+
+/// What the forms differ in.
+struct SForm
+{
+    UINT caption; // 0: that of the template
+    int startBit; // in the relays of the axis
+};
+
+constexpr SForm kForms[] = {{0, 0}, {IDS_CAPTION_P_POINT_START, 1}, {IDS_CAPTION_JOG_POSITIONING, 8}};
+
+} // namespace
+
+CEPointDlg::CEPointDlg(CFunWizard* wizard, EEPointForm form, CWnd* parent)
+    : CWzdDlgBase(wizard, IDD_EPOINT, parent), m_form(form)
+{
+}
+
+// clang-format off
+void CEPointDlg::DoFieldExchange(CWzdExchange* wx)
+{
+    WDX_Caption    (wx, kForms[m_form].caption);
+    WDX_Contact    (wx, IDS_ERR_UNIT_CONTACT);
+    WDX_UnitAxis   (wx, IDC_EPOINT_SLOT, IDC_EPOINT_AXIS);
+    WDX_TableStart (wx, IDC_EPOINT_START, IDC_EPOINT_START_RANGE, kTableOperand);
+
+    WDX_ControlCode(wx, kTwoRegisters);
+    WDX_AxisCode   (wx, IDC_EPOINT_POSITION_COMMAND, EAxisCode::PositionCommand);
+    WDX_AxisCode   (wx, IDC_EPOINT_ACCELERATION,     EAxisCode::Acceleration);
+    WDX_AxisCode   (wx, IDC_EPOINT_STARTUP,          EAxisCode::StartupSpeed);
+    WDX_AxisCode   (wx, IDC_CODE_HOME_LOGIC,         EAxisCode::HomeLogic);
+    WDX_AxisCode   (wx, IDC_CODE_NEAR_HOME_LOGIC,    EAxisCode::NearHomeLogic);
+    WDX_AxisCode   (wx, IDC_CODE_LIMIT_LOGIC,        EAxisCode::LimitLogic);
+    WDX_AxisCode   (wx, IDC_CODE_S_CURVE,            EAxisCode::AccelerationCurve);
+    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_ROTATION,    EAxisCode::OutputRotation);
+    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_MODE,        EAxisCode::OutputMode);
+    WDX_AxisCode   (wx, IDC_CODE_DIVIDED_MODE,       EAxisCode::DividedMode);
+
+    //              control                   entry               limit  accepted                message when outside
+    WDX_Number     (wx, IDC_EPOINT_STARTUP_SPEED, {2, kTwoRegisters},  7, {0, 4000000},          IDS_ERR_STARTUP_SPEED);
+    WDX_Number     (wx, IDC_EPOINT_TARGET_SPEED,  {4, kTwoRegisters},  7, {1, 4000000},          IDS_ERR_TARGET_SPEED);
+    WDX_Number     (wx, IDC_EPOINT_TIME,          {6, kTwoRegisters},  5, {0, 32767},            IDS_ERR_UNIT_ACCELERATION_TIME);
+    WDX_Number     (wx, IDC_EPOINT_POSITION,      {8, kTwoRegisters}, 11, kAnyDoubleWord, IDS_ERR_POSITION_COMMAND);
+
+    WDX_StartOutput(wx, kForms[m_form].startBit);
+}
+// clang-format on

@@ -1,0 +1,58 @@
+// The templates of the processing instructions, by number and in English, apart from the resource scripts.
+#pragma once
+
+#include "tests/resources/ExpectedControl.h"
+
+inline SExpectedTemplate ExpectedPid()
+{
+    return {1031,
+            "PID processing(F355) instruction input assistance",
+            {
+                {2061, EControl::CheckBox, "Only a parameter table is created."},
+                {kNoId, EControl::Static, "Starting condition contact"},
+                {2051, EControl::DropList, ""},
+                {2052, EControl::Edit, ""},
+                {2053, EControl::Static, "Impossible settings"},
+                {kNoId, EControl::Static, "Parameter table starting address"},
+                {kNoId, EControl::Static, "DT"},
+                {2801, EControl::Edit, ""},
+                {2802, EControl::Static, "Impossible settings"},
+                {kNoId, EControl::Static, "Control mode"},
+                {kNoId, EControl::Static, "Auto-tuning"},
+                {2805, EControl::DropList, ""},
+                {2803, EControl::DropList, ""},
+                {2804, EControl::DropList, ""},
+                {2816, EControl::CheckBox, "Set value (SP)"},
+                {2806, EControl::Edit, ""},
+                {kNoId, EControl::Static, "(0 - 10000)"},
+                {kNoId, EControl::Static, "Measured value (PV)"},
+                {2807, EControl::Static, ""},
+                {kNoId, EControl::Static, "Output value (MV)"},
+                {2808, EControl::Static, ""},
+                {2819, EControl::CheckBox, "Output lower limit value"},
+                {2809, EControl::Edit, ""},
+                {kNoId, EControl::Static, "(0 - 99.99) %"},
+                {2820, EControl::CheckBox, "Output upper limit value"},
+                {2810, EControl::Edit, ""},
+                {kNoId, EControl::Static, "(0.01 - 100) %"},
+                {2821, EControl::CheckBox, "Proportional gain (Kp)"},
+                {2811, EControl::Edit, ""},
+                {kNoId, EControl::Static, "(0.1 - 999.9)"},
+                {2822, EControl::CheckBox, "Integral time (Ti)"},
+                {2812, EControl::Edit, ""},
+                {kNoId, EControl::Static, "(0.0 - 3000.0) seconds"},
+                {2823, EControl::CheckBox, "Derivative time (Td)"},
+                {2813, EControl::Edit, ""},
+                {kNoId, EControl::Static, "(0.0 - 1000.0) seconds"},
+                {2824, EControl::CheckBox, "Control cycle (Ts)"},
+                {2814, EControl::Edit, ""},
+                {kNoId, EControl::Static, "(0.01 - 60.0) seconds"},
+                {kNoId, EControl::Static, "Work area"},
+                {2815, EControl::Static, ""},
+                {3001, EControl::CheckBox, "I/O comment is registered automatically."},
+                {1, EControl::DefaultButton, "&OK"},
+                {2, EControl::PushButton, "Cancel"},
+                {2003, EControl::PushButton, "&Help"},
+            },
+            {{2805, {11122, 11123}}, {2803, {11124, 11125}}, {2804, {11126, 11127}}}};
+}
