@@ -1,10 +1,14 @@
 // Timing on Windows, every comparison within one run and in alternating rounds:
 //
-//   opening F168, until it can be typed into, against creating and showing its template with no program behind it;
-//   generating instructions against appending the same records to a vector that has room for them.
+//   opening each dialog, until it can be typed into, against creating and showing its template with no program behind
+//   it; generating instructions against appending the same records to a vector that has room for them.
 #include "afx/afx.h"
 #include "bench/Wizards.h"
+#include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/posunit/PosCtrlCodeDlg.h"
+#include "dialogs/process/PidDlg.h"
 #include "dialogs/pulse/Spd1Dlg.h"
+#include "dialogs/pulse/SpdhDlg.h"
 #include "resources/resource.h"
 
 #include <algorithm>
@@ -84,24 +88,46 @@ private:
     static inline double s_readyAt = 0;
 };
 
-class CWatchedDlg : public CSpd1Dlg
+template <typename TDialog>
+class CWatched : public TDialog
 {
 public:
-    using CSpd1Dlg::CSpd1Dlg;
+    using TDialog::TDialog;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        CReadiness::See(m_hWnd, message, lParam);
-        return CSpd1Dlg::WindowProc(message, wParam, lParam);
+        CReadiness::See(this->m_hWnd, message, lParam);
+        return TDialog::WindowProc(message, wParam, lParam);
     }
 };
 
-double OpenWizard(CFunWizard& wizard, CWnd* owner)
+struct SOpening
+{
+    const char* name;
+    UINT templateId;
+    INT_PTR (*open)(CFunWizard& wizard, CWnd* owner);
+};
+
+template <typename TDialog, auto... arguments>
+INT_PTR Open(CFunWizard& wizard, CWnd* owner)
+{
+    return CWatched<TDialog>(&wizard, arguments..., owner).DoModal();
+}
+
+constexpr SOpening kOpenings[] = {
+    {"F168", IDD_SPD1_TRAPEZOIDAL, Open<CSpd1Dlg, false>},
+    {"F171", IDD_SPDH_TRAPEZOIDAL, Open<CSpdhDlg, false>},
+    {"control code", IDD_CONTROL_CODE, Open<CPosCtrlCodeDlg>},
+    {"E point", IDD_EPOINT, Open<CEPointDlg, kEPointForm>},
+    {"PID", IDD_PID, Open<CPidDlg, 30>},
+};
+
+double OpenWizard(const SOpening& opening, CFunWizard& wizard, CWnd* owner)
 {
     CReadiness::Expect();
     const double start = Milliseconds();
-    if (CWatchedDlg(&wizard, false, owner).DoModal() != IDCANCEL)
+    if (opening.open(wizard, owner) != IDCANCEL)
         Stop("The dialog could not be opened.");
     return CReadiness::ReadyAt() - start;
 }
@@ -112,12 +138,12 @@ INT_PTR CALLBACK BareProc(HWND dialog, UINT message, WPARAM, LPARAM lParam)
     return message == WM_INITDIALOG;
 }
 
-double OpenBare(CWnd* owner)
+double OpenBare(const SOpening& opening, CWnd* owner)
 {
     const HINSTANCE module = AfxGetInstanceHandle();
     CReadiness::Expect();
     const double start = Milliseconds();
-    const HRSRC found = FindResourceA(module, MAKEINTRESOURCEA(IDD_SPD1_TRAPEZOIDAL), MAKEINTRESOURCEA(5));
+    const HRSRC found = FindResourceA(module, MAKEINTRESOURCEA(opening.templateId), MAKEINTRESOURCEA(5));
     const auto* dialogTemplate = static_cast<LPCDLGTEMPLATE>(LockResource(LoadResource(module, found)));
     const HWND dialog = CreateDialogIndirectParamA(module, dialogTemplate, owner->m_hWnd, &BareProc, 0);
     ShowWindow(dialog, SW_SHOWNORMAL);
@@ -135,22 +161,15 @@ double OpenBare(CWnd* owner)
     return time;
 }
 
-void CompareOpenings(int rounds)
+void CompareOpening(const SOpening& opening, int rounds, CFunWizard& wizard, CWnd* owner)
 {
     constexpr int kWarmUp = 20;
-    CWnd owner;
-    owner.CreateEx(0, "Static", "Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr);
-    const CReadiness readiness;
-    CFunWizard wizard;
-    SetUpController(wizard);
-    wizard.CreateDlgFont(&owner);
-
     std::vector<double> wizards, bares;
     for (int i = -kWarmUp; i < rounds; ++i)
     {
-        const double bareFirst = i % 2 == 0 ? OpenBare(&owner) : 0;
-        const double time = OpenWizard(wizard, &owner);
-        const double bare = i % 2 == 0 ? bareFirst : OpenBare(&owner);
+        const double bareFirst = i % 2 == 0 ? OpenBare(opening, owner) : 0;
+        const double time = OpenWizard(opening, wizard, owner);
+        const double bare = i % 2 == 0 ? bareFirst : OpenBare(opening, owner);
         if (i < 0)
             continue;
         wizards.push_back(time);
@@ -158,8 +177,20 @@ void CompareOpenings(int rounds)
     }
     const double time = Median(wizards);
     const double bare = Median(bares);
-    std::printf("opening F168      %8.3f ms   bare template  %8.3f ms   ratio %.2f   (median of %d, target 1.30)\n",
-                time, bare, time / bare, rounds);
+    std::printf("opening %-12s  %8.3f ms   bare template  %8.3f ms   ratio %.2f   (median of %d, target 1.30)\n",
+                opening.name, time, bare, time / bare, rounds);
+}
+
+void CompareOpenings(int rounds)
+{
+    CWnd owner;
+    owner.CreateEx(0, "Static", "Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr);
+    const CReadiness readiness;
+    CFunWizard wizard;
+    SetUpController(wizard);
+    wizard.CreateDlgFont(&owner);
+    for (const SOpening& opening : kOpenings)
+        CompareOpening(opening, rounds, wizard, &owner);
 }
 
 // ---- Instructions ---------------------------------------------------------------------------------------------------
@@ -201,9 +232,10 @@ void CompareInstructions(int dataRecords, int rounds)
     }
     const double time = Median(generating);
     const double least = Median(appending);
-    std::printf("CreateInstCode    %8.3f ms   vector         %8.3f ms   ratio %.2f   (%d data records, median of %d, "
-                "target 3.00)\n",
-                time, least, time / least, dataRecords, rounds);
+    std::printf(
+        "CreateInstCode        %8.3f ms   vector         %8.3f ms   ratio %.2f   (%d data records, median of %d, "
+        "target 3.00)\n",
+        time, least, time / least, dataRecords, rounds);
 }
 
 } // namespace

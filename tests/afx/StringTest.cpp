@@ -164,6 +164,23 @@ TEST(StringTest, Trims)
     EXPECT_EQ(empty, "");
 }
 
+TEST(StringTest, TrimsACharacterFromTheRight)
+{
+    CString text = "0.500";
+    text.TrimRight('0');
+    EXPECT_EQ(text, "0.5");
+    text.TrimRight('0');
+    EXPECT_EQ(text, "0.5");
+
+    CString zeros = "000";
+    zeros.TrimRight('0');
+    EXPECT_TRUE(zeros.IsEmpty());
+
+    CString empty;
+    empty.TrimRight('0');
+    EXPECT_TRUE(empty.IsEmpty());
+}
+
 TEST(StringTest, ChangesCase)
 {
     CString text("aZ09[{");

@@ -1,0 +1,284 @@
+// Every dialog driven by random input: whatever a user does, the lists hold an accepted input as a whole, and what is
+// accepted can be opened and confirmed again without a change.
+//
+//     PEXLO_FUZZ=200000 pexlo_tests --gtest_filter=*Fuzz*     so many sequences, shared among the dialogs
+//     PEXLO_FUZZ_SEED=123                                     other ones
+#include "dialogs/base/PosSelectDlg.h"
+#include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/posunit/PosCtrlCodeDlg.h"
+#include "dialogs/process/PidDlg.h"
+#include "dialogs/pulse/Spd1Dlg.h"
+#include "dialogs/pulse/SpdhDlg.h"
+#include "resources/resource.h"
+#include "tests/robust/TextGenerator.h"
+#include "tests/support/Controller.h"
+#include "tests/support/DesktopTest.h"
+#include "tests/support/PrintTo.h"
+#include "tests/support/Results.h"
+
+#include <cstdlib>
+#include <iterator>
+#include <memory>
+#include <random>
+
+namespace
+{
+
+#if defined(_WIN32)
+constexpr unsigned kSequences = 240;
+#else
+constexpr unsigned kSequences = 6000;
+#endif
+constexpr int kMostSteps = 14;
+constexpr int kEnglish = 0;
+
+using Random = std::mt19937;
+
+int Below(Random& random, size_t count) { return static_cast<int>(random() % count); }
+bool OneIn(Random& random, int count) { return Below(random, static_cast<size_t>(count)) == 0; }
+
+unsigned Setting(const char* name, unsigned value)
+{
+    const char* text = std::getenv(name);
+    return text != nullptr ? static_cast<unsigned>(std::strtoul(text, nullptr, 10)) : value;
+}
+
+using Dialog = std::unique_ptr<CDialog>;
+
+struct SFuzzed
+{
+    const char* name;
+    Dialog (*make)(CFunWizard* wizard, Random& random);
+    bool keepsLists = true; ///< an accepted input goes to the lists, from which it is restored
+};
+
+template <typename TDialog, auto... arguments>
+Dialog Make(CFunWizard* wizard, Random&)
+{
+    return std::make_unique<TDialog>(wizard, arguments..., nullptr);
+}
+
+Dialog MakePid(CFunWizard* wizard, Random& random)
+{
+    constexpr int kWorkAreas[] = {0, 1, 19, 30, 30000, 40000};
+    return std::make_unique<CPidDlg>(wizard, kWorkAreas[Below(random, std::size(kWorkAreas))], nullptr);
+}
+
+Dialog MakeControlCode(CFunWizard* wizard, Random& random)
+{
+    auto dialog = std::make_unique<CPosCtrlCodeDlg>(wizard, nullptr);
+    dialog->SetCode(static_cast<DWORD>(random()));
+    return dialog;
+}
+
+const SFuzzed kFuzzed[] = {
+    {"Spd1Trapezoidal", Make<CSpd1Dlg, false>},
+    {"Spd1Home", Make<CSpd1Dlg, true>},
+    {"SpdhTrapezoidal", Make<CSpdhDlg, false>},
+    {"SpdhHome", Make<CSpdhDlg, true>},
+    {"EPoint", Make<CEPointDlg, kEPointForm>},
+    {"PPointStart", Make<CEPointDlg, kPPointStartForm>},
+    {"JogPositioning", Make<CEPointDlg, kJogPositioningForm>},
+    {"Pid", MakePid},
+    {"ControlCode", MakeControlCode, false},
+    {"Instructions", Make<CPosSelectDlg, kPulseInstructions>, false},
+    {"Operations", Make<CPosSelectDlg, kUnitOperations>, false},
+};
+
+std::ostream& operator<<(std::ostream& out, const SFuzzed& fuzzed) { return out << fuzzed.name; }
+
+class CFuzzTest : public CDesktopTest, public testing::WithParamInterface<SFuzzed>
+{
+protected:
+    CFuzzTest()
+    {
+        SetUpController(m_wizard);
+        PexloDll_SetAppName("Fuzzed");
+    }
+    ~CFuzzTest() override { PexloDll_SetAppName(nullptr); }
+
+    /// One sequence: some openings on the same wizard object, whose lists are those of the sequence before.
+    void RunSequence(unsigned seed)
+    {
+        Random random(seed);
+        if (OneIn(random, 8))
+            SetUp(random);
+        const int openings = 1 + Below(random, 2);
+        for (int i = 0; i < openings && !HasFailure(); ++i)
+        {
+            const SResults before = ReadResults(m_wizard);
+            const Random form{random()};
+            const int result = Open(form, [&](CDialogRobot& robot) { PlaySteps(robot, random); });
+            m_accepted += result == IDOK;
+            if (result == IDOK && GetParam().keepsLists)
+                ExpectConfirmedAgain(form);
+            else
+                EXPECT_EQ(ReadResults(m_wizard), before);
+        }
+    }
+
+    unsigned m_accepted = 0;
+    unsigned m_refused = 0;
+
+private:
+    void SetUp(Random& random)
+    {
+        m_wizard.ResetContents();
+        m_wizard.RemoveAllContInfo();
+        SetUpController(m_wizard);
+        m_wizard.SetLanguageInfo(OneIn(random, 3) ? -1 : kEnglish);
+        m_wizard.SetStartType(static_cast<BYTE>(Below(random, 3)));
+        m_wizard.SetMaxSlot(static_cast<BYTE>(1 + Below(random, 64)));
+        m_wizard.SetCmtRec(!OneIn(random, 4));
+        if (OneIn(random, 4))
+            SetDeviceRange(m_wizard, kDT, Below(random, 100), Below(random, 120)); // none, or a small one
+        if (OneIn(random, 4))
+            SetDeviceRange(m_wizard, kY, 0, Below(random, 200));
+    }
+
+    /// Opens the dialog in a form, the same for the same numbers.
+    int Open(Random form, const CDialogRobot::Scene& scene)
+    {
+        const Dialog dialog = GetParam().make(&m_wizard, form);
+        std::vector<CDialogRobot::Scene> scenes = {scene};
+        if (dynamic_cast<CPosCtrlCodeDlg*>(dialog.get()) != nullptr)
+        {
+            scenes[0] = [&](CDialogRobot& robot) {
+                robot.Click(IDC_CTRL_DIRECT_INPUT);
+                scene(robot);
+            };
+            scenes.push_back(scene);
+        }
+        return Play([&] { return static_cast<int>(dialog->DoModal()); }, scenes);
+    }
+
+    /// What was accepted is accepted again, and the lists stay as they are.
+    void ExpectConfirmedAgain(const Random& form)
+    {
+        const SResults confirmed = ReadResults(m_wizard);
+        EXPECT_EQ(Open(form,
+                       [](CDialogRobot& robot) {
+                           EXPECT_EQ(robot.ClickAndAnswer(IDOK), CString());
+                           if (robot.IsOpen())
+                               robot.Click(IDCANCEL);
+                       }),
+                  IDOK);
+        EXPECT_EQ(ReadResults(m_wizard), confirmed);
+    }
+
+    void PlaySteps(CDialogRobot& robot, Random& random)
+    {
+        const int steps = Below(random, kMostSteps);
+        if (OneIn(random, 2))
+            FillIn(robot, random);
+        for (int i = 0; i < steps && robot.IsOpen() && !HasFailure(); ++i)
+            PlayStep(robot, random);
+        if (robot.IsOpen() && robot.Enabled(IDOK) && OneIn(random, 2))
+            ClickOk(robot);
+        if (robot.IsOpen())
+            robot.Dismiss();
+    }
+
+    static std::vector<SRobotControl> Usable(const CDialogRobot& robot)
+    {
+        std::vector<SRobotControl> usable;
+        for (const SRobotControl& control : robot.Controls())
+            if (control.enabled && control.visible && control.id != 0xFFFF && control.className != "Static")
+                usable.push_back(control);
+        return usable;
+    }
+
+    // So that some sequences get as far as OK.
+    static void FillIn(CDialogRobot& robot, Random& random)
+    {
+        constexpr const char* kNumbers[] = {"1", "2", "40", "50", "100"};
+        for (const SRobotControl& control : Usable(robot))
+            if (control.className == "Edit")
+                robot.Type(control.id, kNumbers[Below(random, std::size(kNumbers))]);
+    }
+
+    void PlayStep(CDialogRobot& robot, Random& random)
+    {
+        const std::vector<SRobotControl> usable = Usable(robot);
+        ASSERT_FALSE(usable.empty());
+        const SRobotControl& control = usable[static_cast<size_t>(Below(random, usable.size()))];
+        if (OneIn(random, 8))
+            PressKey(robot, random);
+        else if (control.className == "Edit")
+            Enter(robot, control.id, random);
+        else if (control.className == "ComboBox" || control.className == "ListBox")
+            SelectAny(robot, control.id, random);
+        else if (control.id == IDOK)
+            ClickOk(robot);
+        else if (control.id != IDC_CTRL_DIRECT_INPUT && (control.id != IDCANCEL || OneIn(random, 3)))
+            robot.Click(control.id);
+    }
+
+    static void Enter(CDialogRobot& robot, UINT edit, Random& random)
+    {
+        constexpr size_t kMostTyped = 40;
+        const std::string text = GeneratedText(static_cast<unsigned>(random()));
+        if (text.size() > kMostTyped)
+            robot.SetText(edit, text.substr(0, 300).c_str());
+        else
+            robot.Type(edit, text.c_str());
+    }
+
+    static void SelectAny(CDialogRobot& robot, UINT list, Random& random)
+    {
+        const size_t count = robot.Items(list).size();
+        if (count > 0)
+            robot.Select(list, Below(random, count));
+    }
+
+    static void PressKey(CDialogRobot& robot, Random& random)
+    {
+        constexpr UINT kKeys[] = {VK_TAB,  VK_RETURN, VK_SPACE, VK_UP,     VK_DOWN, VK_LEFT, VK_RIGHT,
+                                  VK_HOME, VK_END,    VK_BACK,  VK_DELETE, VK_F1,   VK_PRIOR};
+        const UINT key = kKeys[Below(random, std::size(kKeys))];
+        if (robot.FocusId() == IDC_CTRL_DIRECT_INPUT)
+            return; // its dialog has been played
+        robot.Answering(IDOK, [&] { robot.PressKey(key); });
+    }
+
+    void ClickOk(CDialogRobot& robot)
+    {
+        const SResults before = ReadResults(m_wizard);
+        const int commentsBefore = m_wizard.IsCmtRec();
+        const int onlyTableBefore = m_wizard.IsOnlyDataTable();
+        const CString message = robot.ClickAndAnswer(IDOK);
+        if (!robot.IsOpen())
+        {
+            EXPECT_EQ(message, CString());
+            return;
+        }
+        ++m_refused;
+        EXPECT_EQ(ReadResults(m_wizard), before) << "after a refused OK";
+        EXPECT_EQ(m_wizard.IsCmtRec(), commentsBefore);
+        EXPECT_EQ(m_wizard.IsOnlyDataTable(), onlyTableBefore);
+    }
+
+    CFunWizard m_wizard;
+};
+
+TEST_P(CFuzzTest, KeepsTheListsWhole)
+{
+    const unsigned sequences = Setting("PEXLO_FUZZ", kSequences) / std::size(kFuzzed);
+    const unsigned firstSeed = Setting("PEXLO_FUZZ_SEED", 1);
+    for (unsigned i = 0; i < sequences && !HasFailure(); ++i)
+    {
+        SCOPED_TRACE(testing::Message() << "sequence " << i << " of PEXLO_FUZZ_SEED=" << firstSeed);
+        RunSequence(firstSeed * 1000003u + i);
+    }
+    constexpr unsigned kEnough = 100;
+    if (sequences >= kEnough)
+    {
+        EXPECT_GT(m_accepted, sequences / 50);
+        EXPECT_TRUE(m_refused > sequences / 50 || !GetParam().keepsLists);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Dialogs, CFuzzTest, testing::ValuesIn(kFuzzed),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace
