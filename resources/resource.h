@@ -112,7 +112,7 @@
 #define IDC_SPDH_MAXIMUM 2262
 #define IDC_SPDH_MAXIMUM_RANGE 2263
 #define IDC_SPDH_TIME_RANGE 2264
-#define IDC_SPDH_COUNTER_CLEAR 2265
+#define IDC_SPDH_CLEAR 2265
 
 // F355 PID: a parameter is a check box, USED, and an edit.
 #define IDC_PID_START 2801

@@ -96,8 +96,9 @@ public:
 class CCodeField : public CChoiceField
 {
 public:
-    CCodeField(CWzdDlgBase& dialog, UINT combo, SWzdBits bits, CWzdChoices choices, CWzdChoices alsoRestores)
-        : CChoiceField(dialog, combo, choices), m_bits(bits), m_alsoRestores(alsoRestores)
+    CCodeField(CWzdDlgBase& dialog, UINT combo, SWzdBits bits, CWzdChoices choices, CWzdChoices alsoRestores,
+               EUnselected unselected)
+        : CChoiceField(dialog, combo, choices), m_bits(bits), m_alsoRestores(alsoRestores), m_unselected(unselected)
     {
     }
 
@@ -105,7 +106,7 @@ public:
     {
         if (const auto code = SelectedCode())
             results.AddToControlCode(m_bits.Place(*code));
-        else
+        else if (m_unselected == kEndsTheCode)
             results.EndControlCode();
         return true;
     }
@@ -127,6 +128,7 @@ protected:
 private:
     SWzdBits m_bits;
     CWzdChoices m_alsoRestores;
+    EUnselected m_unselected;
 };
 
 class CControlCodeField : public CWzdField
@@ -193,8 +195,14 @@ void WDX_ControlCode(CWzdExchange* wx, EDataType type, const CWnd* commentLabel)
     wx->Declare(field);
 }
 
-void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, CWzdChoices choices, CWzdChoices alsoRestores)
+void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, CWzdChoices choices, CWzdChoices alsoRestores,
+              EUnselected unselected)
 {
-    CCodeField field(wx->Dialog(), combo, bits, choices, alsoRestores);
+    CCodeField field(wx->Dialog(), combo, bits, choices, alsoRestores, unselected);
     wx->Declare(field);
+}
+
+void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, bool second, CWzdChoices choices, CWzdChoices secondChoices)
+{
+    WDX_Code(wx, combo, bits, second ? secondChoices : choices, second ? choices : secondChoices);
 }

@@ -7,8 +7,10 @@ namespace
 class CRegistersField : public CWzdField
 {
 public:
-    CRegistersField(CWzdDlgBase& dialog, UINT label, UINT startEdit, SWzdFormat format, int offset, LONGLONG count)
-        : CWzdField(dialog), m_label(label), m_startEdit(startEdit), m_format(format), m_offset(offset), m_count(count)
+    CRegistersField(CWzdDlgBase& dialog, UINT label, UINT startEdit, SWzdFormat format, int offset, LONGLONG count,
+                    bool span)
+        : CWzdField(dialog), m_label(label), m_startEdit(startEdit), m_format(format), m_offset(offset), m_count(count),
+          m_span(span)
     {
     }
 
@@ -20,7 +22,7 @@ public:
         {
             const CString first = Name(start + m_offset);
             const CString last = Name(start + m_offset + m_count - 1);
-            if (m_count == 1)
+            if (!m_span)
                 text = first;
             else
                 text.Format(IDS_REGISTER_SPAN, static_cast<LPCSTR>(first), static_cast<LPCSTR>(last));
@@ -51,13 +53,21 @@ private:
     SWzdFormat m_format;
     int m_offset;
     LONGLONG m_count;
+    bool m_span; // its last register is named too
 };
 
 } // namespace
 
+void WDX_Register(CWzdExchange* wx, UINT label, UINT startEdit, SWzdFormat format, int offset)
+{
+    wx->Reserve(offset + 1);
+    CRegistersField field(wx->Dialog(), label, startEdit, format, offset, 1, false);
+    wx->Declare(field);
+}
+
 void WDX_Registers(CWzdExchange* wx, UINT label, UINT startEdit, SWzdFormat format, int offset, LONGLONG count)
 {
     wx->Reserve(offset + count);
-    CRegistersField field(wx->Dialog(), label, startEdit, format, offset, count);
+    CRegistersField field(wx->Dialog(), label, startEdit, format, offset, count, true);
     wx->Declare(field);
 }

@@ -99,9 +99,20 @@ void WDX_Channel(CWzdExchange* wx, UINT combo, int instruction, int operand = 1)
 /// `commentLabel` is the control whose text is its comment; without one it is "Control code".
 void WDX_ControlCode(CWzdExchange* wx, EDataType type, const CWnd* commentLabel = nullptr);
 
+/// What a list without a selection does to the control code: no field that is declared after it counts, or the others
+/// stay as they are.
+enum EUnselected
+{
+    kEndsTheCode,
+    kCountsAsZero
+};
+
 /// A field of the control code. `alsoRestores` pairs further codes with the positions of the list: those under which
 /// the other variant of a dialog stored the same choice. A code that stands in neither list selects the first item.
-void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, CWzdChoices choices, CWzdChoices alsoRestores = {});
+void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, CWzdChoices choices, CWzdChoices alsoRestores = {},
+              EUnselected unselected = kEndsTheCode);
+/// The same in a dialog of two variants: the list of the present one, which also restores what the other has stored.
+void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, bool second, CWzdChoices choices, CWzdChoices secondChoices);
 
 /// A decimal entry of the data table: at most `limit` characters, checked against `range`, which `rangeLabel` shows
 /// when it is not fixed. The label before the edit is its comment.
@@ -128,7 +139,10 @@ struct SWzdParameter
 };
 void WDX_Parameter(CWzdExchange* wx, const SWzdParameter& parameter);
 
-/// Registers of the table that the program fills: `label` names them once `startEdit` holds the table's start.
+/// A register of the table that the program fills: `label` names it once `startEdit` holds the table's start.
+void WDX_Register(CWzdExchange* wx, UINT label, UINT startEdit, SWzdFormat format, int offset);
+
+/// The same for a span of registers: the first and the last are named.
 void WDX_Registers(CWzdExchange* wx, UINT label, UINT startEdit, SWzdFormat format, int offset, LONGLONG count);
 
 /// The check box "I/O comment is registered automatically.".

@@ -41,11 +41,11 @@ void CEPointDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_AxisCode   (wx, IDC_CODE_OUTPUT_MODE,        EAxisCode::OutputMode);
     WDX_AxisCode   (wx, IDC_CODE_DIVIDED_MODE,       EAxisCode::DividedMode);
 
-    //              control                   entry               limit  accepted                message when outside
-    WDX_Number     (wx, IDC_EPOINT_STARTUP_SPEED, {2, kTwoRegisters},  7, {0, 4000000},          IDS_ERR_STARTUP_SPEED);
-    WDX_Number     (wx, IDC_EPOINT_TARGET_SPEED,  {4, kTwoRegisters},  7, {1, 4000000},          IDS_ERR_TARGET_SPEED);
-    WDX_Number     (wx, IDC_EPOINT_TIME,          {6, kTwoRegisters},  5, {0, 32767},            IDS_ERR_UNIT_ACCELERATION_TIME);
-    WDX_Number     (wx, IDC_EPOINT_POSITION,      {8, kTwoRegisters}, 11, kAnyDoubleWord, IDS_ERR_POSITION_COMMAND);
+    //              control                       entry              limit  accepted        message when outside
+    WDX_Number     (wx, IDC_EPOINT_STARTUP_SPEED, {2, kTwoRegisters}, 7,    {0, 4000000},   IDS_ERR_STARTUP_SPEED);
+    WDX_Number     (wx, IDC_EPOINT_TARGET_SPEED,  {4, kTwoRegisters}, 7,    {1, 4000000},   IDS_ERR_TARGET_SPEED);
+    WDX_Number     (wx, IDC_EPOINT_TIME,          {6, kTwoRegisters}, 5,    {0, 32767},     IDS_ERR_UNIT_ACCELERATION_TIME);
+    WDX_Number     (wx, IDC_EPOINT_POSITION,      {8, kTwoRegisters}, 11,   kAnyDoubleWord, IDS_ERR_POSITION_COMMAND);
 
     WDX_StartOutput(wx, kForms[m_form].startBit);
 }

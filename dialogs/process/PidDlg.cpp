@@ -48,15 +48,15 @@ void CPidDlg::DoFieldExchange(CWzdExchange* wx)
 
     WDX_Contact     (wx);
     WDX_TableStart  (wx, IDC_PID_START, IDC_PID_START_RANGE, 0, kStartFormat);
-    WDX_Registers   (wx, IDC_PID_PV, IDC_PID_START, kStartFormat, 2, 1);
-    WDX_Registers   (wx, IDC_PID_MV, IDC_PID_START, kStartFormat, 3, 1);
+    WDX_Register    (wx, IDC_PID_PV, IDC_PID_START, kStartFormat, 2);
+    WDX_Register    (wx, IDC_PID_MV, IDC_PID_START, kStartFormat, 3);
     WDX_Registers   (wx, IDC_PID_WORK_AREA, IDC_PID_START, kStartFormat, kWorkAreaOffset, m_workArea + 1LL);
 
     //               control                bits     items
     WDX_ControlCode (wx, kOneRegister, ControlBefore(IDC_PID_AUTO_TUNING, 2));
     WDX_Code        (wx, IDC_PID_DERIVATIVE,  {1, 1},  kDerivative);
-    WDX_Code        (wx, IDC_PID_OPERATION,   {0, 1},  kOperation);
-    WDX_Code        (wx, IDC_PID_AUTO_TUNING, {15, 1}, kAutoTuning);
+    WDX_Code        (wx, IDC_PID_OPERATION,   {0, 1},  kOperation, {}, kCountsAsZero);
+    WDX_Code        (wx, IDC_PID_AUTO_TUNING, {15, 1}, kAutoTuning, {}, kCountsAsZero);
 
     //                     used              value       offset  digits  limit  accepted    message when outside       first    used   automatic
     WDX_Parameter(wx, {IDC_PID_SP_USED,    IDC_PID_SP,     1,    {5, 0},   5,  {0, 10000}, IDS_ERR_SET_VALUE,          "",      true,  false});
@@ -80,7 +80,8 @@ DWORD CPidDlg::StoredControlCode() const
     return (code & 0x8001) | ((code & 0x000F) >= 2 ? 2 : 0);
 }
 
-bool CPidDlg::IsAutoTuning() const { return Selection(IDC_PID_AUTO_TUNING) == 1; }
+// Without a derivative type there is no control mode, and so no auto-tuning in it.
+bool CPidDlg::IsAutoTuning() const { return Selection(IDC_PID_DERIVATIVE) >= 0 && Selection(IDC_PID_AUTO_TUNING) == 1; }
 
 bool CPidDlg::Open()
 {

@@ -36,9 +36,6 @@ CSpd1Dlg::CSpd1Dlg(CFunWizard* wizard, bool homeReturn, CWnd* parent)
 // clang-format off
 void CSpd1Dlg::DoFieldExchange(CWzdExchange* wx)
 {
-    const CWzdChoices modes      = m_homeReturn ? CWzdChoices(kHomeModes) : CWzdChoices(kTrapezoidalModes);
-    const CWzdChoices otherModes = m_homeReturn ? CWzdChoices(kTrapezoidalModes) : CWzdChoices(kHomeModes);
-
     WDX_Contact    (wx);
     WDX_TableStart (wx, IDC_SPD1_START, IDC_SPD1_START_RANGE);
     WDX_Output     (wx, IDC_SPD1_OUTPUT, kOutputs);
@@ -46,7 +43,7 @@ void CSpd1Dlg::DoFieldExchange(CWzdExchange* wx)
     //              control              bits     items
     WDX_ControlCode(wx, kOneRegister);
     WDX_Code       (wx, IDC_SPD1_WIDTH,  {8, 4},  kPulseWidths);
-    WDX_Code       (wx, IDC_SPD1_MODE,   {0, 8},  modes, otherModes);
+    WDX_Code       (wx, IDC_SPD1_MODE,   {0, 8},  m_homeReturn, kTrapezoidalModes, kHomeModes);
 
     //              control              entry               limit  accepted             message when outside
     WDX_Number     (wx, IDC_SPD1_INITIAL, {1, kOneRegister},  4,    {40, 5000},          IDS_ERR_INITIAL_SPEED);

@@ -54,9 +54,6 @@ CSpdhDlg::CSpdhDlg(CFunWizard* wizard, bool homeReturn, CWnd* parent)
 // clang-format off
 void CSpdhDlg::DoFieldExchange(CWzdExchange* wx)
 {
-    const CWzdChoices modes      = m_homeReturn ? CWzdChoices(kHomeModes) : CWzdChoices(kTrapezoidalModes);
-    const CWzdChoices otherModes = m_homeReturn ? CWzdChoices(kTrapezoidalModes) : CWzdChoices(kHomeModes);
-
     WDX_Contact    (wx);
     WDX_TableStart (wx, IDC_SPDH_START, IDC_SPDH_START_RANGE);
     WDX_Channel    (wx, IDC_SPDH_CHANNEL, kInstruction);
@@ -66,21 +63,21 @@ void CSpdhDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_Code       (wx, IDC_SPDH_STEPS,     {16, 4}, kSteps);
     WDX_Code       (wx, IDC_SPDH_DUTY,      {12, 4}, kDuties);
     WDX_Code       (wx, IDC_SPDH_FREQUENCY, {8, 4},  kFrequencies);
-    WDX_Code       (wx, IDC_SPDH_MODE,      {0, 8},  modes, otherModes);
+    WDX_Code       (wx, IDC_SPDH_MODE,      {0, 8},  m_homeReturn, kTrapezoidalModes, kHomeModes);
 
-    //              control             entry                limit  accepted                    message when outside
-    WDX_Number     (wx, IDC_SPDH_INITIAL, {2, kTwoRegisters},  6,    SpeedRange(),              IDS_ERR_INITIAL_SPEED,
+    //              control             entry               limit  accepted                 message when outside
+    WDX_Number     (wx, IDC_SPDH_INITIAL, {2, kTwoRegisters}, 6,   SpeedRange(),            IDS_ERR_INITIAL_SPEED,
                     IDC_SPDH_INITIAL_RANGE);
-    WDX_Number     (wx, IDC_SPDH_MAXIMUM, {4, kTwoRegisters},  6,    SpeedRange(),              IDS_ERR_MAXIMUM_SPEED,
+    WDX_Number     (wx, IDC_SPDH_MAXIMUM, {4, kTwoRegisters}, 6,   SpeedRange(),            IDS_ERR_MAXIMUM_SPEED,
                     IDC_SPDH_MAXIMUM_RANGE);
-    WDX_Number     (wx, IDC_SPDH_TIME,    {6, kTwoRegisters},  5,    AccelerationTimeRange(),   IDS_ERR_ACCELERATION_TIME,
+    WDX_Number     (wx, IDC_SPDH_TIME,    {6, kTwoRegisters}, 5,   AccelerationTimeRange(), IDS_ERR_ACCELERATION_TIME,
                     IDC_SPDH_TIME_RANGE);
     if (m_homeReturn)
     {
-        WDX_Number (wx, IDC_SPDH_COUNTER_CLEAR, {8, kTwoRegisters}, 3, {0, 100},           IDS_ERR_COUNTER_CLEAR_SIGNAL);
+        WDX_Number (wx, IDC_SPDH_CLEAR,   {8, kTwoRegisters}, 3,   {0, 100},                IDS_ERR_COUNTER_CLEAR_SIGNAL);
         return;
     }
-    WDX_Number     (wx, IDC_SPDH_TARGET,  {8, kTwoRegisters}, 11,    kAnyDoubleWord,    IDS_ERR_TARGET_VALUE);
+    WDX_Number     (wx, IDC_SPDH_TARGET,  {8, kTwoRegisters}, 11,  kAnyDoubleWord,          IDS_ERR_TARGET_VALUE);
     WDX_Constant   (wx, {10, kTwoRegisters}, 0); // ends the table
 }
 // clang-format on

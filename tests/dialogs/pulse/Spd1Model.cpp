@@ -1,6 +1,5 @@
 #include "tests/dialogs/pulse/Spd1Model.h"
 
-#include <map>
 #include <optional>
 
 namespace
@@ -128,20 +127,4 @@ std::string BitNumberText(int number)
 {
     const std::string word = number < 16 ? "" : std::to_string(number / 16);
     return word + "0123456789ABCDEF"[number % 16];
-}
-
-std::string MessageText(unsigned id)
-{
-    static const std::map<unsigned, const char*> texts = {
-        {20001, "Please input a numerical value correctly."},
-        {20002, "Since a memory was insufficient, the inputted contents were not able to be decided."},
-        {20003, "The inputted data table starting address has become the outside of the range.\n"
-                "Please input the right value."},
-        {20004, "The inputted initial speed value has become the outside of the range.\nPlease input the right value."},
-        {20005, "The inputted maximum speed value has become the outside of the range.\nPlease input the right value."},
-        {20006, "The inputted acc/dec time value has become the outside of the range.\nPlease input the right value."},
-        {20007, "The inputted target value has become the outside of the range.\nPlease input the right value."},
-        {20020, "The inputted starting condition contact number has become the outside of the range. \n"
-                "Please input the right value."}};
-    return texts.at(id);
 }

@@ -61,6 +61,3 @@ SSpd1Range Spd1StartRange(ESpd1Variant variant, const SSpd1Limits& limits);
 
 /// A number of a bit device as it is written.
 std::string BitNumberText(int number);
-
-/// The English text of a message, by its number.
-std::string MessageText(unsigned id);

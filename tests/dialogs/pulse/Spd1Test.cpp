@@ -1,7 +1,5 @@
 #include "tests/dialogs/pulse/Spd1Test.h"
 
-#include <map>
-
 CSpd1Test::CSpd1Test()
 {
     SetUpController(m_wizard);
@@ -61,13 +59,6 @@ SSpd1Limits CSpd1Test::Limits(int device) const
     return {{low, high}, {lowRegister, highRegister}};
 }
 
-std::string DeviceName(int code)
-{
-    static const std::map<int, const char*> names = {{3, "X"}, {2, "Y"}, {1, "R"},  {20001, "Sp.R"}, {4, "T"},
-                                                     {5, "C"}, {0, "L"}, {18, "E"}, {17, "P"}};
-    return names.at(code);
-}
-
 void FillIn(CDialogRobot& dialog, const SSpd1Entries& entries)
 {
     dialog.Check(IDC_ONLY_DATA_TABLE, false); // so that the output can be chosen
@@ -83,36 +74,4 @@ void FillIn(CDialogRobot& dialog, const SSpd1Entries& entries)
     dialog.Type(IDC_SPD1_TIME, entries.time.c_str());
     if (dialog.Exists(IDC_SPD1_TARGET))
         dialog.Type(IDC_SPD1_TARGET, entries.target.c_str());
-}
-
-void ExpectRefusal(CDialogRobot& dialog, unsigned message, unsigned edit)
-{
-    const size_t boxes = dialog.MessageBoxes().size();
-    EXPECT_EQ(dialog.ClickAndAnswer(IDOK), CString(MessageText(message).c_str()));
-    ASSERT_EQ(dialog.MessageBoxes().size(), boxes + 1);
-    EXPECT_EQ(dialog.MessageBoxes().back().caption, CString("Ladder tool"));
-    EXPECT_EQ(dialog.MessageBoxes().back().icon, UINT{MB_ICONEXCLAMATION});
-    EXPECT_TRUE(dialog.IsOpen());
-    EXPECT_EQ(dialog.FocusId(), edit);
-    const std::pair<int, int> all = {0, dialog.Text(edit).GetLength()};
-    EXPECT_EQ(dialog.SelectedRange(edit), all) << "of edit " << edit;
-}
-
-CWnd* ControlBefore(CDialogRobot& dialog, UINT id) { return dialog.Dialog()->GetDlgItem(id)->GetWindow(GW_HWNDPREV); }
-
-std::string TextBefore(CDialogRobot& dialog, UINT id)
-{
-    CString text;
-    ControlBefore(dialog, id)->GetWindowText(text);
-    return static_cast<LPCSTR>(text);
-}
-
-std::string TextAfter(CDialogRobot& dialog, UINT id, int steps)
-{
-    CWnd* control = dialog.Dialog()->GetDlgItem(id);
-    while (steps-- > 0)
-        control = control->GetWindow(GW_HWNDNEXT);
-    CString text;
-    control->GetWindowText(text);
-    return static_cast<LPCSTR>(text);
 }

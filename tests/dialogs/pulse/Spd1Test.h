@@ -3,6 +3,7 @@
 
 #include "tests/dialogs/pulse/Spd1Model.h"
 #include "tests/support/DesktopTest.h"
+#include "tests/support/DialogChecks.h"
 #include "tests/support/PrintTo.h"
 
 #include "resources/resource.h"
@@ -14,7 +15,7 @@ class CSpd1Test : public CDesktopTest
 protected:
     using Scene = CDialogRobot::Scene;
 
-    static constexpr const char* kAppName = "Ladder tool";
+    static constexpr const char* kAppName = kTestAppName;
 
     /// The bit devices of the controller are X, Y, R, Sp.R, T, C and L.
     CSpd1Test();
@@ -39,16 +40,5 @@ private:
     std::optional<ESpd1Variant> m_confirmed; // last
 };
 
-/// The name under which a device stands in the list of contacts.
-std::string DeviceName(int code);
-
 /// Fills the dialog in, typing what stands in its edits.
 void FillIn(CDialogRobot& dialog, const SSpd1Entries& entries);
-/// Clicks OK, which must be refused: with this message, in a box under the application's name, pointing at the edit,
-/// the dialog open.
-void ExpectRefusal(CDialogRobot& dialog, unsigned message, unsigned edit);
-
-/// A control of the dialog with the id -1, by the control that it stands before or after.
-CWnd* ControlBefore(CDialogRobot& dialog, UINT id);
-std::string TextBefore(CDialogRobot& dialog, UINT id);
-std::string TextAfter(CDialogRobot& dialog, UINT id, int steps = 1);
