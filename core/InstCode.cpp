@@ -44,15 +44,15 @@ bool StartsOnEdge(int instruction)
 class CInstCodeGenerator
 {
 public:
-    explicit CInstCodeGenerator(CFunWizard& wizard) : m_wizard(wizard)
+    // The list is given the room for the whole sequence at once, and cut to what was generated in the end.
+    explicit CInstCodeGenerator(CFunWizard& wizard)
+        : m_wizard(wizard), m_list(wizard.m_instructions), m_count(m_list.GetSize())
     {
-        // One allocation instead of many: the list is told how far it is going to grow.
-        const INT_PTR rows = m_wizard.m_data.GetSize();
-        const INT_PTR expected = 3 * rows + 2 * (rows / kRowsPerRung + 1) + m_wizard.m_operands.GetSize() + 8;
-        m_wizard.m_instructions.SetSize(m_wizard.m_instructions.GetSize(), expected);
+        const int rows = m_wizard.GetDataInfoCount();
+        MakeRoom(3 * rows + 2 * (rows / kRowsPerRung + 1) + m_wizard.GetOprdInfoCount() + 8);
     }
 
-    ~CInstCodeGenerator() { m_wizard.m_instructions.SetSize(m_wizard.m_instructions.GetSize(), 0); }
+    ~CInstCodeGenerator() { m_list.SetSize(m_count); }
 
     CInstCodeGenerator(const CInstCodeGenerator&) = delete;
     CInstCodeGenerator& operator=(const CInstCodeGenerator&) = delete;
@@ -67,8 +67,17 @@ public:
 private:
     bool Emit(short kind, short code, int value, BYTE flag1 = 0, BYTE flag2 = 0)
     {
-        m_wizard.m_instructions.Add({kind, code, value, flag1, flag2});
+        if (m_count == m_room)
+            MakeRoom(m_count);
+        m_records[m_count++] = {kind, code, value, flag1, flag2};
         return true;
+    }
+
+    void MakeRoom(int records)
+    {
+        m_list.SetSize(m_count + records);
+        m_room = m_count + records;
+        m_records = m_list.GetData();
     }
 
     bool EmitDifferential() { return Emit(kInstDifferential, -1, 0); }
@@ -151,6 +160,10 @@ private:
     bool EmitPulseInstructionStart(bool noted);
 
     CFunWizard& m_wizard;
+    CArray<SFWzdInstCode, const SFWzdInstCode&>& m_list;
+    int m_count;    // records in the list that are generated,
+    int m_room = 0; // and that it has room for
+    SFWzdInstCode* m_records = nullptr;
 };
 
 // ---- Built-in instructions ------------------------------------------------------------------------------------------
