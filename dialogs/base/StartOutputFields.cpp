@@ -15,14 +15,12 @@ constexpr BYTE kStartChosenOutput = 2; // or an output word that the user choose
 constexpr int kNumberLimit = 4;
 constexpr int kWordLimit = 3;
 constexpr int kFirstWord = 2;
-constexpr int kContacts = 3; // with a start output: starting condition, second condition, output
 
 /// What a stored start output consists of: the last contact, and the condition before it.
 bool GetStoredContact(const CFunWizard& wizard, int fromEnd, short& code, int& number)
 {
     short kind;
-    const int count = wizard.GetContInfoCount();
-    return count >= kContacts && wizard.IsStartCondition() && wizard.GetContInfo(count - fromEnd, kind, code, number);
+    return wizard.IsStartCondition() && wizard.GetContInfo(wizard.GetContInfoCount() - fromEnd, kind, code, number);
 }
 
 class CSecondConditionField : public CWzdField

@@ -157,6 +157,7 @@ TEST_F(CPidControlsTest, ShowWhereTheTableMayStart)
                 return;
             }
             EXPECT_GE(dialog.Limit(2801), 30000) << "without a range there is no limit";
+            EXPECT_EQ(dialog.FocusId(), UINT{IDCANCEL});
             for (bool only : {true, false})
             {
                 ExpectOnlyFirstAndBack(dialog);
