@@ -57,8 +57,8 @@ public:
     {
         if (!m_dialog.IsChecked(IDC_START_OUTPUT_ENABLE) || m_dialog.Wizard().GetStartType() == kNoStartOutput)
             return true;
-        short code = results.FirstContact().Code();
-        int number = results.FirstContact().number;
+        short code = results.StartingCondition().Code();
+        int number = results.StartingCondition().number;
         if (!m_dialog.IsChecked(IDC_SAME_CONDITION) &&
             !m_dialog.ReadContact(IDC_SECOND_DEVICE, IDC_SECOND_NUMBER, IDS_ERR_CONTACT, code, number))
             return false;
@@ -118,7 +118,7 @@ public:
         const BYTE startType = m_dialog.Wizard().GetStartType();
         if (!m_dialog.IsChecked(IDC_START_OUTPUT_ENABLE) || startType == kNoStartOutput)
             return true;
-        int relay = CWzdDlgBase::UnitBufferAddress(results.m_slot, results.m_axis) + m_startBit;
+        int relay = CWzdDlgBase::UnitBufferAddress(results.Unit().slot, results.Unit().axis) + m_startBit;
         if (startType != kStartAxisRelay && !ReadRelay(relay))
             return false;
         results.AddContact(kInstStartOutput, kDeviceY, relay);

@@ -82,7 +82,7 @@ protected:
 
     void Store(CWzdResults& results, int slot) const override
     {
-        results.m_slot = slot;
+        results.Unit().slot = slot;
         results.SetOperand(kSlotOperand, kDeviceK, slot);
     }
 };
@@ -108,7 +108,7 @@ protected:
 
     void Store(CWzdResults& results, int axis) const override
     {
-        results.m_axis = axis;
+        results.Unit().axis = axis;
         results.SetOperand(kWordsOperand, kDeviceK, static_cast<int>(m_dialog.TableWords()));
         results.SetOperand(kAxisOperand, kDeviceH, kFirstAxisArea + (axis - 1) * kAxisAreaSize);
     }

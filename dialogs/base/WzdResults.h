@@ -8,6 +8,13 @@
 
 class CFunWizard;
 
+/// An axis of a positioning unit, from 1, and the slot of the unit.
+struct SWzdUnitAxis
+{
+    int slot = 0;
+    int axis = 0;
+};
+
 /// Collects what the fields contribute and then replaces the wizard's lists as a whole. Running out of memory while
 /// collecting throws; the wizard's lists are not touched by then.
 class CWzdResults
@@ -33,10 +40,9 @@ public:
     /// Sets the wizard's comment flag when the results are stored.
     void SetCommentRecord(bool on) { m_commentRecord = on; }
 
-    /// The unit's slot and axis, and the starting condition: a start output depends on them.
-    int m_slot = 0;
-    int m_axis = 0;
-    const SContact& FirstContact() const { return m_contacts.at(0); }
+    /// The positioning unit and the starting condition: a start output depends on them.
+    SWzdUnitAxis& Unit() { return m_unit; }
+    const SContact& StartingCondition() const { return m_contacts.at(0); }
 
     /// Replaces the contact, operand and data lists and, when the wizard asks for them, the comments. False when the
     /// wizard ran out of memory: the lists are then as far as they were written.
@@ -55,6 +61,7 @@ private:
     [[nodiscard]] bool StoreData(CFunWizard& wizard) const;
     [[nodiscard]] bool StoreComments(CFunWizard& wizard) const;
 
+    SWzdUnitAxis m_unit;
     std::vector<SContact> m_contacts;
     std::vector<SOperand> m_operands;
     std::vector<SData> m_data;
