@@ -15,56 +15,47 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Variants, CSpd1ControlsTest, testing::ValuesIn(kVariants),
                          [](const auto& variant) { return variant.param == kTrapezoidal ? "Trapezoidal" : "Home"; });
 
-struct SControl
-{
-    UINT id;
-    const char* className;
-    const char* text;
-};
-
-constexpr UINT kNoId = 0xFFFF;
-
-std::vector<SControl> ExpectedControls(ESpd1Variant variant)
+std::vector<SShownControl> ExpectedControls(ESpd1Variant variant)
 {
     const bool trapezoidal = variant == kTrapezoidal;
-    std::vector<SControl> controls = {
-        {kNoId, "Static",
+    std::vector<SShownControl> controls = {
+        {kSharedId, "Static",
          trapezoidal ? "SPD1 (168)\tPositioning control (Trapezoidal control)"
                      : "SPD1 (168)\tPositioning control (Home position return)"},
         {2061, "Button", "Only a data table is created."},
-        {kNoId, "Static", "Starting condition contact"},
+        {kSharedId, "Static", "Starting condition contact"},
         {2051, "ComboBox", "X"},
         {2052, "Edit", ""},
         {2053, "Static", "(0 - 109F)"},
-        {kNoId, "Static", "Data table starting address"},
+        {kSharedId, "Static", "Data table starting address"},
         {2101, "Edit", ""},
         {2102, "Static", trapezoidal ? "(0 - 32758)" : "(0 - 32761)"},
-        {kNoId, "Static", "Candidate for a pulse output"},
+        {kSharedId, "Static", "Candidate for a pulse output"},
         {2103, "ComboBox", "Y0"},
-        {kNoId, "Static", "Pulse width specification"},
+        {kSharedId, "Static", "Pulse width specification"},
         {2104, "ComboBox", "Duty 50%"},
-        {kNoId, "Static", "Operation mode and directional output theory"},
+        {kSharedId, "Static", "Operation mode and directional output theory"},
         {2105, "ComboBox",
          trapezoidal ? "Incremental  Does not use directional output" : "Homing mode1  No directional output"},
-        {kNoId, "Static", "Initial speed"},
+        {kSharedId, "Static", "Initial speed"},
         {2106, "Edit", ""},
-        {kNoId, "Static", "Hz"},
-        {kNoId, "Static", "(40 - 5000)"},
-        {kNoId, "Static", "Maximum speed"},
+        {kSharedId, "Static", "Hz"},
+        {kSharedId, "Static", "(40 - 5000)"},
+        {kSharedId, "Static", "Maximum speed"},
         {2107, "Edit", ""},
-        {kNoId, "Static", "Hz"},
+        {kSharedId, "Static", "Hz"},
         {2109, "Static", "(40 - 6000)"},
-        {kNoId, "Static", "Acceleration/deceleration time"},
+        {kSharedId, "Static", "Acceleration/deceleration time"},
         {2108, "Edit", ""},
-        {kNoId, "Static", "ms"},
-        {kNoId, "Static", "(30 - 32767)"},
+        {kSharedId, "Static", "ms"},
+        {kSharedId, "Static", "(30 - 32767)"},
     };
     if (trapezoidal)
     {
-        controls.insert(controls.end(), {{kNoId, "Static", "Target value"},
+        controls.insert(controls.end(), {{kSharedId, "Static", "Target value"},
                                          {2110, "Edit", ""},
-                                         {kNoId, "Static", "Pulse No."},
-                                         {kNoId, "Static", "(-8388608 - 8388607)"}});
+                                         {kSharedId, "Static", "Pulse No."},
+                                         {kSharedId, "Static", "(-8388608 - 8388607)"}});
     }
     controls.insert(controls.end(),
                     {{1, "Button", "&OK"}, {2, "Button", "&Back"}, {2099, "Button", "&Clear settings"}});
@@ -75,18 +66,7 @@ TEST_P(CSpd1ControlsTest, ComesUpWithoutAnEarlierRun)
 {
     Leave(GetParam(), [](CDialogRobot& dialog) {
         EXPECT_EQ(dialog.Caption(), CString("F168 (SPD1)"));
-        const std::vector<SControl> expected = ExpectedControls(GetParam());
-        const std::vector<SRobotControl> controls = dialog.Controls();
-        ASSERT_EQ(controls.size(), expected.size());
-        for (size_t i = 0; i < controls.size(); ++i)
-        {
-            SCOPED_TRACE(testing::Message() << "control " << i << ": " << expected[i].text);
-            EXPECT_EQ(controls[i].id, expected[i].id);
-            EXPECT_EQ(controls[i].className, CString(expected[i].className));
-            EXPECT_EQ(controls[i].text, CString(expected[i].text));
-            EXPECT_TRUE(controls[i].enabled);
-            EXPECT_TRUE(controls[i].visible);
-        }
+        ExpectControls(dialog, ExpectedControls(GetParam()));
         EXPECT_EQ(dialog.FocusId(), UINT{IDC_ONLY_DATA_TABLE});
         EXPECT_FALSE(dialog.Checked(IDC_ONLY_DATA_TABLE));
     });
@@ -240,20 +220,7 @@ std::vector<UINT> TabOrder(ESpd1Variant variant)
 
 TEST_P(CSpd1ControlsTest, TabGoesThroughTheFieldsInReadingOrder)
 {
-    Leave(GetParam(), [](CDialogRobot& dialog) {
-        const std::vector<UINT> order = TabOrder(GetParam());
-        for (size_t i = 0; i <= order.size(); ++i)
-        {
-            EXPECT_EQ(dialog.FocusId(), order[i % order.size()]) << "after " << i << " tabs";
-            dialog.PressKey(VK_TAB);
-        }
-        dialog.PressKey(VK_TAB, {VK_SHIFT});
-        for (size_t i = order.size(); i-- > 0;)
-        {
-            dialog.PressKey(VK_TAB, {VK_SHIFT});
-            EXPECT_EQ(dialog.FocusId(), order[i]) << "on the way back";
-        }
-    });
+    Leave(GetParam(), [](CDialogRobot& dialog) { ExpectTabOrder(dialog, TabOrder(GetParam())); });
 }
 
 TEST_P(CSpd1ControlsTest, TabPassesOverTheOutputOfATableAlone)
