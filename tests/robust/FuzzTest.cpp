@@ -4,12 +4,9 @@
 //     PEXLO_FUZZ=200000 pexlo_tests --gtest_filter=*Fuzz*     so many sequences, shared among the dialogs
 //     PEXLO_FUZZ_SEED=123                                     other ones
 #include "dialogs/base/PosSelectDlg.h"
-#include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
-#include "dialogs/process/PidDlg.h"
-#include "dialogs/pulse/Spd1Dlg.h"
-#include "dialogs/pulse/SpdhDlg.h"
 #include "resources/resource.h"
+#include "tests/dialogs/InstructionDialogs.h"
 #include "tests/robust/TextGenerator.h"
 #include "tests/support/Controller.h"
 #include "tests/support/DesktopTest.h"
@@ -17,6 +14,7 @@
 #include "tests/support/Results.h"
 
 #include <cstdlib>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <random>
@@ -47,20 +45,14 @@ using Dialog = std::unique_ptr<CDialog>;
 
 struct SFuzzed
 {
-    const char* name;
-    Dialog (*make)(CFunWizard* wizard, Random& random);
+    std::string name;
+    std::function<Dialog(CFunWizard* wizard, Random& random)> make;
     bool keepsLists = true; ///< an accepted input goes to the lists, from which it is restored
 };
 
-template <typename TDialog, auto... arguments>
-Dialog Make(CFunWizard* wizard, Random&)
-{
-    return std::make_unique<TDialog>(wizard, arguments..., nullptr);
-}
-
 Dialog MakePid(CFunWizard* wizard, Random& random)
 {
-    constexpr int kWorkAreas[] = {0, 1, 19, 30, 30000, 40000};
+    constexpr int kWorkAreas[] = {0, 1, 30, 30000, 40000};
     return std::make_unique<CPidDlg>(wizard, kWorkAreas[Below(random, std::size(kWorkAreas))], nullptr);
 }
 
@@ -71,19 +63,25 @@ Dialog MakeControlCode(CFunWizard* wizard, Random& random)
     return dialog;
 }
 
-const SFuzzed kFuzzed[] = {
-    {"Spd1Trapezoidal", Make<CSpd1Dlg, false>},
-    {"Spd1Home", Make<CSpd1Dlg, true>},
-    {"SpdhTrapezoidal", Make<CSpdhDlg, false>},
-    {"SpdhHome", Make<CSpdhDlg, true>},
-    {"EPoint", Make<CEPointDlg, kEPointForm>},
-    {"PPointStart", Make<CEPointDlg, kPPointStartForm>},
-    {"JogPositioning", Make<CEPointDlg, kJogPositioningForm>},
-    {"Pid", MakePid},
-    {"ControlCode", MakeControlCode, false},
-    {"Instructions", Make<CPosSelectDlg, kPulseInstructions>, false},
-    {"Operations", Make<CPosSelectDlg, kUnitOperations>, false},
-};
+template <EWizardMode mode>
+Dialog MakeSelection(CFunWizard* wizard, Random&)
+{
+    return std::make_unique<CPosSelectDlg>(wizard, mode, nullptr);
+}
+
+const std::vector<SFuzzed>& Fuzzed()
+{
+    static const std::vector<SFuzzed> all = [] {
+        std::vector<SFuzzed> rows = {{"PidWorkAreas", MakePid},
+                                     {"ControlCode", MakeControlCode, false},
+                                     {"Instructions", MakeSelection<kPulseInstructions>, false},
+                                     {"Operations", MakeSelection<kUnitOperations>, false}};
+        for (const SInstructionDialog& row : kInstructionDialogs)
+            rows.push_back({row.name, [make = row.make](CFunWizard* wizard, Random&) { return make(wizard); }});
+        return rows;
+    }();
+    return all;
+}
 
 std::ostream& operator<<(std::ostream& out, const SFuzzed& fuzzed) { return out << fuzzed.name; }
 
@@ -263,7 +261,7 @@ private:
 
 TEST_P(CFuzzTest, KeepsTheListsWhole)
 {
-    const unsigned sequences = Setting("PEXLO_FUZZ", kSequences) / std::size(kFuzzed);
+    const unsigned sequences = Setting("PEXLO_FUZZ", kSequences) / static_cast<unsigned>(Fuzzed().size());
     const unsigned firstSeed = Setting("PEXLO_FUZZ_SEED", 1);
     for (unsigned i = 0; i < sequences && !HasFailure(); ++i)
     {
@@ -278,7 +276,7 @@ TEST_P(CFuzzTest, KeepsTheListsWhole)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, CFuzzTest, testing::ValuesIn(kFuzzed),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Dialogs, CFuzzTest, testing::ValuesIn(Fuzzed()),
+                         [](const auto& info) { return info.param.name; });
 
 } // namespace

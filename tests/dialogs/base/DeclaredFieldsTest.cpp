@@ -1,9 +1,6 @@
-// What every dialog declares of its fields holds together. A new dialog is one more row of the table.
+// What every dialog declares of its fields holds together. A new dialog is one more row of the table of dialogs.
 #include "core/Values.h"
-#include "dialogs/posunit/EPointDlg.h"
-#include "dialogs/process/PidDlg.h"
-#include "dialogs/pulse/Spd1Dlg.h"
-#include "dialogs/pulse/SpdhDlg.h"
+#include "tests/dialogs/InstructionDialogs.h"
 #include "tests/dialogs/base/FieldRecorder.h"
 #include "tests/resources/LanguageLibrary.h"
 #include "tests/support/Controller.h"
@@ -12,47 +9,13 @@
 #include "tests/support/Results.h"
 
 #include <algorithm>
-#include <functional>
 #include <map>
-#include <memory>
 #include <set>
 
 namespace
 {
 
-enum ESources
-{
-    kEverywhere,
-    kLibrariesOnly ///< the module's own resources do not have the dialog
-};
-
-struct SDialogRow
-{
-    const char* name;
-    ESources sources;
-    std::unique_ptr<CWzdDlgBase> (*make)(CFunWizard* wizard);
-};
-
-template <typename TDialog, auto... arguments>
-std::unique_ptr<CWzdDlgBase> Make(CFunWizard* wizard)
-{
-    return std::make_unique<TDialog>(wizard, arguments..., nullptr);
-}
-
-const SDialogRow kDialogs[] = {
-    {"Spd1Trapezoidal", kEverywhere, Make<CSpd1Dlg, false>},
-    {"Spd1Home", kEverywhere, Make<CSpd1Dlg, true>},
-    {"SpdhTrapezoidal", kEverywhere, Make<CSpdhDlg, false>},
-    {"SpdhHome", kEverywhere, Make<CSpdhDlg, true>},
-    {"EPoint", kEverywhere, Make<CEPointDlg, kEPointForm>},
-    {"PPointStart", kEverywhere, Make<CEPointDlg, kPPointStartForm>},
-    {"JogPositioning", kEverywhere, Make<CEPointDlg, kJogPositioningForm>},
-    {"Pid", kEverywhere, Make<CPidDlg, 19>},
-};
-
-std::ostream& operator<<(std::ostream& out, const SDialogRow& row) { return out << row.name; }
-
-class CDeclaredFieldsTest : public CDesktopTest, public testing::WithParamInterface<SDialogRow>
+class CDeclaredFieldsTest : public CDesktopTest, public testing::WithParamInterface<SInstructionDialog>
 {
 protected:
     /// Opens the dialog in a language.
@@ -316,5 +279,5 @@ TEST_P(CDeclaredFieldsTest, RestoreWhatTheyStored)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, CDeclaredFieldsTest, testing::ValuesIn(kDialogs),
+INSTANTIATE_TEST_SUITE_P(Dialogs, CDeclaredFieldsTest, testing::ValuesIn(kInstructionDialogs),
                          [](const auto& info) { return std::string(info.param.name); });

@@ -1,0 +1,43 @@
+// Every instruction dialog in each of its forms, for what is tested of them all.
+#pragma once
+
+#include "dialogs/base/WzdDlgBase.h"
+#include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/process/PidDlg.h"
+#include "dialogs/pulse/Spd1Dlg.h"
+#include "dialogs/pulse/SpdhDlg.h"
+
+#include <memory>
+#include <ostream>
+
+enum ESources
+{
+    kEverywhere,
+    kLibrariesOnly ///< the module's own resources do not have the dialog
+};
+
+struct SInstructionDialog
+{
+    const char* name;
+    ESources sources;
+    std::unique_ptr<CWzdDlgBase> (*make)(CFunWizard* wizard);
+};
+
+inline std::ostream& operator<<(std::ostream& out, const SInstructionDialog& row) { return out << row.name; }
+
+template <typename TDialog, auto... arguments>
+std::unique_ptr<CWzdDlgBase> MakeDialog(CFunWizard* wizard)
+{
+    return std::make_unique<TDialog>(wizard, arguments..., nullptr);
+}
+
+inline constexpr SInstructionDialog kInstructionDialogs[] = {
+    {"Spd1Trapezoidal", kEverywhere, MakeDialog<CSpd1Dlg, false>},
+    {"Spd1Home", kEverywhere, MakeDialog<CSpd1Dlg, true>},
+    {"SpdhTrapezoidal", kEverywhere, MakeDialog<CSpdhDlg, false>},
+    {"SpdhHome", kEverywhere, MakeDialog<CSpdhDlg, true>},
+    {"EPoint", kEverywhere, MakeDialog<CEPointDlg, kEPointForm>},
+    {"PPointStart", kEverywhere, MakeDialog<CEPointDlg, kPPointStartForm>},
+    {"JogPositioning", kEverywhere, MakeDialog<CEPointDlg, kJogPositioningForm>},
+    {"Pid", kEverywhere, MakeDialog<CPidDlg, 19>},
+};
