@@ -1,7 +1,5 @@
 #include "dialogs/base/AxisCode.h"
 
-#include "dialogs/base/WzdExchange.h"
-
 namespace
 {
 
@@ -45,7 +43,7 @@ constexpr SAxisCodeField kFields[] = {
 
 const SAxisCodeField& AxisCodeField(EAxisCode field) { return kFields[static_cast<int>(field)]; }
 
-void WDX_AxisCode(CWzdExchange* wx, UINT combo, EAxisCode field)
+void WDX_AxisCode(CWzdExchange* wx, UINT combo, EAxisCode field, EUnselected unselected)
 {
-    WDX_Code(wx, combo, AxisCodeField(field).bits, AxisCodeField(field).items);
+    WDX_Code(wx, combo, AxisCodeField(field).bits, AxisCodeField(field).items, {}, unselected);
 }

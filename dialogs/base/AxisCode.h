@@ -1,9 +1,7 @@
 // The control code of a positioning unit's axis: one 32-bit word of bit fields, and the texts of their values.
 #pragma once
 
-#include "dialogs/base/WzdField.h"
-
-class CWzdExchange;
+#include "dialogs/base/WzdExchange.h"
 
 /// The fields of the word. Bits 11, 14, 15, 22, 23, 26 and 27 belong to none.
 enum class EAxisCode
@@ -39,4 +37,4 @@ struct SAxisCodeField
 const SAxisCodeField& AxisCodeField(EAxisCode field);
 
 /// A field of the control code as a row of a dialog's exchange.
-void WDX_AxisCode(CWzdExchange* wx, UINT combo, EAxisCode field);
+void WDX_AxisCode(CWzdExchange* wx, UINT combo, EAxisCode field, EUnselected unselected = kEndsTheCode);

@@ -29,17 +29,18 @@ void CEPointDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_UnitAxis   (wx, IDC_EPOINT_SLOT, IDC_EPOINT_AXIS);
     WDX_TableStart (wx, IDC_EPOINT_START, IDC_EPOINT_START_RANGE, kTableOperand);
 
+    //              control                          field                         without a selection
     WDX_ControlCode(wx, kTwoRegisters);
     WDX_AxisCode   (wx, IDC_EPOINT_POSITION_COMMAND, EAxisCode::PositionCommand);
     WDX_AxisCode   (wx, IDC_EPOINT_ACCELERATION,     EAxisCode::Acceleration);
     WDX_AxisCode   (wx, IDC_EPOINT_STARTUP,          EAxisCode::StartupSpeed);
-    WDX_AxisCode   (wx, IDC_CODE_HOME_LOGIC,         EAxisCode::HomeLogic);
-    WDX_AxisCode   (wx, IDC_CODE_NEAR_HOME_LOGIC,    EAxisCode::NearHomeLogic);
-    WDX_AxisCode   (wx, IDC_CODE_LIMIT_LOGIC,        EAxisCode::LimitLogic);
-    WDX_AxisCode   (wx, IDC_CODE_S_CURVE,            EAxisCode::AccelerationCurve);
-    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_ROTATION,    EAxisCode::OutputRotation);
-    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_MODE,        EAxisCode::OutputMode);
-    WDX_AxisCode   (wx, IDC_CODE_DIVIDED_MODE,       EAxisCode::DividedMode);
+    WDX_AxisCode   (wx, IDC_CODE_HOME_LOGIC,         EAxisCode::HomeLogic,         kCountsAsZero);
+    WDX_AxisCode   (wx, IDC_CODE_NEAR_HOME_LOGIC,    EAxisCode::NearHomeLogic,     kCountsAsZero);
+    WDX_AxisCode   (wx, IDC_CODE_LIMIT_LOGIC,        EAxisCode::LimitLogic,        kCountsAsZero);
+    WDX_AxisCode   (wx, IDC_CODE_S_CURVE,            EAxisCode::AccelerationCurve, kCountsAsZero);
+    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_ROTATION,    EAxisCode::OutputRotation,    kCountsAsZero);
+    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_MODE,        EAxisCode::OutputMode,        kCountsAsZero);
+    WDX_AxisCode   (wx, IDC_CODE_DIVIDED_MODE,       EAxisCode::DividedMode,       kCountsAsZero);
 
     //              control                       entry              limit  accepted        message when outside
     WDX_Number     (wx, IDC_EPOINT_STARTUP_SPEED, {2, kTwoRegisters}, 7,    {0, 4000000},   IDS_ERR_STARTUP_SPEED);

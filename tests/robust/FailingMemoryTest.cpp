@@ -3,6 +3,7 @@
 #include "tests/dialogs/pulse/Spd1Test.h"
 #include "tests/robust/Holdings.h"
 #include "tests/support/AllocationFaults.h"
+#include "tests/support/FailingOpening.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
@@ -57,19 +58,6 @@ bool IsOldOrPartlyNew(const std::vector<T>& list, const std::vector<T>& earlier,
     return list == earlier ||
            (list.size() <= complete.size() && std::equal(list.begin(), list.end(), complete.begin()));
 }
-
-/// Memory is short during a call, and plentiful before and after it.
-class CShortOfMemory
-{
-public:
-    explicit CShortOfMemory(CAllocationFaults& faults) : m_faults(faults) { m_faults.Resume(); }
-    ~CShortOfMemory() { m_faults.Pause(); }
-    CShortOfMemory(const CShortOfMemory&) = delete;
-    CShortOfMemory& operator=(const CShortOfMemory&) = delete;
-
-private:
-    CAllocationFaults& m_faults;
-};
 
 class CFailingMemoryTest : public CSpd1Test, public testing::WithParamInterface<SFault>
 {
@@ -167,31 +155,10 @@ TEST_P(CFailingMemoryTest, OpeningEndsWithBackOrSucceeds)
     int refused = 0;
     for (int successes = 0; failed && successes < kTooMany && !HasFailure(); ++successes)
     {
-        SCOPED_TRACE(testing::Message() << "after " << successes << " allocations");
-        bool opened = false;
-        CAllocationFaults faults(successes, GetParam().failures);
-        faults.Pause();
-        const auto open = [&] {
-            const CShortOfMemory shortOfMemory(faults);
-            return static_cast<int>(RunDialog());
-        };
-        const auto leave = [&](CDialogRobot& dialog) {
-            faults.Pause();
-            opened = true;
-            dialog.Click(IDCANCEL);
-            faults.Resume();
-        };
-        int result = 0;
-        EXPECT_NO_THROW(result = m_robot.Play(open, {leave}));
-        EXPECT_EQ(result, IDCANCEL);
-        EXPECT_TRUE(m_robot.MessageBoxes().empty());
-        if (!opened)
-        {
-            ++refused;
-            EXPECT_EQ(m_robot.Failures().size(), 1u) << "only the scene that was not played";
-            m_robot.ClearFailures();
-        }
-        failed = faults.Failures() > 0;
+        const SFailingOpening opening = OpenWithoutMemory(m_robot, successes, GetParam().failures,
+                                                          [this] { return static_cast<int>(RunDialog()); });
+        failed = opening.failed;
+        refused += !opening.opened;
         EXPECT_EQ(ReadResults(m_wizard), Expected());
     }
     EXPECT_GT(refused, 0);

@@ -1,5 +1,6 @@
 // Every dialog opened without memory: each allocation of the opening fails once, and then every one from there on. The
 // dialog ends with 2 before it is seen, or it comes up all the same; the lists stay as they are.
+#include "tests/support/FailingOpening.h"
 #include "tests/dialogs/InstructionDialogs.h"
 #include "tests/support/AllocationFaults.h"
 #include "tests/support/Controller.h"
@@ -50,35 +51,12 @@ protected:
     /// Opens the dialog while the allocations after `successes` fail, and leaves it. Whether one failed.
     bool OpenWithout(int successes, int failures)
     {
-        SCOPED_TRACE(testing::Message() << "after " << successes << " allocations");
-        bool opened = false;
-        CAllocationFaults faults(successes, failures);
-        faults.Pause();
-        const auto open = [&] {
-            const auto dialog = GetParam().make(&m_wizard);
-            faults.Resume();
-            const auto result = static_cast<int>(dialog->DoModal());
-            faults.Pause();
-            return result;
-        };
-        const auto leave = [&](CDialogRobot& dialog) {
-            faults.Pause();
-            opened = true;
-            dialog.Click(IDCANCEL);
-            faults.Resume();
-        };
-        int result = 0;
-        EXPECT_NO_THROW(result = m_robot.Play(open, {leave}));
-        EXPECT_EQ(result, IDCANCEL);
-        EXPECT_TRUE(m_robot.MessageBoxes().empty());
-        if (!opened)
-        {
-            ++m_refused;
-            EXPECT_EQ(m_robot.Failures().size(), 1u) << "only the scene that was not played";
-            m_robot.ClearFailures();
-        }
+        const auto dialog = GetParam().make(&m_wizard);
+        const SFailingOpening opening =
+            OpenWithoutMemory(m_robot, successes, failures, [&] { return static_cast<int>(dialog->DoModal()); });
+        m_refused += !opening.opened;
         EXPECT_EQ(ReadResults(m_wizard), EarlierResults());
-        return faults.Failures() > 0;
+        return opening.failed;
     }
 
     CFunWizard m_wizard;

@@ -24,3 +24,16 @@ public:
     int Requests() const;
     int Failures() const;
 };
+
+/// Memory is short during a call, and plentiful before and after it.
+class CShortOfMemory
+{
+public:
+    explicit CShortOfMemory(CAllocationFaults& faults) : m_faults(faults) { m_faults.Resume(); }
+    ~CShortOfMemory() { m_faults.Pause(); }
+    CShortOfMemory(const CShortOfMemory&) = delete;
+    CShortOfMemory& operator=(const CShortOfMemory&) = delete;
+
+private:
+    CAllocationFaults& m_faults;
+};

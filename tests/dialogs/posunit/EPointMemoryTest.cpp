@@ -1,6 +1,7 @@
 // E point control without memory: every allocation of OK and of opening fails once, and then every one from there on.
 #include "tests/dialogs/posunit/EPointTest.h"
 #include "tests/support/AllocationFaults.h"
+#include "tests/support/FailingOpening.h"
 
 namespace
 {
@@ -60,30 +61,11 @@ TEST_P(CEPointMemoryTest, OpeningCancels)
     int successes = 0;
     for (; failed && successes < kTooMany && !HasFailure(); successes += kStep)
     {
-        SCOPED_TRACE(testing::Message() << "after " << successes << " allocations");
-        CAllocationFaults faults(successes, Failures());
-        faults.Pause();
-        bool opened = false;
-        const auto open = [&] {
-            faults.Resume();
-            const auto answer = static_cast<int>(CEPointDlg(&m_wizard, kEPointForm, nullptr).DoModal());
-            faults.Pause();
-            return answer;
-        };
-        const auto leave = [&](CDialogRobot& dialog) {
-            faults.Pause();
-            opened = true;
-            dialog.Click(IDCANCEL);
-            faults.Resume();
-        };
-        int result = 0;
-        EXPECT_NO_THROW(result = m_robot.Play(open, {leave}));
-        EXPECT_EQ(result, 2);
-        EXPECT_TRUE(m_robot.MessageBoxes().empty());
-        EXPECT_EQ(m_robot.Failures().size(), opened ? 0u : 1u) << "only the scene that was not played";
-        m_robot.ClearFailures();
-        failed = faults.Failures() > 0;
-        EXPECT_TRUE(opened || failed);
+        const SFailingOpening opening = OpenWithoutMemory(m_robot, successes, Failures(), [this] {
+            return static_cast<int>(CEPointDlg(&m_wizard, kEPointForm, nullptr).DoModal());
+        });
+        failed = opening.failed;
+        EXPECT_TRUE(opening.opened || failed);
     }
     EXPECT_GT(successes, 10) << "opening allocates more than that";
 }

@@ -144,6 +144,27 @@ TEST_F(CEPointTest, EndsTheWordAtAMissingChoice)
     }
 }
 
+// Those that the operations share only leave out their own bits.
+TEST_F(CEPointTest, LeavesOutTheBitsOfAMissingSharedChoice)
+{
+    constexpr int kAllBits = 0x730030BB;
+    struct
+    {
+        UINT combo;
+        int bits;
+    } const rows[] = {{3051, 0x10},      {3052, 0x20},      {3054, 0x80},      {3061, 0x3000},
+                      {3065, 0x1000000}, {3066, 0x2000000}, {3071, 0x70000000}};
+    const SEPointEntries all = {.items = {1, 1, 1, 1, 1, 1, 3, 1, 1, 7}};
+    for (const auto& row : rows)
+    {
+        Confirm(kEPointForm, [&](CDialogRobot& dialog) {
+            FillIn(dialog, all);
+            SelectByProgram(dialog, row.combo, -1);
+        });
+        EXPECT_EQ(ReadResults(m_wizard).data.at(0).value, kAllBits & ~row.bits) << row.combo;
+    }
+}
+
 // ---- Comments -------------------------------------------------------------------------------------------------------
 
 TEST_F(CEPointTest, KeepsTheOldCommentsWhenNoneAreWanted)
