@@ -1,6 +1,7 @@
 # How everything is compiled and linked.
 
-add_compile_options(-Wall -Wextra -Wno-missing-field-initializers)
+add_compile_options(-Wall -Wextra -Wno-missing-field-initializers -Wshadow -Wconversion -Wformat=2
+                    $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor> $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual>)
 
 find_program(CCACHE ccache)
 if(CCACHE)
@@ -13,6 +14,9 @@ if(PEXLO_SANITIZE)
     # A control is worked with as MFC programs do: the CWnd that GetDlgItem returns is cast to the class of the control.
     add_compile_options(-fno-sanitize=vptr)
     add_link_options(-fsanitize=address,undefined)
+    # Assertions are checked here, our own and those of the standard library.
+    add_compile_options(-UNDEBUG)
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
 
 if(WIN32)
