@@ -1,6 +1,6 @@
 #include "dialogs/posunit/EPointDlg.h"
 
-#include "dialogs/base/AxisCode.h"
+#include "dialogs/posunit/AxisCode.h"
 
 namespace
 {

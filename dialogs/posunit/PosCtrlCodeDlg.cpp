@@ -2,7 +2,7 @@
 
 #include "core/Memory.h"
 #include "core/Values.h"
-#include "dialogs/base/AxisCode.h"
+#include "dialogs/posunit/AxisCode.h"
 #include "dialogs/posunit/CtrlCodeHexDlg.h"
 #include "resources/resource.h"
 

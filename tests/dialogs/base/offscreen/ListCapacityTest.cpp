@@ -1,5 +1,5 @@
 // Combos that refuse an item because they are full.
-#include "dialogs/base/AxisCode.h"
+#include "dialogs/posunit/AxisCode.h"
 #include "resources/resource.h"
 #include "tests/dialogs/base/ProbeDlg.h"
 

@@ -2,7 +2,7 @@
 #include "core/Devices.h"
 #include "core/FunWizard.h"
 #include "core/Values.h"
-#include "dialogs/base/StartOutputGroup.h"
+#include "dialogs/posunit/StartOutputGroup.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/base/WzdResults.h"
 

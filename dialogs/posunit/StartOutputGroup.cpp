@@ -1,4 +1,4 @@
-#include "dialogs/base/StartOutputGroup.h"
+#include "dialogs/posunit/StartOutputGroup.h"
 
 #include "resources/resource.h"
 

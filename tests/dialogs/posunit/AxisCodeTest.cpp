@@ -1,5 +1,5 @@
 // The control code of an axis: its combos and the reading of its fields from the stored word.
-#include "dialogs/base/AxisCode.h"
+#include "dialogs/posunit/AxisCode.h"
 #include "resources/resource.h"
 #include "tests/dialogs/base/ProbeDlg.h"
 

@@ -1,4 +1,4 @@
-#include "dialogs/base/AxisCode.h"
+#include "dialogs/posunit/AxisCode.h"
 
 namespace
 {

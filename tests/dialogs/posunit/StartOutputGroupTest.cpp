@@ -1,5 +1,5 @@
 // The group of the start output: which controls are enabled, and what a dialog looks like without it.
-#include "dialogs/base/StartOutputGroup.h"
+#include "dialogs/posunit/StartOutputGroup.h"
 
 #include "core/ResourceScope.h"
 #include "resources/resource.h"
