@@ -149,7 +149,10 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     if (message == WM_COMMAND)
-        return *result = OnCommand(wParam, lParam);
+    {
+        *result = OnCommand(wParam, lParam);
+        return *result != 0;
+    }
     if (message == WM_NCDESTROY)
     {
         OnNcDestroy();

@@ -7,7 +7,7 @@
 inline void SetUpController(CFunWizard& wizard)
 {
     constexpr short kRangeKind = -1;
-    for (short device : {0, 1, 2, 3, 4, 5, 17, 18, 20001})
+    for (const short device : std::initializer_list<short>{0, 1, 2, 3, 4, 5, 17, 18, 20001})
         wizard.SetDevRange(kRangeKind, device, 0, 15999);
     constexpr short kRegisters = 9;
     wizard.SetDevRange(kRangeKind, kRegisters, 0, 32764);

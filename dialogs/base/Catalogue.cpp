@@ -74,7 +74,7 @@ struct SForms
     UINT second;
 
     constexpr SForms(UINT both = 0) : first(both), second(both) {}
-    constexpr SForms(UINT first, UINT second) : first(first), second(second) {}
+    constexpr SForms(UINT normal, UINT other) : first(normal), second(other) {}
 };
 
 struct SFamilyRow

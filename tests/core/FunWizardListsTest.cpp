@@ -67,15 +67,15 @@ TEST_F(ListsTest, DataReadsBack)
     int count = 0;
     for (const short code : kShorts)
         for (const int number : kInts)
-            for (const unsigned char byte : kBytes)
+            for (const unsigned char parameter : kBytes)
                 for (const int value : kInts)
                 {
-                    const auto format = static_cast<unsigned char>(byte + 1);
-                    ASSERT_EQ(m_wizard.AddDataInfo(code, number, byte, format, value), 1);
+                    const auto format = static_cast<unsigned char>(parameter + 1);
+                    ASSERT_EQ(m_wizard.AddDataInfo(code, number, parameter, format, value), 1);
                     SFunSetData data;
                     ASSERT_EQ(m_wizard.GetDataInfo(count, &data), 1);
                     ASSERT_EQ(m_wizard.GetDataInfoCount(), ++count);
-                    const SFunSetData expected = {code, number, byte, format, value};
+                    const SFunSetData expected = {code, number, parameter, format, value};
                     EXPECT_EQ(std::memcmp(&data, &expected, sizeof data), 0);
                 }
     m_wizard.RemoveAllDataInfo();

@@ -130,7 +130,7 @@ TEST(ParsePackedReal, ReadsEveryForm)
         {"5\t", 0, 0},
         {"\xB2", 0, 0},
     };
-    for (const BYTE realMode : {0, 1})
+    for (const BYTE realMode : std::initializer_list<BYTE>{0, 1})
         for (const SRealCase& c : cases)
         {
             DWORD packed = 0xABCDEF01;

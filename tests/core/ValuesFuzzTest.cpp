@@ -110,8 +110,8 @@ TEST_F(ValuesFuzz, PackedReal)
 {
     int accepted = 0;
     ForEveryText(14, [&accepted](const std::string& text) {
-        for (const BYTE realMode : {0, 1})
-            for (const signed char sign : {-1, 0, 1})
+        for (const BYTE realMode : std::initializer_list<BYTE>{0, 1})
+            for (const signed char sign : std::initializer_list<signed char>{-1, 0, 1})
             {
                 const auto expected = PackedReal(text, realMode == 1, sign);
                 DWORD packed = 0;
@@ -130,7 +130,7 @@ TEST_F(ValuesFuzz, DeviceNumbersReadBackWhatTheyAccept)
 {
     int accepted = 0;
     ForEveryText(15, [&accepted](const std::string& text) {
-        for (const short code : {3, 9, 11, 12, 20, 20001, -1})
+        for (const short code : std::initializer_list<short>{3, 9, 11, 12, 20, 20001, -1})
         {
             int number = 4711;
             if (!ParseDeviceNumber(code, text.c_str(), number))

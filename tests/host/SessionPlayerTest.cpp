@@ -70,8 +70,8 @@ TEST_P(RecordedSessionTest, GivesTheReportThatIsRecordedWithIt)
     EXPECT_EQ(report.text, ReadFile(path + ".txt"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Sessions, RecordedSessionTest, testing::ValuesIn(RecordedSessions()), [](const auto& info) {
-    std::string name = info.param;
+INSTANTIATE_TEST_SUITE_P(Sessions, RecordedSessionTest, testing::ValuesIn(RecordedSessions()), [](const auto& test) {
+    std::string name = test.param;
     std::replace(name.begin(), name.end(), '-', '_');
     return name;
 });

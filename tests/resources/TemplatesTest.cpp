@@ -163,8 +163,11 @@ TEST_P(TemplatesTest, KeepsItsControlsInsideAndApart)
             EXPECT_LE(control.rect.right, picture.width) << Name(control);
             EXPECT_LE(control.rect.bottom, picture.height) << Name(control);
             for (const SPicturedControl& other : picture.controls)
-                if (&other != &control && !IsFrameOf(control, other) && !IsFrameOf(other, control))
-                    EXPECT_FALSE(Overlap(control.rect, other.rect)) << Name(control) << " and " << Name(other);
+            {
+                if (&other == &control || IsFrameOf(control, other) || IsFrameOf(other, control))
+                    continue;
+                EXPECT_FALSE(Overlap(control.rect, other.rect)) << Name(control) << " and " << Name(other);
+            }
         }
     });
 }
@@ -196,7 +199,9 @@ TEST_P(TemplatesTest, ShowsEveryTextWhole)
         {
             EXPECT_LE(control.textWidth, RoomForText(control)) << Name(control);
             if (!control.text.empty())
+            {
                 EXPECT_LE(picture.lineHeight, Height(control.rect)) << Name(control);
+            }
         }
     });
 }
@@ -246,7 +251,7 @@ TEST_P(TemplatesTest, GivesEveryAccessKeyOnce)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, TemplatesTest, testing::ValuesIn(ExpectedTemplates()),
-                         [](const auto& info) { return std::to_string(info.param.id); });
+                         [](const auto& test) { return std::to_string(test.param.id); });
 
 // A template without a row in the tables above would go untested.
 TEST(Templates, AreAllTested)

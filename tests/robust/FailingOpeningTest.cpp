@@ -64,7 +64,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, CFailingOpeningTest, testing::ValuesIn(kInstructionDialogs),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& test) { return std::string(test.param.name); });
 
 TEST_P(CFailingOpeningTest, EndsWithBackOrSucceeds)
 {

@@ -277,6 +277,6 @@ TEST_P(CFuzzTest, KeepsTheListsWhole)
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, CFuzzTest, testing::ValuesIn(Fuzzed()),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& test) { return test.param.name; });
 
 } // namespace

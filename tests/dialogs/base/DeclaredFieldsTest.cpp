@@ -280,4 +280,4 @@ TEST_P(CDeclaredFieldsTest, RestoreWhatTheyStored)
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, CDeclaredFieldsTest, testing::ValuesIn(kInstructionDialogs),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& test) { return std::string(test.param.name); });

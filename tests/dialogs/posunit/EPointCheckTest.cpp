@@ -372,7 +372,7 @@ TEST_F(CEPointCheckTest, ChecksOnlyWhatTheStartOutputNeeds)
     for (const int source : kSweptSources)
     {
         Use(source);
-        for (const BYTE startType : {0, 1, 2})
+        for (const BYTE startType : std::initializer_list<BYTE>{0, 1, 2})
             for (const bool wanted : {false, true})
                 for (const bool same : {false, true})
                     for (const UINT bad : {2057, 2059})

@@ -301,7 +301,7 @@ TEST_F(CEPointTest, OpensFromTheSelection)
     {
         Use(source);
         for (const EEPointForm form : kForms)
-            for (const BYTE axisFlag : {0, 1})
+            for (const BYTE axisFlag : std::initializer_list<BYTE>{0, 1})
             {
                 SCOPED_TRACE(testing::Message() << form << ", " << int{axisFlag});
                 ConfirmFromSelection(

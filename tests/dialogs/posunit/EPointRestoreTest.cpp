@@ -196,7 +196,7 @@ const SRestoredGroup kRestoredGroups[] = {
 TEST_F(CEPointTest, RestoresTheStartOutput)
 {
     Use(kEnglish);
-    for (const BYTE startType : {0, 1, 2})
+    for (const BYTE startType : std::initializer_list<BYTE>{0, 1, 2})
     {
         m_wizard.SetStartType(startType);
         for (const EEPointForm form : kSweptForms)
@@ -222,7 +222,7 @@ TEST_F(CEPointTest, StoresTheSameWhenConfirmedAgain)
 {
     Use(kEnglish);
     for (const EEPointForm form : kSweptForms)
-        for (const BYTE startType : {0, 1, 2})
+        for (const BYTE startType : std::initializer_list<BYTE>{0, 1, 2})
             for (const bool same : {false, true})
             {
                 m_wizard.SetStartType(startType);

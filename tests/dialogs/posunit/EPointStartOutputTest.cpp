@@ -178,7 +178,7 @@ TEST_F(CEPointLayoutTest, IsTheSameForEveryStartTypeInATemplateWithoutTheGroup)
     ExpectTidy(full);
     for (const UINT id : {2054, 2055, 2056, 2057, 2058, 2059, 2060, 2061, 2062})
         EXPECT_EQ(IndexOf(full, id), full.controls.size()) << "control " << id;
-    for (const BYTE startType : {0, 1})
+    for (const BYTE startType : std::initializer_list<BYTE>{0, 1})
     {
         const SLayout layout = LayoutOf(startType);
         ASSERT_EQ(layout.controls.size(), full.controls.size());
@@ -306,7 +306,7 @@ TEST_F(CEPointStartOutputTest, ShowsTheWordsOfTheOutputs)
     } const rows[] = {{0, kLastInput, "(2 - 109)"}, {0, Bit(50, 7), "(2 - 50)"}, {0, Bit(50, 0), "(2 - 50)"},
                       {0, Bit(49, 15), "(2 - 49)"}, {80, Bit(9, 0), "(2 - 9)"},  {0, Bit(2, 0), "(2 - 2)"},
                       {5, 4, "Impossible settings"}};
-    for (const BYTE startType : {0, 1, 2})
+    for (const BYTE startType : std::initializer_list<BYTE>{0, 1, 2})
         for (const auto& row : rows)
         {
             m_wizard.SetStartType(startType);
@@ -332,7 +332,7 @@ TEST_F(CEPointStartOutputTest, BeginsAtTheThirdWord)
 TEST_F(CEPointStartOutputTest, IsNeverThereInATemplateWithoutTheGroup)
 {
     Use(kModule);
-    for (const BYTE startType : {0, 1, 2})
+    for (const BYTE startType : std::initializer_list<BYTE>{0, 1, 2})
         for (const EEPointForm form : kForms)
         {
             m_wizard.SetStartType(startType);

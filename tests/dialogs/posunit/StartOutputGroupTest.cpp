@@ -119,7 +119,7 @@ TEST_F(CStartOutputGroupTest, EnablesWhatTheCheckBoxesLeaveToFillIn)
 TEST_F(CStartOutputGroupTest, StaysAsItIsWithStartType2)
 {
     for (const EForm form : kForms)
-        for (const BYTE startType : {2, 3, 255})
+        for (const BYTE startType : std::initializer_list<BYTE>{2, 3, 255})
             InForm(form, [&](CDialog& dialog, CDialogRobot& robot) {
                 const Places before = PlacesOf(robot);
                 const CRect client = ClientOf(robot);

@@ -40,7 +40,7 @@ TEST_F(CPidRestoreTest, ReadsTheControlModeOfAnyWord)
 
 TEST_F(CPidRestoreTest, ReadsNoControlModeInAnotherDevice)
 {
-    for (short device : {10, 11, 0, 20009, -1})
+    for (const short device : std::initializer_list<short>{10, 11, 0, 20009, -1})
     {
         WriteResults(m_wizard, {.data = {{device, 100, 0, 1, 0x8003}}});
         Leave([](CDialogRobot& dialog) {

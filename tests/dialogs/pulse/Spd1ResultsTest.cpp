@@ -58,8 +58,8 @@ class CSpd1CodesTest : public CSpd1ResultsTest, public testing::WithParamInterfa
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Codes, CSpd1CodesTest, testing::ValuesIn(kCodes), [](const auto& info) {
-    return std::to_string(info.param.variant) + "_" + std::to_string(info.param.code);
+INSTANTIATE_TEST_SUITE_P(Codes, CSpd1CodesTest, testing::ValuesIn(kCodes), [](const auto& test) {
+    return std::to_string(test.param.variant) + "_" + std::to_string(test.param.code);
 });
 
 TEST_P(CSpd1CodesTest, AreStoredWithTheRestOfTheTable)

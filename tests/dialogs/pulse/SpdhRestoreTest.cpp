@@ -159,7 +159,7 @@ TEST_P(CSpdhStoredCodeTest, IsRestoredWhateverElseItHolds)
 
 TEST_P(CSpdhStoredCodeTest, CountsForNothingInAnotherDevice)
 {
-    for (short device : {10, 11, 0, 20009, -1})
+    for (const short device : std::initializer_list<short>{10, 11, 0, 20009, -1})
     {
         WriteResults(m_wizard, {.data = {{device, 100, 1, 1, 0x11213}}});
         Leave(GetParam(), [](CDialogRobot& dialog) {

@@ -111,7 +111,7 @@ TEST_P(CDirectWizardsTest, DeletesTheFontAndLeavesTheRestAlone)
 }
 
 INSTANTIATE_TEST_SUITE_P(Wizards, CDirectWizardsTest, testing::ValuesIn(kWizards),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& test) { return std::string(test.param.name); });
 
 // ---- The control code -----------------------------------------------------------------------------------------------
 
