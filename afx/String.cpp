@@ -236,16 +236,6 @@ void CString::Format(LPCSTR format, ...)
     va_end(arguments);
 }
 
-void CString::Format(UINT formatId, ...)
-{
-    CString format;
-    format.LoadString(formatId);
-    va_list arguments;
-    va_start(arguments, formatId);
-    FormatV(format, arguments);
-    va_end(arguments);
-}
-
 void CString::FormatV(LPCSTR format, va_list arguments)
 {
     const CString translated = TranslateFormat(format);

@@ -72,8 +72,6 @@ public:
     /// system: %d and %ld print 32 bits, %I64d and %lld 64.
     void Format(LPCSTR format, ...);
     void FormatV(LPCSTR format, va_list arguments);
-    /// The same with a string of the current resource library as format. A missing one gives an empty text.
-    void Format(UINT formatId, ...);
 
     /// Loads a string of any length from the current resource library. FALSE, and an empty text, when it is not there.
     BOOL LoadString(UINT id);

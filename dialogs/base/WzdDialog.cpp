@@ -2,6 +2,7 @@
 
 #include "afx/HtmlHelp.h"
 #include "core/AppName.h"
+#include "core/FillText.h"
 #include "core/FunWizard.h"
 #include "core/Memory.h"
 #include "core/ResourceScope.h"
@@ -138,7 +139,7 @@ bool CWzdDialog::FillCombo(UINT combo, CWzdChoices choices, int selected)
         if (choice.argument == SWzdChoice::kPlainText)
             text.LoadString(choice.text);
         else
-            text.Format(choice.text, choice.argument);
+            text = FillText(choice.text, {choice.argument});
         const int item = text.IsEmpty() ? CB_ERR : list->AddString(text);
         if (item < 0 || list->SetItemData(item, choice.code) < 0)
             return false;

@@ -2,6 +2,7 @@
 
 #include "afx/Clipboard.h"
 #include "core/Devices.h"
+#include "core/FillText.h"
 #include "core/FunWizard.h"
 #include "core/Values.h"
 #include "dialogs/base/WzdResults.h"
@@ -193,10 +194,7 @@ bool CWzdDlgBase::ShowContactRange(UINT combo, UINT label)
     int low, high;
     if (!GetSelectedDeviceRange(combo, kind, code, low, high))
         return false;
-    CString text;
-    text.Format(IDS_RANGE_TEXT, static_cast<LPCSTR>(FormatDeviceNumber(code, low)),
-                static_cast<LPCSTR>(FormatDeviceNumber(code, high)));
-    SetItemText(label, text);
+    SetItemText(label, FillText(IDS_RANGE_TEXT, {FormatDeviceNumber(code, low), FormatDeviceNumber(code, high)}));
     return true;
 }
 
@@ -234,11 +232,8 @@ bool CWzdDlgBase::GetWordDeviceRange(short code, int& low, int& high) const
 
 void CWzdDlgBase::ShowRange(CWnd* label, SWzdRange range)
 {
-    if (label == nullptr)
-        return;
-    CString text;
-    text.Format(IDS_RANGE_DECIMAL, static_cast<int>(range.low), static_cast<int>(range.high));
-    label->SetWindowText(text);
+    if (label != nullptr)
+        label->SetWindowText(FillText(IDS_RANGE_DECIMAL, {range.low, range.high}));
 }
 
 bool CWzdDlgBase::ShowDataTableRange(UINT labelId)

@@ -1,4 +1,5 @@
 // Registers of the data table that the program fills: the dialog only tells where they are.
+#include "core/FillText.h"
 #include "dialogs/base/WzdDlgBase.h"
 
 namespace
@@ -25,7 +26,7 @@ public:
             if (!m_span)
                 text = first;
             else
-                text.Format(IDS_REGISTER_SPAN, static_cast<LPCSTR>(first), static_cast<LPCSTR>(last));
+                text = FillText(IDS_REGISTER_SPAN, {first, last});
             text = " " + text;
         }
         m_dialog.SetItemText(m_label, text);
@@ -41,12 +42,7 @@ public:
     }
 
 private:
-    static CString Name(LONGLONG number)
-    {
-        CString name;
-        name.Format(IDS_DT_ADDRESS, static_cast<int>(number));
-        return name;
-    }
+    static CString Name(LONGLONG number) { return FillText(IDS_DT_ADDRESS, {static_cast<int>(number)}); }
 
     UINT m_label;
     UINT m_startEdit;

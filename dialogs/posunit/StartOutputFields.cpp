@@ -1,5 +1,6 @@
 // The start output of an axis and the second condition that switches it on. Templates without the group leave them out.
 #include "core/Devices.h"
+#include "core/FillText.h"
 #include "core/FunWizard.h"
 #include "core/Values.h"
 #include "dialogs/posunit/StartOutputGroup.h"
@@ -94,12 +95,8 @@ public:
         m_dialog.LimitText(IDC_START_OUTPUT_WORD, kWordLimit);
         int low, high;
         if (m_dialog.GetWordDeviceRange(kDeviceY, low, high))
-        {
-            CString text;
-            text.Format(IDS_RANGE_TEXT, static_cast<LPCSTR>(FormatDecimal64(kFirstWord)),
-                        static_cast<LPCSTR>(FormatDecimal64(high >> 4)));
-            m_dialog.SetItemText(IDC_START_OUTPUT_RANGE, text);
-        }
+            m_dialog.SetItemText(IDC_START_OUTPUT_RANGE,
+                                 FillText(IDS_RANGE_TEXT, {FormatDecimal64(kFirstWord), FormatDecimal64(high >> 4)}));
         m_dialog.CheckDlgButton(IDC_START_OUTPUT_ENABLE, wizard.IsStartCondition() ? BST_CHECKED : BST_UNCHECKED);
         CStartOutputGroup(&m_dialog, false).Compact(wizard.GetStartType());
         return true;
