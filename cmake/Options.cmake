@@ -3,13 +3,8 @@
 add_compile_options(-Wall -Wextra -Wno-missing-field-initializers -Wshadow -Wconversion -Wformat=2
                     $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor> $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual>)
 
-find_program(CCACHE ccache)
-if(CCACHE)
-    set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
-endif()
-
 if(PEXLO_SANITIZE)
+    add_compile_options(-O1 -g1) # compiling what is instrumented with more takes longer than it saves
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     # A control is worked with as MFC programs do: the CWnd that GetDlgItem returns is cast to the class of the control.
     add_compile_options(-fno-sanitize=vptr)
