@@ -1,7 +1,21 @@
 // Temporary objects for handles that no object of ours stands for, such as the controls of a dialog. They live until
 // the message handler returns in which they were asked for, so that handlers can use them freely and nothing piles up.
 // Within one handler a handle has one temporary object. The objects are used again and again: asking costs no memory.
+// They never own what they stand for: what is left at the end of the program or library is let go, not destroyed.
 #pragma once
+
+#include "afx/afx.h"
+
+#ifdef PEXLO_WITH_MFC
+
+/// MFC releases its temporary objects itself, when the thread is idle.
+class CTemporaryScope
+{
+public:
+    CTemporaryScope() {}
+};
+
+#else
 
 #include "afx/Gdi.h"
 #include "afx/Window.h"
@@ -15,6 +29,14 @@ class CTemporaryObjects
 {
 public:
     CTemporaryObjects() : m_objects(64) {}
+    /// Those that were asked for outside of all scopes are still there. Their handles are somebody else's.
+    ~CTemporaryObjects()
+    {
+        m_base = 0;
+        ReleaseAll();
+    }
+    CTemporaryObjects(const CTemporaryObjects&) = delete;
+    CTemporaryObjects& operator=(const CTemporaryObjects&) = delete;
 
     template <class HANDLE_TYPE>
     T* FromHandle(HANDLE_TYPE handle)
@@ -94,10 +116,12 @@ struct STemporaries
 /// Those of the thread that runs the windows.
 STemporaries& AfxTemporaries();
 
-/// Surrounds each message handler, and whatever else may ask for temporary objects.
+/// Surrounds each message handler, each operation of the library, and whatever else may ask for temporary objects.
 class CTemporaryScope
 {
     decltype(STemporaries::windows)::CScope m_windows{AfxTemporaries().windows};
     decltype(STemporaries::contexts)::CScope m_contexts{AfxTemporaries().contexts};
     decltype(STemporaries::gdiObjects)::CScope m_gdiObjects{AfxTemporaries().gdiObjects};
 };
+
+#endif

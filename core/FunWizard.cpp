@@ -49,8 +49,17 @@ CFunWizard::CFunWizard()
       m_onlyDataTable(0), m_commentRecord(1), m_startType(0), m_plcType(0), m_options{1, 0, 1, 0}
 {
     SetDefaultMaxSlot();
-    m_deviceRanges.InitHashTable(kDeviceBuckets);
+    m_deviceRanges.InitHashTable(kDeviceBuckets, FALSE); // a constructor cannot report that there is no memory
 }
+
+void* CFunWizard::operator new(size_t size) noexcept
+{
+    void* object = nullptr;
+    (void)WithMemory([&] { object = CObject::operator new(size); });
+    return object;
+}
+
+void CFunWizard::operator delete(void* object) { CObject::operator delete(object); }
 
 CFunWizard::~CFunWizard()
 {

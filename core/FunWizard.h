@@ -5,8 +5,11 @@
 // values, comments and, after CreateInstCode, the complete instruction sequence.
 //
 // Unless stated otherwise an operation returns 1 for success and 0 for failure, an index counts from 0, a read with a
-// bad index returns 0 and leaves its outputs alone, and no exception leaves an operation. Everything is called on the
-// thread that runs the host's windows. The object owns its records and what SetDlgDataPtr hands it; texts are copied.
+// bad index returns 0 and leaves its outputs alone. Everything is called on the thread that runs the host's windows.
+// The object owns its records and what SetDlgDataPtr hands it; texts are copied.
+//
+// No exception leaves an operation. Without memory, or when the system refuses a resource, an operation fails as it
+// says and keeps what was there; a setting without a result stays as it was, and a dialog counts as cancelled.
 #pragma once
 
 #include "afx/afx.h"
@@ -26,9 +29,16 @@ class AFX_API CFunWizard : public CObject
     DECLARE_DYNAMIC(CFunWizard)
 
 public:
+    /// Needs no memory of its own, and cannot fail.
     CFunWizard();
     /// Frees everything: the lists, the dialog data, the font and the language library.
     ~CFunWizard() override;
+
+    using CObject::operator new;
+    using CObject::operator delete;
+    /// Null without memory, and so is the pointer that `new CFunWizard` gives.
+    static void* operator new(size_t size) noexcept;
+    static void operator delete(void* object);
 
     CFunWizard(const CFunWizard&) = delete;
     CFunWizard& operator=(const CFunWizard&) = delete;
@@ -112,7 +122,7 @@ public:
     HINSTANCE GetLoadInstance() const;
 
     /// Creates the font of the dialogs in the size that suits the system's, replacing the font of an earlier call.
-    /// Returns the font, which the object owns, or null. `window` may be null.
+    /// Returns the font, which the object owns, or null. `window` may be null; one that is gone counts as null.
     CFont* CreateDlgFont(CWnd* window);
     /// Gives the font to all child windows of `dialog` and, unless `skipDialog` is non-zero, to the dialog itself.
     /// `excludedIds`, a list ended by 0 or null, names the controls that keep theirs.
@@ -121,6 +131,7 @@ public:
 
     /// The HTML Help file behind the Help buttons. Null or an empty path: the dialogs hide the button.
     void SetHelpPath(const char* path);
+    /// A copy; empty also when there is no memory for it.
     CString GetHelpPath() const;
 
     /// The host's own name for itself, kept for it. Message boxes are captioned by PexloDll_SetAppName.

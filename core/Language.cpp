@@ -29,10 +29,16 @@ LPCSTR LanguageFile(int index)
 }
 
 // By full path only: a library of the same name in the current folder is somebody else's.
+HINSTANCE LoadBeside(HINSTANCE module, LPCSTR file)
+{
+    const CString folder = AfxGetModuleFolder(module);
+    return folder.IsEmpty() ? nullptr : AfxLoadLibrary(folder + file);
+}
+
 HINSTANCE LoadLanguageLibrary(LPCSTR file)
 {
-    const HINSTANCE library = AfxLoadLibrary(AfxGetModuleFolder(AfxGetInstanceHandle()) + file);
-    return library != nullptr ? library : AfxLoadLibrary(AfxGetModuleFolder(nullptr) + file);
+    const HINSTANCE library = LoadBeside(AfxGetInstanceHandle(), file);
+    return library != nullptr ? library : LoadBeside(nullptr, file);
 }
 
 // A dialog font of nine points goes with base units of eight pixels.
@@ -55,20 +61,17 @@ HINSTANCE CFunWizard::GetLoadInstance() const { return m_library; }
 CFont* CFunWizard::CreateDlgFont(CWnd* window)
 {
     DeleteDlgFont();
-    const int tenthsOfPoint = kPointsTimesUnits / LOWORD(AfxGetDialogBaseUnits());
-    CDC* dc = window != nullptr ? window->GetDC() : nullptr;
-    const int made = WithMemory([&] {
+    const int created = RunOperation(FALSE, [=, this] {
         m_dialogFont = new CFont;
         CResourceScope scope(m_library);
         CString face;
         face.LoadString(IDS_FONT_FACE);
-        if (!m_dialogFont->CreatePointFont(tenthsOfPoint, face, dc))
-            DeleteDlgFont();
+        const bool isThere = window != nullptr && ::IsWindow(window->GetSafeHwnd());
+        CClientDC dc(isThere ? window : nullptr); // the screen's for null
+        return m_dialogFont->CreatePointFont(kPointsTimesUnits / LOWORD(AfxGetDialogBaseUnits()), face, &dc);
     });
-    if (!made)
+    if (!created)
         DeleteDlgFont();
-    if (dc != nullptr)
-        window->ReleaseDC(dc);
     return m_dialogFont;
 }
 
@@ -84,17 +87,21 @@ bool Contains(const int* ids, int id)
     return *ids != 0;
 }
 
+void GiveFont(HWND window, HFONT font) { ::SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
+
 } // namespace
 
 void CFunWizard::SetDlgFont(CWnd* dialog, unsigned char skipDialog, int* excludedIds)
 {
     if (m_dialogFont == nullptr || dialog == nullptr)
         return;
+    // By handles: no object is needed for each child, and so no memory.
+    const HWND window = dialog->GetSafeHwnd();
     if (!skipDialog)
-        dialog->SetFont(m_dialogFont, TRUE);
-    for (CWnd* child = dialog->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
-        if (!Contains(excludedIds, child->GetDlgCtrlID()))
-            child->SetFont(m_dialogFont, TRUE);
+        GiveFont(window, *m_dialogFont);
+    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+        if (!Contains(excludedIds, ::GetDlgCtrlID(child)))
+            GiveFont(child, *m_dialogFont);
 }
 
 void CFunWizard::DeleteDlgFont()
@@ -111,4 +118,9 @@ void CFunWizard::SetHelpPath(const char* path)
         (void)WithMemory([=, this] { m_helpPath = path; });
 }
 
-CString CFunWizard::GetHelpPath() const { return m_helpPath; }
+CString CFunWizard::GetHelpPath() const
+{
+    CString path;
+    (void)WithMemory([&] { path = m_helpPath; });
+    return path;
+}

@@ -1,11 +1,12 @@
-// Where memory failures end: no exception crosses the boundary of the library.
+// Where failures end: no exception crosses the boundary of the library.
 #pragma once
 
-#include "afx/afx.h"
+#include "afx/Temporary.h"
 
 #include <new>
 
-/// Runs an operation that may run out of memory; 1 when it went well, 0 when it did not.
+/// Runs an operation that may run out of memory or be refused a resource of the system; 1 when it went well, 0 when it
+/// did not.
 template <typename TOperation>
 [[nodiscard]] int WithMemory(TOperation operation)
 {
@@ -14,7 +15,7 @@ template <typename TOperation>
         operation();
         return 1;
     }
-    catch (CMemoryException* e)
+    catch (CException* e)
     {
         e->Delete();
     }
@@ -22,4 +23,14 @@ template <typename TOperation>
     {
     }
     return 0;
+}
+
+/// Runs an operation of the interface that works with windows. Temporary objects that it asks for are gone at its end.
+/// Returns what it returns, or `failed` when memory or a resource has run out.
+template <typename TOperation>
+[[nodiscard]] int RunOperation(int failed, TOperation operation)
+{
+    const CTemporaryScope temporaries;
+    int result = failed;
+    return WithMemory([&] { result = operation(); }) ? result : failed;
 }

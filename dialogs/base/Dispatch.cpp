@@ -52,24 +52,26 @@ void CFunWizard::EnterWizard(int instruction, int variant)
 
 int CFunWizard::DoOpenPosDlg(unsigned char mode, unsigned char axisFlag, CWnd* parent)
 {
-    const EWizardMode wizardMode = mode == 0 ? kPulseInstructions : kUnitOperations;
-    CreateDlgFont(parent);
-    CPosSelectDlg selection(this, wizardMode, parent);
-    if (wizardMode == kUnitOperations)
-        selection.SetChoice({m_lastInstruction, m_lastVariant});
-    while (selection.DoModal() == IDOK)
-    {
-        const SWizardChoice choice = selection.GetChoice();
-        EnterWizard(choice.instruction, choice.variant);
-        m_axisType = axisFlag;
-        const UINT templateId = DialogTemplate(wizardMode, m_plcType, choice);
-        if (RunInstructionDialog(templateId, choice.variant, this, parent) != IDOK)
-            continue;
-        RecordWizard(mode, choice.instruction, choice.variant);
-        DeleteDlgFont();
-        return IDOK;
-    }
-    return IDCANCEL; // The font stays until the next wizard.
+    return RunOperation(IDCANCEL, [=, this] {
+        const EWizardMode wizardMode = mode == 0 ? kPulseInstructions : kUnitOperations;
+        CreateDlgFont(parent);
+        CPosSelectDlg selection(this, wizardMode, parent);
+        if (wizardMode == kUnitOperations)
+            selection.SetChoice({m_lastInstruction, m_lastVariant});
+        while (selection.DoModal() == IDOK)
+        {
+            const SWizardChoice choice = selection.GetChoice();
+            EnterWizard(choice.instruction, choice.variant);
+            m_axisType = axisFlag;
+            const UINT templateId = DialogTemplate(wizardMode, m_plcType, choice);
+            if (RunInstructionDialog(templateId, choice.variant, this, parent) != IDOK)
+                continue;
+            RecordWizard(mode, choice.instruction, choice.variant);
+            DeleteDlgFont();
+            return IDOK;
+        }
+        return IDCANCEL; // The font stays until the next wizard.
+    });
 }
 
 // The frame of the wizards that open without a selection. They become the last wizard even when they are cancelled.
@@ -85,25 +87,33 @@ int CFunWizard::OpenDirectly(int instruction, CDialog* dialog, CWnd* parent)
 
 int CFunWizard::DoOpenPIDDlg(int workArea, CWnd* parent)
 {
-    CPidDlg dialog(this, workArea, parent);
-    return OpenDirectly(kPid, &dialog, parent);
+    return RunOperation(IDCANCEL, [=, this] {
+        CPidDlg dialog(this, workArea, parent);
+        return OpenDirectly(kPid, &dialog, parent);
+    });
 }
 
-int CFunWizard::DoOpenSCRDlg(ULONGLONG*, CWnd* parent) { return OpenDirectly(kScreenDisplay, nullptr, parent); }
+int CFunWizard::DoOpenSCRDlg(ULONGLONG*, CWnd* parent)
+{
+    return RunOperation(IDCANCEL, [=, this] { return OpenDirectly(kScreenDisplay, nullptr, parent); });
+}
 
 int CFunWizard::DoOpenSCALDlg(ULONGLONG*, int kind, CWnd* parent)
 {
-    return OpenDirectly(kScaling[kind == 0 || kind == 1 ? kind : 2], nullptr, parent);
+    const int instruction = kScaling[kind == 0 || kind == 1 ? kind : 2];
+    return RunOperation(IDCANCEL, [=, this] { return OpenDirectly(instruction, nullptr, parent); });
 }
 
 int CFunWizard::DoInputPosCtrlDlg(ULONG& code, CWnd* parent)
 {
-    CreateDlgFont(parent);
-    CPosCtrlCodeDlg dialog(this, parent);
-    dialog.SetCode(code);
-    const INT_PTR result = dialog.DoModal();
-    if (result == IDOK)
-        code = dialog.GetCode();
-    DeleteDlgFont();
-    return static_cast<int>(result);
+    return RunOperation(IDCANCEL, [&, this] {
+        CreateDlgFont(parent);
+        CPosCtrlCodeDlg dialog(this, parent);
+        dialog.SetCode(code);
+        const INT_PTR result = dialog.DoModal();
+        if (result == IDOK)
+            code = dialog.GetCode();
+        DeleteDlgFont();
+        return static_cast<int>(result);
+    });
 }

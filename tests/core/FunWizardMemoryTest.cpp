@@ -209,6 +209,39 @@ TEST(WithoutMemory, NamesLetNoExceptionOut)
     PexloDll_SetAppName("");
 }
 
+TEST(WithoutMemory, TheObjectIsBuilt)
+{
+    CAllocationFaults memory(0);
+    const CFunWizard wizard;
+    memory.Pause();
+    EXPECT_EQ(memory.Requests(), 0);
+    EXPECT_EQ(SFunWizardTest::BucketCount(wizard), 101u);
+}
+
+TEST(WithoutMemory, ANewObjectIsNull)
+{
+    CAllocationFaults memory(0);
+    const CFunWizard* const wizard = new CFunWizard;
+    memory.Pause();
+    EXPECT_EQ(wizard, nullptr);
+    EXPECT_EQ(memory.Failures(), 1);
+}
+
+TEST(WithoutMemory, TheHelpPathReadsAsEmpty)
+{
+    CFunWizard wizard;
+    wizard.SetHelpPath("C:\\help.chm");
+    const int failures = WithEveryAllocationFailing(
+        [&] {
+            CString path;
+            EXPECT_NO_THROW(path = wizard.GetHelpPath());
+            return path.GetLength();
+        },
+        [](int length) { EXPECT_EQ(length, 0); });
+    EXPECT_EQ(failures, 1);
+    EXPECT_STREQ(wizard.GetHelpPath(), "C:\\help.chm");
+}
+
 TEST(WithoutMemory, SameConditionLetsNoExceptionOut)
 {
     CFunWizard wizard;

@@ -58,6 +58,8 @@ struct SFunWizardTest
                 at(wizard.m_plcType),       at(wizard.m_options)};
     }
 
+    static UINT BucketCount(const CFunWizard& wizard) { return wizard.m_deviceRanges.GetHashTableSize(); }
+
     static int SupportedCount(const CFunWizard& wizard) { return static_cast<int>(wizard.m_supported.GetSize()); }
 };
 
