@@ -12,17 +12,33 @@ constexpr UINT_PTR kEntryOrdinal = 14;
 constexpr UINT kShowDefaultTopic = 0;
 constexpr UINT kShowTopicByNumber = 15;
 
-// Loads the control from where the system has registered it; null when it is not registered there.
-HMODULE LoadRegisteredControl()
+constexpr DWORD kLongestPath = 260;
+
+// Reads where the system has registered the control. Returns the type of the value; REG_NONE when there is none.
+DWORD ReadRegistered(char (&path)[kLongestPath + 1])
 {
     HKEY key;
     if (::RegOpenKeyExA(HKEY_CLASSES_ROOT, kRegisteredServer, 0, KEY_READ, &key) != ERROR_SUCCESS)
-        return nullptr;
-    char path[261] = ""; // a registered text need not be terminated
-    DWORD size = sizeof path - 1;
-    const LSTATUS status = ::RegQueryValueExA(key, nullptr, nullptr, nullptr, reinterpret_cast<LPBYTE>(path), &size);
+        return REG_NONE;
+    DWORD type = REG_NONE;
+    DWORD size = kLongestPath;
+    const LSTATUS status = ::RegQueryValueExA(key, nullptr, nullptr, &type, reinterpret_cast<LPBYTE>(path), &size);
     ::RegCloseKey(key);
-    return status == ERROR_SUCCESS && *path ? ::LoadLibraryA(path) : nullptr;
+    return status == ERROR_SUCCESS && *path ? type : REG_NONE;
+}
+
+// Loads the control from where the system has registered it; null when it is not registered there.
+HMODULE LoadRegisteredControl()
+{
+    char path[kLongestPath + 1] = ""; // a registered text need not be terminated
+    const DWORD type = ReadRegistered(path);
+    if (type == REG_SZ)
+        return ::LoadLibraryA(path);
+    if (type != REG_EXPAND_SZ)
+        return nullptr;
+    char expanded[kLongestPath + 1];
+    const DWORD length = ::ExpandEnvironmentStringsA(path, expanded, sizeof expanded);
+    return length > 0 && length <= sizeof expanded ? ::LoadLibraryA(expanded) : nullptr;
 }
 
 // While it lives, the drive that a path names is the current one. A path without a drive letter changes nothing.
@@ -76,5 +92,7 @@ bool CHtmlHelpControl::Load()
         m_entryPoint = reinterpret_cast<EntryPoint>(
             reinterpret_cast<void*>(::GetProcAddress(library, reinterpret_cast<LPCSTR>(kEntryOrdinal))));
     m_isUnavailable = !m_entryPoint;
+    if (library && m_isUnavailable)
+        ::FreeLibrary(library);
     return !m_isUnavailable;
 }

@@ -7,8 +7,8 @@
 /// that the path names is the current one. Does nothing where the system has no help control.
 AFX_API void AfxHtmlHelp(LPCSTR path, UINT topic);
 
-/// The system's help control. It is loaded when it is first needed and never freed; when it cannot be found once, it is
-/// not looked for again.
+/// The system's help control. It is loaded when it is first needed and never freed; when it cannot be found or used
+/// once, it is not looked for again.
 class CHtmlHelpControl
 {
 public:

@@ -64,8 +64,8 @@ constexpr std::size_t kNoListLimit = static_cast<std::size_t>(-1);
 
 void SetCurrentDrive(int drive);
 
-// Text values of keys. The empty name is a key's default value.
-void SetRegistryValue(HKEY root, const char* subKey, const char* name, const char* value);
+// Text values of keys. The empty name is a key's default value; REG_EXPAND_SZ is a text with names of the environment.
+void SetRegistryValue(HKEY root, const char* subKey, const char* name, const char* value, DWORD type = REG_SZ);
 void ClearRegistry();
 
 // A library that LoadLibraryA finds under the name (with or without a folder before it) although there is no file.

@@ -1,7 +1,8 @@
-// A registry that tests fill; it can be read only.
+// A registry that tests fill; it can be read only. And the expansion of names of the environment in its texts.
 
 #include "afx/offscreen/Internal.h"
 
+#include <cstdlib>
 #include <cstring>
 #include <map>
 
@@ -9,7 +10,12 @@ namespace offscreen
 {
 namespace
 {
-using Values = std::map<std::string, std::string>;
+struct Value
+{
+    std::string text;
+    DWORD type;
+};
+using Values = std::map<std::string, Value>;
 
 struct RegistryState
 {
@@ -49,9 +55,9 @@ bool Exists(const std::string& path)
 }
 } // namespace
 
-void SetRegistryValue(HKEY root, const char* subKey, const char* name, const char* value)
+void SetRegistryValue(HKEY root, const char* subKey, const char* name, const char* value, DWORD type)
 {
-    State().keys[Below(PathOf(root), subKey)][LowerCase(name ? name : "")] = value;
+    State().keys[Below(PathOf(root), subKey)][LowerCase(name ? name : "")] = {value, type};
 }
 
 void ClearRegistry() { State().keys.clear(); }
@@ -95,8 +101,9 @@ LSTATUS RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD, LPDWORD type, LPBYTE da
     if (value == values->second.end())
         return ERROR_FILE_NOT_FOUND;
     if (type)
-        *type = REG_SZ;
-    const auto needed = static_cast<DWORD>(value->second.size() + 1);
+        *type = value->second.type;
+    const std::string& text = value->second.text;
+    const auto needed = static_cast<DWORD>(text.size() + 1);
     const DWORD room = size ? *size : 0;
     if (size)
         *size = needed;
@@ -104,7 +111,7 @@ LSTATUS RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD, LPDWORD type, LPBYTE da
         return ERROR_SUCCESS;
     if (room < needed)
         return ERROR_MORE_DATA;
-    std::memcpy(data, value->second.c_str(), needed);
+    std::memcpy(data, text.c_str(), needed);
     return ERROR_SUCCESS;
 }
 
@@ -128,4 +135,25 @@ LSTATUS RegCloseKey(HKEY key)
     if (IsRoot(key))
         return ERROR_SUCCESS;
     return State().open.Remove(key) ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
+}
+
+// A name that the environment does not have stays as it stands.
+DWORD ExpandEnvironmentStringsA(LPCSTR source, LPSTR target, DWORD size)
+{
+    Inside inside;
+    std::string expanded;
+    for (std::string rest = source; !rest.empty();)
+    {
+        const std::size_t first = rest.find('%');
+        const std::size_t last = first == std::string::npos ? first : rest.find('%', first + 1);
+        const char* value =
+            last == std::string::npos ? nullptr : std::getenv(rest.substr(first + 1, last - first - 1).c_str());
+        const std::size_t taken = value ? last + 1 : last;
+        expanded += value ? rest.substr(0, first) + value : rest.substr(0, taken);
+        rest.erase(0, taken);
+    }
+    const auto needed = static_cast<DWORD>(expanded.size() + 1);
+    if (needed <= size)
+        std::memcpy(target, expanded.c_str(), needed);
+    return needed;
 }

@@ -1923,6 +1923,7 @@ LSTATUS RegOpenKeyA(HKEY key, LPCSTR subKey, PHKEY result);
 LSTATUS RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD reserved, LPDWORD type, LPBYTE data, LPDWORD size);
 LSTATUS RegQueryValueA(HKEY key, LPCSTR subKey, LPSTR data, LONG* size);
 LSTATUS RegCloseKey(HKEY key);
+DWORD ExpandEnvironmentStringsA(LPCSTR source, LPSTR target, DWORD size);
 
 // Text, code pages, system
 BOOL IsDBCSLeadByte(BYTE c);

@@ -42,7 +42,16 @@ private:
     int(WINAPI* m_dispose)(void*) = nullptr;
 };
 
-CGdiPlus::CGdiPlus() : m_library(LoadLibraryA("gdiplus.dll"))
+// From the system's folder: a library of the same name beside the program or in the current folder is somebody else's.
+HMODULE LoadSystemLibrary(LPCSTR name)
+{
+    char folder[MAX_PATH];
+    const UINT length = GetSystemDirectoryA(folder, sizeof folder);
+    return length > 0 && length < sizeof folder ? LoadLibraryA(std::string(folder).append("\\").append(name).c_str())
+                                                : nullptr;
+}
+
+CGdiPlus::CGdiPlus() : m_library(LoadSystemLibrary("gdiplus.dll"))
 {
     if (m_library == nullptr)
         return;

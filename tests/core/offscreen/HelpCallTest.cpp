@@ -67,7 +67,10 @@ protected:
     }
     void TearDown() override { SetUp(); }
 
-    static void Register(const char* path) { offscreen::SetRegistryValue(HKEY_CLASSES_ROOT, kServer, "", path); }
+    static void Register(const char* path, DWORD type = REG_SZ)
+    {
+        offscreen::SetRegistryValue(HKEY_CLASSES_ROOT, kServer, "", path, type);
+    }
 
     CHtmlHelpControl m_control;
 };
@@ -96,6 +99,40 @@ TEST_F(HelpCallTest, PrefersTheRegisteredControl)
     m_control.Show("C:\\a.chm", 1);
     ASSERT_EQ(g_calls.size(), 1u);
     EXPECT_EQ(g_calls[0].control, "r");
+}
+
+TEST_F(HelpCallTest, ExpandsARegisteredPathOfThatKind)
+{
+    ::setenv("PEXLO_TEST_NAME", "registered", 1);
+    Register("C:\\Windows\\%PEXLO_TEST_NAME%.ocx", REG_EXPAND_SZ);
+    offscreen::RegisterLibrary("registered.ocx", {{14, Entry<'r'>()}});
+    offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
+    m_control.Show("C:\\a.chm", 1);
+    ASSERT_EQ(g_calls.size(), 1u);
+    EXPECT_EQ(g_calls[0].control, "r");
+    ::unsetenv("PEXLO_TEST_NAME");
+}
+
+TEST_F(HelpCallTest, LooksByNameWhenTheExpandedPathIsTooLong)
+{
+    ::setenv("PEXLO_TEST_ROOT", std::string(250, 'p').c_str(), 1);
+    Register("C:\\%PEXLO_TEST_ROOT%\\registered.ocx", REG_EXPAND_SZ);
+    offscreen::RegisterLibrary("registered.ocx", {{14, Entry<'r'>()}});
+    offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
+    m_control.Show("C:\\a.chm", 1);
+    ASSERT_EQ(g_calls.size(), 1u);
+    EXPECT_EQ(g_calls[0].control, "n");
+    ::unsetenv("PEXLO_TEST_ROOT");
+}
+
+TEST_F(HelpCallTest, LooksByNameWhenTheRegisteredValueIsNoText)
+{
+    Register(kRegistered, REG_DWORD);
+    offscreen::RegisterLibrary("registered.ocx", {{14, Entry<'r'>()}});
+    offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
+    m_control.Show("C:\\a.chm", 1);
+    ASSERT_EQ(g_calls.size(), 1u);
+    EXPECT_EQ(g_calls[0].control, "n");
 }
 
 TEST_F(HelpCallTest, LooksByNameWhenTheRegisteredControlIsGone)
@@ -149,6 +186,21 @@ TEST_F(HelpCallTest, IsNotLookedForAgainWithoutItsEntryPoint)
     m_control.Show("C:\\a.chm", 1);
     EXPECT_TRUE(g_calls.empty());
     EXPECT_EQ(offscreen::LoadAttempts(), attempts);
+}
+
+TEST_F(HelpCallTest, IsLetGoWithoutItsEntryPoint)
+{
+    Register(kRegistered);
+    offscreen::RegisterLibrary("registered.ocx", {{15, Entry<'r'>()}});
+    m_control.Show("C:\\a.chm", 1);
+    EXPECT_EQ(::GetModuleHandleA("registered.ocx"), nullptr);
+}
+
+TEST_F(HelpCallTest, StaysLoadedWithItsEntryPoint)
+{
+    offscreen::RegisterLibrary(kByName, {{14, Entry<'n'>()}});
+    m_control.Show("C:\\a.chm", 1);
+    EXPECT_NE(::GetModuleHandleA(kByName), nullptr);
 }
 
 TEST_F(HelpCallTest, MakesTheDriveOfThePathCurrentForTheCall)
