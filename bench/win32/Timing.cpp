@@ -1,9 +1,11 @@
 // Timing on Windows, every comparison within one run and in alternating rounds:
 //
-//   opening each dialog, until it can be typed into, against creating and showing its template with no program behind
-//   it; generating instructions against appending the same records to a vector that has room for them.
+//   opening each dialog until it is idle, against the same result made by plain Windows calls, and against its template
+//   with no program behind it; generating instructions against appending the same records to a vector that has room for
+//   them.
 #include "afx/afx.h"
 #include "bench/Wizards.h"
+#include "bench/win32/PlainDialog.h"
 #include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
 #include "dialogs/process/PidDlg.h"
@@ -14,6 +16,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -43,154 +46,126 @@ double Median(std::vector<double> values)
 
 // ---- Opening --------------------------------------------------------------------------------------------------------
 
-/// Notices when a dialog has been shown and its message loop takes the next message: a key would be handled now.
-class CReadiness
+/// The owner of the dialogs, which every modal loop tells when no message waits. Idle is a dialog that is shown and has
+/// the focus, when then nothing waits and nothing is left to paint.
+class COwner : public CWnd
 {
 public:
-    CReadiness()
+    COwner() { CreateEx(0, "Static", "Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr); }
+
+    /// Runs `open` until its dialog is idle; then `look` may look at it, and it is cancelled. Returns the time to idle.
+    double Time(const std::function<void()>& open, std::function<void(HWND)> look = nullptr)
     {
-        s_window = CreateWindowExA(0, "Static", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
-        SetWindowLongPtrA(s_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&OnMessage));
+        m_idleAt = 0;
+        m_look = std::move(look);
+        const double start = Milliseconds();
+        open();
+        if (m_idleAt == 0)
+            Stop("A dialog could not be opened.");
+        return m_idleAt - start;
     }
-    ~CReadiness() { DestroyWindow(s_window); }
-    CReadiness(const CReadiness&) = delete;
-    CReadiness& operator=(const CReadiness&) = delete;
-
-    static void Expect() { s_readyAt = 0; }
-
-    /// Every message of the dialog; cheap, as it is part of what is measured.
-    static void See(HWND dialog, UINT message, LPARAM lParam)
-    {
-        if (message != WM_WINDOWPOSCHANGED || (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW) == 0)
-            return;
-        s_dialog = dialog;
-        PostMessageA(s_window, kReady, 0, 0);
-    }
-
-    static double ReadyAt() { return s_readyAt; }
-
-private:
-    static constexpr UINT kReady = WM_APP;
-
-    static LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-    {
-        if (message != kReady)
-            return DefWindowProcA(window, message, wParam, lParam);
-        s_readyAt = Milliseconds();
-        if (!IsWindowVisible(s_dialog) || GetParent(GetFocus()) != s_dialog)
-            Stop("A dialog was ready without being shown or having the focus.");
-        PostMessageA(s_dialog, WM_COMMAND, IDCANCEL, 0);
-        return 0;
-    }
-
-    static inline HWND s_window = nullptr;
-    static inline HWND s_dialog = nullptr;
-    static inline double s_readyAt = 0;
-};
-
-template <typename TDialog>
-class CWatched : public TDialog
-{
-public:
-    using TDialog::TDialog;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        CReadiness::See(this->m_hWnd, message, lParam);
-        return TDialog::WindowProc(message, wParam, lParam);
+        if (message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX && m_idleAt == 0)
+            OnIdle(reinterpret_cast<HWND>(lParam));
+        return CWnd::WindowProc(message, wParam, lParam);
     }
+
+private:
+    void OnIdle(HWND dialog)
+    {
+        MSG message;
+        if (::IsWindowVisible(dialog) && ::PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE) == 0)
+        {
+            m_idleAt = Milliseconds();
+            if (::GetParent(::GetFocus()) != dialog || ::GetUpdateRect(dialog, nullptr, FALSE))
+                Stop("A dialog was idle without having the focus or being painted.");
+            if (m_look)
+                m_look(dialog);
+            ::PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+        }
+    }
+
+    std::function<void(HWND)> m_look;
+    double m_idleAt = 0;
 };
 
 struct SOpening
 {
     const char* name;
     UINT templateId;
-    INT_PTR (*open)(CFunWizard& wizard, CWnd* owner);
+    void (*open)(CFunWizard& wizard, CWnd* owner);
+    double limit; ///< against plain calls; 0 where only the template is the measure
 };
 
 template <typename TDialog, auto... arguments>
-INT_PTR Open(CFunWizard& wizard, CWnd* owner)
+void Open(CFunWizard& wizard, CWnd* owner)
 {
-    return CWatched<TDialog>(&wizard, arguments..., owner).DoModal();
+    TDialog(&wizard, arguments..., owner).DoModal();
 }
 
 constexpr SOpening kOpenings[] = {
-    {"F168", IDD_SPD1_TRAPEZOIDAL, Open<CSpd1Dlg, false>},
+    {"F168", IDD_SPD1_TRAPEZOIDAL, Open<CSpd1Dlg, false>, 1.02},
     {"F171", IDD_SPDH_TRAPEZOIDAL, Open<CSpdhDlg, false>},
     {"control code", IDD_CONTROL_CODE, Open<CPosCtrlCodeDlg>},
     {"E point", IDD_EPOINT, Open<CEPointDlg, kEPointForm>},
     {"PID", IDD_PID, Open<CPidDlg, 30>},
 };
 
-double OpenWizard(const SOpening& opening, CFunWizard& wizard, CWnd* owner)
+std::string Limit(double ratio, double limit)
 {
-    CReadiness::Expect();
-    const double start = Milliseconds();
-    if (opening.open(wizard, owner) != IDCANCEL)
-        Stop("The dialog could not be opened.");
-    return CReadiness::ReadyAt() - start;
+    if (limit == 0)
+        return {};
+    char text[40];
+    std::snprintf(text, sizeof text, " (limit %.2f%s)", limit, ratio > limit ? ", EXCEEDED" : "");
+    return text;
 }
 
-INT_PTR CALLBACK BareProc(HWND dialog, UINT message, WPARAM, LPARAM lParam)
+void CompareOpening(const SOpening& opening, int rounds, CFunWizard& wizard, COwner& owner)
 {
-    CReadiness::See(dialog, message, lParam);
-    return message == WM_INITDIALOG;
-}
+    const CPlainDialog bare(opening.templateId);
+    CPlainDialog plain(opening.templateId);
+    const std::function<void()> contenders[] = {
+        [&] { opening.open(wizard, &owner); },
+        [&] { plain.DoModal(owner.m_hWnd); },
+        [&] { bare.DoModal(owner.m_hWnd); },
+    };
+    constexpr size_t kCount = std::size(contenders);
+    owner.Time(contenders[0], [&](HWND dialog) { plain.Learn(dialog); });
+    owner.Time(contenders[1], [&](HWND dialog) {
+        const std::string differences = plain.DifferencesOf(dialog);
+        if (!differences.empty())
+            Stop(("The plain calls make another dialog:\n" + differences).c_str());
+    });
 
-double OpenBare(const SOpening& opening, CWnd* owner)
-{
-    const HINSTANCE module = AfxGetInstanceHandle();
-    CReadiness::Expect();
-    const double start = Milliseconds();
-    const HRSRC found = FindResourceA(module, MAKEINTRESOURCEA(opening.templateId), MAKEINTRESOURCEA(5));
-    const auto* dialogTemplate = static_cast<LPCDLGTEMPLATE>(LockResource(LoadResource(module, found)));
-    const HWND dialog = CreateDialogIndirectParamA(module, dialogTemplate, owner->m_hWnd, &BareProc, 0);
-    ShowWindow(dialog, SW_SHOWNORMAL);
-    UpdateWindow(dialog);
-    MSG message;
-    while (CReadiness::ReadyAt() == 0 && GetMessageA(&message, nullptr, 0, 0) > 0)
-    {
-        if (IsDialogMessageA(dialog, &message))
-            continue;
-        TranslateMessage(&message);
-        DispatchMessageA(&message);
-    }
-    const double time = CReadiness::ReadyAt() - start;
-    DestroyWindow(dialog);
-    return time;
-}
-
-void CompareOpening(const SOpening& opening, int rounds, CFunWizard& wizard, CWnd* owner)
-{
-    constexpr int kWarmUp = 20;
-    std::vector<double> wizards, bares;
-    for (int i = -kWarmUp; i < rounds; ++i)
-    {
-        const double bareFirst = i % 2 == 0 ? OpenBare(opening, owner) : 0;
-        const double time = OpenWizard(opening, wizard, owner);
-        const double bare = i % 2 == 0 ? bareFirst : OpenBare(opening, owner);
-        if (i < 0)
-            continue;
-        wizards.push_back(time);
-        bares.push_back(bare);
-    }
-    const double time = Median(wizards);
-    const double bare = Median(bares);
-    std::printf("opening %-12s  %8.3f ms   bare template  %8.3f ms   ratio %.2f   (median of %d, target 1.30)\n",
-                opening.name, time, bare, time / bare, rounds);
+    // Each contender comes first, second and last equally often.
+    constexpr int kWarmUp = 21;
+    std::vector<double> times[kCount];
+    for (int round = -kWarmUp; round < rounds; ++round)
+        for (size_t i = 0; i < kCount; ++i)
+        {
+            const size_t which = (i + static_cast<size_t>(round + kWarmUp)) % kCount;
+            const double time = owner.Time(contenders[which]);
+            if (round >= 0)
+                times[which].push_back(time);
+        }
+    const double time = Median(times[0]), overPlain = time / Median(times[1]), overBare = time / Median(times[2]);
+    constexpr double kBareLimit = 1.15;
+    std::printf("opening %-13s %7.3f ms   / plain calls %.3f%s   / template %.3f%s   (median of %d)\n", opening.name,
+                time, overPlain, Limit(overPlain, opening.limit).c_str(), overBare, Limit(overBare, kBareLimit).c_str(),
+                rounds);
 }
 
 void CompareOpenings(int rounds)
 {
-    CWnd owner;
-    owner.CreateEx(0, "Static", "Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr);
-    const CReadiness readiness;
+    COwner owner;
     CFunWizard wizard;
     SetUpController(wizard);
     wizard.CreateDlgFont(&owner);
     for (const SOpening& opening : kOpenings)
-        CompareOpening(opening, rounds, wizard, &owner);
+        CompareOpening(opening, rounds, wizard, owner);
 }
 
 // ---- Instructions ---------------------------------------------------------------------------------------------------
