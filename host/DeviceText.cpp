@@ -1,6 +1,7 @@
 #include "host/DeviceText.h"
 
 #include <algorithm>
+#include <cstdarg>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -51,11 +52,13 @@ constexpr SDevice kDevices[] = {
     {"f", 20, kReal},
 };
 
-template <typename... T>
-std::string Print(const char* format, T... values)
+[[gnu::format(printf, 1, 2)]] std::string Print(const char* format, ...)
 {
     char text[48];
-    std::snprintf(text, sizeof text, format, values...);
+    va_list values;
+    va_start(values, format);
+    std::vsnprintf(text, sizeof text, format, values);
+    va_end(values);
     return text;
 }
 

@@ -2,18 +2,19 @@
 
 #include "host/DeviceText.h"
 
-#include <cstdio>
-#include <cstring>
+#include <cstdarg>
 #include <vector>
 
 namespace
 {
-template <typename... T>
-std::string Print(const char* format, T... values)
+[[gnu::format(printf, 1, 2)]] std::string Print(const char* format, ...)
 {
-    std::vector<char> text(static_cast<size_t>(std::snprintf(nullptr, 0, format, values...)) + 1);
-    std::snprintf(text.data(), text.size(), format, values...);
-    return text.data();
+    va_list values;
+    va_start(values, format);
+    CString text;
+    text.FormatV(format, values);
+    va_end(values);
+    return static_cast<const char*>(text);
 }
 
 std::string List(const char* name, int count, const std::string& entries)
