@@ -4,6 +4,7 @@
 #include "core/AppName.h"
 #include "core/Devices.h"
 #include "core/Memory.h"
+#include "core/OpenWizard.h"
 #include "core/Values.h"
 
 #include <cstring>
@@ -63,12 +64,15 @@ void CFunWizard::operator delete(void* object) { CObject::operator delete(object
 
 CFunWizard::~CFunWizard()
 {
+    COpenWizard::Orphan(this);
     ResetContents();
-    DeleteDlgFont();
+    FreeFont();
 }
 
 void CFunWizard::ResetContents()
 {
+    if (COpenWizard::IsOpen(this))
+        return;
     RemoveDlgData();
     ClearSuppportFunInfo();
     m_deviceRanges.RemoveAll();

@@ -10,6 +10,16 @@
 //
 // No exception leaves an operation. Without memory, or when the system refuses a resource, an operation fails as it
 // says and keeps what was there; a setting without a result stays as it was, and a dialog counts as cancelled.
+//
+// Dialogs are modal, but the host's timers and messages go on, and every operation may be called from them. While a
+// dialog of an object is open:
+//   - an operation that opens a dialog of the same object returns 2 at once; dialogs of other objects open as ever.
+//   - SetLanguageInfo and CreateDlgFont return null, ResetContents and DeleteDlgFont do nothing: the language library
+//     and the font are in use. Nothing else changes then, either.
+//   - every other operation works as ever. A dialog reads the lists when it opens and replaces them on OK; ranges,
+//     channels, slots and flags it asks for whenever it needs them.
+//   - destroying the object is permitted: its dialogs end as by Cancel, and the operation that opened them returns 2. A
+//     message box of theirs stays until it is answered.
 #pragma once
 
 #include "afx/afx.h"
@@ -216,13 +226,18 @@ private:
     friend struct SFunWizardTest;
 
     friend class CInstCodeGenerator;
+    friend class COpenWizard;
     template <typename TGenerate>
     int Generate(TGenerate generate);
 
     void ForgetResults();
     void EnterWizard(int instruction, int variant);
     void RecordWizard(unsigned char mode, int instruction, int variant);
-    int OpenDirectly(int instruction, CDialog* dialog, CWnd* parent);
+    void FreeFont();
+    template <typename TRun>
+    int OpenDialogs(CWnd* parent, TRun run);
+    template <typename TRun>
+    int OpenDirectly(int instruction, CWnd* parent, TRun run);
     const WORD* ChannelMask(int instruction) const;
 
     HINSTANCE m_library;

@@ -1,6 +1,7 @@
 // The wizard object's language library, dialog font and help path.
 #include "core/FunWizard.h"
 #include "core/Memory.h"
+#include "core/OpenWizard.h"
 #include "core/ResourceScope.h"
 
 #include "afx/System.h"
@@ -48,6 +49,8 @@ constexpr int kPointsTimesUnits = 720;
 
 HINSTANCE CFunWizard::SetLanguageInfo(int language)
 {
+    if (COpenWizard::IsOpen(this))
+        return nullptr;
     AfxFreeLibrary(m_library);
     m_library = nullptr;
     const LPCSTR file = LanguageFile(language);
@@ -60,7 +63,9 @@ HINSTANCE CFunWizard::GetLoadInstance() const { return m_library; }
 
 CFont* CFunWizard::CreateDlgFont(CWnd* window)
 {
-    DeleteDlgFont();
+    if (COpenWizard::IsOpen(this))
+        return nullptr;
+    FreeFont();
     const int created = RunOperation(FALSE, [=, this] {
         m_dialogFont = new CFont;
         CResourceScope scope(m_library);
@@ -71,7 +76,7 @@ CFont* CFunWizard::CreateDlgFont(CWnd* window)
         return m_dialogFont->CreatePointFont(kPointsTimesUnits / LOWORD(AfxGetDialogBaseUnits()), face, &dc);
     });
     if (!created)
-        DeleteDlgFont();
+        FreeFont();
     return m_dialogFont;
 }
 
@@ -105,6 +110,12 @@ void CFunWizard::SetDlgFont(CWnd* dialog, unsigned char skipDialog, int* exclude
 }
 
 void CFunWizard::DeleteDlgFont()
+{
+    if (!COpenWizard::IsOpen(this))
+        FreeFont();
+}
+
+void CFunWizard::FreeFont()
 {
     delete m_dialogFont;
     m_dialogFont = nullptr;

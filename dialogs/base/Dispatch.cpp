@@ -1,6 +1,7 @@
 // The operations of the wizard object that open dialogs, and the way from a choice to its dialog.
 #include "core/FunWizard.h"
 #include "core/Memory.h"
+#include "core/OpenWizard.h"
 #include "dialogs/base/PosSelectDlg.h"
 #include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
@@ -50,24 +51,38 @@ void CFunWizard::EnterWizard(int instruction, int variant)
         ForgetResults();
 }
 
+// Runs dialogs of the object, with the font created. The object may be destroyed meanwhile: `run` works with the
+// pointer that it is given, which is redirected then.
+template <typename TRun>
+int CFunWizard::OpenDialogs(CWnd* parent, TRun run)
+{
+    if (COpenWizard::IsOpen(this))
+        return IDCANCEL;
+    return RunOperation(IDCANCEL, [=, wizard = this]() mutable {
+        wizard->CreateDlgFont(parent);
+        const COpenWizard open(wizard);
+        const int result = run(wizard, open);
+        return open.IsOrphaned() ? IDCANCEL : result;
+    });
+}
+
 int CFunWizard::DoOpenPosDlg(unsigned char mode, unsigned char axisFlag, CWnd* parent)
 {
-    return RunOperation(IDCANCEL, [=, this] {
+    return OpenDialogs(parent, [=](CFunWizard*& wizard, const COpenWizard& open) -> int {
         const EWizardMode wizardMode = mode == 0 ? kPulseInstructions : kUnitOperations;
-        CreateDlgFont(parent);
-        CPosSelectDlg selection(this, wizardMode, parent);
+        CPosSelectDlg selection(wizard, wizardMode, parent);
         if (wizardMode == kUnitOperations)
-            selection.SetChoice({m_lastInstruction, m_lastVariant});
-        while (selection.DoModal() == IDOK)
+            selection.SetChoice({wizard->m_lastInstruction, wizard->m_lastVariant});
+        while (!open.IsOrphaned() && selection.DoModal() == IDOK)
         {
             const SWizardChoice choice = selection.GetChoice();
-            EnterWizard(choice.instruction, choice.variant);
-            m_axisType = axisFlag;
-            const UINT templateId = DialogTemplate(wizardMode, m_plcType, choice);
-            if (RunInstructionDialog(templateId, choice.variant, this, parent) != IDOK)
+            wizard->EnterWizard(choice.instruction, choice.variant);
+            wizard->m_axisType = axisFlag;
+            const UINT templateId = DialogTemplate(wizardMode, wizard->m_plcType, choice);
+            if (RunInstructionDialog(templateId, choice.variant, wizard, parent) != IDOK)
                 continue;
-            RecordWizard(mode, choice.instruction, choice.variant);
-            DeleteDlgFont();
+            wizard->RecordWizard(mode, choice.instruction, choice.variant);
+            wizard->FreeFont();
             return IDOK;
         }
         return IDCANCEL; // The font stays until the next wizard.
@@ -75,45 +90,42 @@ int CFunWizard::DoOpenPosDlg(unsigned char mode, unsigned char axisFlag, CWnd* p
 }
 
 // The frame of the wizards that open without a selection. They become the last wizard even when they are cancelled.
-int CFunWizard::OpenDirectly(int instruction, CDialog* dialog, CWnd* parent)
+template <typename TRun>
+int CFunWizard::OpenDirectly(int instruction, CWnd* parent, TRun run)
 {
-    CreateDlgFont(parent);
-    EnterWizard(instruction, 0);
-    const INT_PTR result = dialog != nullptr ? dialog->DoModal() : -1;
-    DeleteDlgFont();
-    RecordWizard(0, instruction, 0);
-    return result == IDOK ? IDOK : IDCANCEL;
+    return OpenDialogs(parent, [=](CFunWizard*& wizard, const COpenWizard&) -> int {
+        wizard->EnterWizard(instruction, 0);
+        const INT_PTR result = run(wizard);
+        wizard->FreeFont();
+        wizard->RecordWizard(0, instruction, 0);
+        return result == IDOK ? IDOK : IDCANCEL;
+    });
 }
 
 int CFunWizard::DoOpenPIDDlg(int workArea, CWnd* parent)
 {
-    return RunOperation(IDCANCEL, [=, this] {
-        CPidDlg dialog(this, workArea, parent);
-        return OpenDirectly(kPid, &dialog, parent);
-    });
+    return OpenDirectly(kPid, parent, [=](CFunWizard* wizard) { return CPidDlg(wizard, workArea, parent).DoModal(); });
 }
 
 int CFunWizard::DoOpenSCRDlg(ULONGLONG*, CWnd* parent)
 {
-    return RunOperation(IDCANCEL, [=, this] { return OpenDirectly(kScreenDisplay, nullptr, parent); });
+    return OpenDirectly(kScreenDisplay, parent, [](CFunWizard*) { return IDCANCEL; });
 }
 
 int CFunWizard::DoOpenSCALDlg(ULONGLONG*, int kind, CWnd* parent)
 {
-    const int instruction = kScaling[kind == 0 || kind == 1 ? kind : 2];
-    return RunOperation(IDCANCEL, [=, this] { return OpenDirectly(instruction, nullptr, parent); });
+    return OpenDirectly(kScaling[kind == 0 || kind == 1 ? kind : 2], parent, [](CFunWizard*) { return IDCANCEL; });
 }
 
 int CFunWizard::DoInputPosCtrlDlg(ULONG& code, CWnd* parent)
 {
-    return RunOperation(IDCANCEL, [&, this] {
-        CreateDlgFont(parent);
-        CPosCtrlCodeDlg dialog(this, parent);
+    return OpenDialogs(parent, [&code, parent](CFunWizard*& wizard, const COpenWizard&) {
+        CPosCtrlCodeDlg dialog(wizard, parent);
         dialog.SetCode(code);
         const INT_PTR result = dialog.DoModal();
         if (result == IDOK)
             code = dialog.GetCode();
-        DeleteDlgFont();
+        wizard->FreeFont();
         return static_cast<int>(result);
     });
 }

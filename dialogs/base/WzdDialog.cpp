@@ -5,6 +5,7 @@
 #include "core/FillText.h"
 #include "core/FunWizard.h"
 #include "core/Memory.h"
+#include "core/OpenWizard.h"
 #include "core/ResourceScope.h"
 #include "resources/resource.h"
 
@@ -20,8 +21,10 @@ CWzdDialog::CWzdDialog(CFunWizard* wizard, UINT templateId, CWnd* parent)
 
 INT_PTR CWzdDialog::DoModal()
 {
-    CResourceScope scope(m_wizard != nullptr ? m_wizard->GetLoadInstance() : nullptr);
-    return CDialog::DoModal();
+    const COpenWizard open(m_wizard, this);
+    const CResourceScope scope(m_wizard != nullptr ? m_wizard->GetLoadInstance() : nullptr);
+    const INT_PTR result = CDialog::DoModal();
+    return open.IsOrphaned() ? IDCANCEL : result;
 }
 
 BOOL CWzdDialog::OnInitDialog()

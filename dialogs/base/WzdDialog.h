@@ -9,11 +9,11 @@ class CFunWizard;
 class CWzdDialog : public CDialog
 {
 public:
-    /// `wizard` is not owned and outlives the dialog.
+    /// `wizard` is not owned. The host may destroy it while the dialog is open, which ends the dialog.
     CWzdDialog(CFunWizard* wizard, UINT templateId, CWnd* parent);
 
     /// Runs the dialog with the language library as the source of texts: 1 on OK, 2 on Back or Cancel or when the
-    /// dialog could not be opened, -1 when the source does not hold the template.
+    /// dialog could not be opened or the wizard was destroyed, -1 when the source does not hold the template.
     INT_PTR DoModal() override;
 
     CFunWizard& Wizard() const { return *m_wizard; }
@@ -62,5 +62,5 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CFunWizard* m_wizard;
+    CFunWizard* m_wizard; // a stand-in once the host has destroyed the wizard of an open dialog
 };
