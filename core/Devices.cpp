@@ -85,3 +85,33 @@ EPlcFamily PlcFamily(unsigned char plcType)
 }
 
 bool IsLargeFamilyB(unsigned char plcType) { return plcType >= 70 && plcType <= 74; }
+
+namespace
+{
+
+struct SPermission
+{
+    short code;
+    DWORD bit; // 0: never permitted
+};
+
+// Hosts know a device, 81, that is in no row of the device table.
+constexpr SPermission kPermissions[] = {
+    {kDeviceL, 0x80},      {kDeviceR, 0x40},           {kDeviceY, 0x20},
+    {kDeviceX, 0x10},      {kDeviceT, 0x200},          {kDeviceC, 0x400},
+    {kDeviceSV, 0x200000}, {kDeviceEV, 0x400000},      {kDeviceLD, 0x1000000},
+    {kDeviceDT, 0x800000}, {kDeviceFL, 0x2000000},     {kDeviceK, 0x1},
+    {kDeviceH, 0x2},       {kDeviceIndex, 0x10000000}, {kDeviceP, 0x100},
+    {kDeviceE, 0x800},     {kDeviceReal, 0x4},         {kDeviceWL, 0x80000},
+    {kDeviceWR, 0x40000},  {kDeviceWY, 0x20000},       {81, 0x100000},
+    {kDeviceWX, 0},        {kDeviceSpecialDT, 0},
+};
+
+} // namespace
+
+bool IsDevicePermitted(ULONGLONG mask, short code)
+{
+    const auto* row = std::find_if(std::begin(kPermissions), std::end(kPermissions),
+                                   [code](const SPermission& permission) { return permission.code == code; });
+    return row == std::end(kPermissions) || (mask & row->bit) != 0;
+}

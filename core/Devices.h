@@ -70,3 +70,7 @@ EPlcFamily PlcFamily(unsigned char plcType);
 
 /// Types 70..74: the part of family B with a longer instruction list and instruction sequences of its own.
 bool IsLargeFamilyB(unsigned char plcType);
+
+/// Whether a host permits a device for an operand: `mask` has a bit for each device that can be left out. WX and Sp.DT
+/// are never permitted, and devices without a bit always.
+bool IsDevicePermitted(ULONGLONG mask, short code);

@@ -12,8 +12,8 @@
 namespace
 {
 
-constexpr int kFirstSelectable = 168;
-constexpr int kSelectableCount = 10;
+constexpr int kFirstSelectable = kInstructionSpd1;
+constexpr int kSelectableCount = kInstructionF177 - kInstructionSpd1 + 1;
 constexpr int kDeviceBuckets = 101;
 constexpr int kDeviceBlock = 10;
 constexpr WORD kDefaultChannels = 5;
@@ -44,7 +44,7 @@ IMPLEMENT_DYNAMIC(CFunWizard, CObject)
 
 CFunWizard::CFunWizard()
     : m_library(nullptr), m_dialogFont(nullptr), m_dialogData(nullptr), m_deviceRanges(kDeviceBlock), m_unitMode(0),
-      m_axisType(1), m_lastInstruction(-1),
+      m_axisType(1), m_lastInstruction(kNoInstruction),
       m_lastVariant(0), m_channels{kDefaultChannels, kDefaultChannels, kDefaultChannels, kDefaultChannels,
                                    kDefaultChannels},
       m_onlyDataTable(0), m_commentRecord(1), m_startType(0), m_plcType(0), m_options{1, 0, 1, 0}
@@ -77,7 +77,7 @@ void CFunWizard::ResetContents()
     ClearSuppportFunInfo();
     m_deviceRanges.RemoveAll();
     m_axisType = 1;
-    RecordWizard(0, -1, 0);
+    RecordWizard(0, kNoInstruction, 0);
     RemoveAllOprdInfo();
     RemoveAllDataInfo();
     RemoveAllInstCodeInfo();

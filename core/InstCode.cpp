@@ -19,8 +19,6 @@ constexpr int kTransferWord = 0;
 constexpr int kTransferDoubleWord = 1;
 constexpr int kTransferReal = 309;
 
-constexpr int kPid = 355;
-
 // Special relay word 901: bit 0 is always on, bit 3 is on in the first scan.
 constexpr int kAlwaysOnRelay = 901 * 16 + 0;
 constexpr int kFirstScanRelay = 901 * 16 + 3;
@@ -30,11 +28,15 @@ bool IsSpecialStart(const SContact& contact)
     return contact.Code() == kDeviceSpecialR && (contact.number == kAlwaysOnRelay || contact.number == kFirstScanRelay);
 }
 
-bool IsScaling(int instruction) { return instruction == 282 || instruction == 283 || instruction == 354; }
+bool IsScaling(int instruction)
+{
+    return instruction == kInstructionScal || instruction == kInstructionDscal || instruction == kInstructionFscal;
+}
 
 bool StartsOnEdge(int instruction)
 {
-    return instruction == 168 || instruction == 171 || instruction == 174 || instruction == 175 || instruction == kPid;
+    return instruction == kInstructionSpd1 || instruction == kInstructionSpdh || instruction == kInstructionSp0h ||
+           instruction == kInstructionSpsh || instruction == kInstructionPid;
 }
 
 } // namespace
@@ -171,7 +173,7 @@ private:
 bool CInstCodeGenerator::WantsDifferential(const SContact& start) const
 {
     const int instruction = m_wizard.m_lastInstruction;
-    if (IsSpecialStart(start) || (FirstOption() && SecondOption() == 0 && instruction == 171))
+    if (IsSpecialStart(start) || (FirstOption() && SecondOption() == 0 && instruction == kInstructionSpdh))
         return false;
     return StartsOnEdge(instruction) || IsLargeFamilyB(m_wizard.m_plcType);
 }
@@ -192,8 +194,9 @@ bool CInstCodeGenerator::EmitPulseBlockStart(int& row, bool& noted)
 bool CInstCodeGenerator::EmitPulseInstructionStart(bool noted)
 {
     const int instruction = m_wizard.m_lastInstruction;
-    const bool startsOnEdge =
-        (SecondOption() == 1 && instruction == 171) || instruction == 174 || instruction == 175 || instruction == 177;
+    const bool startsOnEdge = (SecondOption() == 1 && instruction == kInstructionSpdh) ||
+                              instruction == kInstructionSp0h || instruction == kInstructionSpsh ||
+                              instruction == kInstructionF177;
     if (startsOnEdge)
         return noted || (EmitContact(0) && EmitDifferential());
     // The rung of the table goes on when it ends in the condition that the instruction asks for. The starting contact
@@ -220,7 +223,7 @@ bool CInstCodeGenerator::GeneratePulse()
         return true;
     if (IsLargeFamilyB(m_wizard.m_plcType) && !EmitPulseInstructionStart(noted))
         return false;
-    if (m_wizard.m_lastInstruction == kPid && !EmitContact(0))
+    if (m_wizard.m_lastInstruction == kInstructionPid && !EmitContact(0))
         return false;
     return EmitInstruction(0);
 }
@@ -254,7 +257,8 @@ bool CInstCodeGenerator::GenerateScaling()
     for (int i = 0; i < contacts; i++)
         if (!EmitContact(i))
             return false;
-    return EmitInstruction(m_wizard.m_lastInstruction == 283 || m_wizard.m_lastInstruction == 354 ? 1 : 0);
+    const int instruction = m_wizard.m_lastInstruction;
+    return EmitInstruction(instruction == kInstructionDscal || instruction == kInstructionFscal ? 1 : 0);
 }
 
 // ---- Positioning-unit operations ------------------------------------------------------------------------------------
@@ -302,9 +306,9 @@ int CFunWizard::CreateInstCode()
     RemoveAllInstCodeInfo();
     if (m_unitMode == 0)
         return IsScaling(m_lastInstruction) ? CreateInstCode_11() : CreateInstCode_1();
-    if (m_lastInstruction == kUnitInstruction && m_lastVariant == kUnitPulsar)
+    if (m_lastInstruction == kInstructionUnit && m_lastVariant == kUnitPulsar)
         return CreateInstCode_4();
-    if (m_lastInstruction == kUnitInstruction && m_lastVariant == kUnitJogSpeedChange)
+    if (m_lastInstruction == kInstructionUnit && m_lastVariant == kUnitJogSpeedChange)
         return CreateInstCode_3();
     return CreateInstCode_2();
 }

@@ -9,9 +9,8 @@ namespace
 {
 
 constexpr BYTE kDefaultMaxSlot = 32;
-constexpr int kFirstChannelInstruction = 171;
-constexpr int kChannelInstructions = 5;
-constexpr int kF175 = 175;
+constexpr int kFirstChannelInstruction = kInstructionSpdh;
+constexpr int kChannelInstructions = kInstructionSpsh - kInstructionSpdh + 1;
 constexpr int kMaskBits = 16;
 constexpr int kDispTypeShift = 12;
 constexpr WORD kDispTypeMask = 0xF000;
@@ -105,11 +104,11 @@ void CFunWizard::SetF175DispType(unsigned short type)
 {
     if (type != 1 && type != 2)
         return;
-    WORD& mask = m_channels[GetChannelTypeIndex(kF175)];
+    WORD& mask = m_channels[GetChannelTypeIndex(kInstructionSpsh)];
     mask = static_cast<WORD>((mask & ~kDispTypeMask) | type << kDispTypeShift);
 }
 
 unsigned short CFunWizard::GetF175DispType() const
 {
-    return static_cast<unsigned short>(*ChannelMask(kF175) >> kDispTypeShift);
+    return static_cast<unsigned short>(*ChannelMask(kInstructionSpsh) >> kDispTypeShift);
 }

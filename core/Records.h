@@ -5,6 +5,8 @@
 
 #include "afx/afx.h"
 
+#include "core/Instructions.h"
+
 #pragma pack(push, 1)
 
 /// One instruction of a generated sequence, or one operand of the instruction before it.
@@ -69,21 +71,6 @@ enum EInstKind : short
     kInstStartOutput = 3,   ///< the output of a start relay
     kInstFunction = 8,      ///< a function instruction, its number in the value
     kInstDifferential = 17  ///< the differential instruction after the starting contact
-};
-
-/// The instruction number under which every operation of the positioning unit is recorded, and its variants.
-constexpr int kUnitInstruction = 151;
-
-enum EUnitVariant
-{
-    kUnitEPoint = 10010,
-    kUnitPPointStart = 10020,
-    kUnitPPointPassing = 10030,
-    kUnitJog = 10040,
-    kUnitJogSpeedChange = 10050,
-    kUnitJogPositioning = 10060,
-    kUnitHomeReturn = 10070,
-    kUnitPulsar = 10080
 };
 
 /// Data-type byte of SFunSetData.

@@ -9,57 +9,57 @@ namespace
 // ---- Lists ----------------------------------------------------------------------------------------------------------
 
 constexpr SCatalogueItem kListA[] = {
-    {IDS_LIST_SPD1_TRAPEZOIDAL, {168, 0}},
-    {IDS_LIST_SPD1_HOME, {168, 1}},
-    {IDS_LIST_PLS, {169, 0}},
-    {IDS_LIST_PWM, {170, 0}},
-    {IDS_LIST_SPDH_TRAPEZOIDAL, {171, 0}},
-    {IDS_LIST_SPDH_HOME, {171, 1}},
-    {IDS_LIST_PLSH, {172, 0}},
-    {IDS_LIST_PWMH, {173, 0}},
-    {IDS_LIST_SP0H, {174, 0}},
-    {IDS_LIST_SPSH, {175, 0}},
-    {IDS_LIST_SPCH, {176, 0}},
+    {IDS_LIST_SPD1_TRAPEZOIDAL, {kInstructionSpd1, 0}},
+    {IDS_LIST_SPD1_HOME, {kInstructionSpd1, 1}},
+    {IDS_LIST_PLS, {kInstructionPls, 0}},
+    {IDS_LIST_PWM, {kInstructionPwm, 0}},
+    {IDS_LIST_SPDH_TRAPEZOIDAL, {kInstructionSpdh, 0}},
+    {IDS_LIST_SPDH_HOME, {kInstructionSpdh, 1}},
+    {IDS_LIST_PLSH, {kInstructionPlsh, 0}},
+    {IDS_LIST_PWMH, {kInstructionPwmh, 0}},
+    {IDS_LIST_SP0H, {kInstructionSp0h, 0}},
+    {IDS_LIST_SPSH, {kInstructionSpsh, 0}},
+    {IDS_LIST_SPCH, {kInstructionSpch, 0}},
     // Hosts cannot register 355, so the list never shows it: PID has an opening operation of its own.
-    {IDS_LIST_PID, {355, 0}},
+    {IDS_LIST_PID, {kInstructionPid, 0}},
 };
 
 constexpr SCatalogueItem kListB1[] = {
-    {IDS_LIST_B_SPDH_TRAPEZOIDAL, {171, 0}},
-    {IDS_LIST_B_SPDH_HOME, {171, 1}},
-    {IDS_LIST_B_PLSH, {172, 0}},
-    {IDS_LIST_B_PWMH, {173, 0}},
-    {IDS_LIST_B_SP0H, {174, 0}},
-    {IDS_LIST_B_SPSH, {175, 0}},
-    {IDS_LIST_B_F177, {177, 0}},
+    {IDS_LIST_B_SPDH_TRAPEZOIDAL, {kInstructionSpdh, 0}},
+    {IDS_LIST_B_SPDH_HOME, {kInstructionSpdh, 1}},
+    {IDS_LIST_B_PLSH, {kInstructionPlsh, 0}},
+    {IDS_LIST_B_PWMH, {kInstructionPwmh, 0}},
+    {IDS_LIST_B_SP0H, {kInstructionSp0h, 0}},
+    {IDS_LIST_B_SPSH, {kInstructionSpsh, 0}},
+    {IDS_LIST_B_F177, {kInstructionF177, 0}},
 };
 
 constexpr SCatalogueItem kListB2[] = {
-    {IDS_LIST_B_SPDH_TRAPEZOIDAL, {171, 0}},
-    {IDS_LIST_B_PLSH, {172, 0}},
-    {IDS_LIST_B_PWMH, {173, 0}},
-    {IDS_LIST_B_SP0H, {174, 0}},
-    {IDS_LIST_B_F177, {177, 0}},
+    {IDS_LIST_B_SPDH_TRAPEZOIDAL, {kInstructionSpdh, 0}},
+    {IDS_LIST_B_PLSH, {kInstructionPlsh, 0}},
+    {IDS_LIST_B_PWMH, {kInstructionPwmh, 0}},
+    {IDS_LIST_B_SP0H, {kInstructionSp0h, 0}},
+    {IDS_LIST_B_F177, {kInstructionF177, 0}},
 };
 
 constexpr SCatalogueItem kListB3[] = {
-    {IDS_LIST_B_SPDH_TRAPEZOIDAL, {171, 0}},
-    {IDS_LIST_B_PLSH, {172, 0}},
-    {IDS_LIST_B_PWMH, {173, 0}},
-    {IDS_LIST_B_SP0H, {174, 0}},
-    {IDS_LIST_B_SPSH, {175, 0}},
-    {IDS_LIST_B_F177, {177, 0}},
+    {IDS_LIST_B_SPDH_TRAPEZOIDAL, {kInstructionSpdh, 0}},
+    {IDS_LIST_B_PLSH, {kInstructionPlsh, 0}},
+    {IDS_LIST_B_PWMH, {kInstructionPwmh, 0}},
+    {IDS_LIST_B_SP0H, {kInstructionSp0h, 0}},
+    {IDS_LIST_B_SPSH, {kInstructionSpsh, 0}},
+    {IDS_LIST_B_F177, {kInstructionF177, 0}},
 };
 
 constexpr SCatalogueItem kUnitList[] = {
-    {IDS_LIST_E_POINT, {kUnitInstruction, kUnitEPoint}},
-    {IDS_LIST_P_POINT_START, {kUnitInstruction, kUnitPPointStart}},
-    {IDS_LIST_P_POINT_PASSING, {kUnitInstruction, kUnitPPointPassing}},
-    {IDS_LIST_JOG, {kUnitInstruction, kUnitJog}},
-    {IDS_LIST_JOG_SPEED_CHANGE, {kUnitInstruction, kUnitJogSpeedChange}},
-    {IDS_LIST_JOG_POSITIONING, {kUnitInstruction, kUnitJogPositioning}},
-    {IDS_LIST_HOME_RETURN, {kUnitInstruction, kUnitHomeReturn}},
-    {IDS_LIST_PULSAR, {kUnitInstruction, kUnitPulsar}},
+    {IDS_LIST_E_POINT, {kInstructionUnit, kUnitEPoint}},
+    {IDS_LIST_P_POINT_START, {kInstructionUnit, kUnitPPointStart}},
+    {IDS_LIST_P_POINT_PASSING, {kInstructionUnit, kUnitPPointPassing}},
+    {IDS_LIST_JOG, {kInstructionUnit, kUnitJog}},
+    {IDS_LIST_JOG_SPEED_CHANGE, {kInstructionUnit, kUnitJogSpeedChange}},
+    {IDS_LIST_JOG_POSITIONING, {kInstructionUnit, kUnitJogPositioning}},
+    {IDS_LIST_HOME_RETURN, {kInstructionUnit, kUnitHomeReturn}},
+    {IDS_LIST_PULSAR, {kInstructionUnit, kUnitPulsar}},
 };
 
 constexpr BYTE kPlcTypeB2 = 114;
@@ -74,7 +74,7 @@ struct SForms
     UINT second;
 
     constexpr SForms(UINT both = 0) : first(both), second(both) {}
-    constexpr SForms(UINT normal, UINT other) : first(normal), second(other) {}
+    constexpr SForms(UINT one, UINT other) : first(one), second(other) {}
 };
 
 struct SFamilyRow
@@ -86,36 +86,36 @@ struct SFamilyRow
 };
 
 constexpr SFamilyRow kExplanations[] = {
-    {168, {IDS_EXPLAIN_SPD1_TRAPEZOIDAL, IDS_EXPLAIN_SPD1_HOME}, {}, {}},
-    {169, IDS_EXPLAIN_PLS, {}, {}},
-    {170, IDS_EXPLAIN_PWM, {}, {}},
-    {171,
+    {kInstructionSpd1, {IDS_EXPLAIN_SPD1_TRAPEZOIDAL, IDS_EXPLAIN_SPD1_HOME}, {}, {}},
+    {kInstructionPls, IDS_EXPLAIN_PLS, {}, {}},
+    {kInstructionPwm, IDS_EXPLAIN_PWM, {}, {}},
+    {kInstructionSpdh,
      {IDS_EXPLAIN_SPDH_TRAPEZOIDAL, IDS_EXPLAIN_SPDH_HOME},
      {IDS_EXPLAIN_B_SPDH_TRAPEZOIDAL, IDS_EXPLAIN_B_SPDH_HOME},
      {IDS_EXPLAIN_C_SPDH_TRAPEZOIDAL, IDS_EXPLAIN_C_SPDH_HOME}},
-    {172, IDS_EXPLAIN_PLSH, IDS_EXPLAIN_B_PLSH, IDS_EXPLAIN_C_PLSH},
-    {173, IDS_EXPLAIN_PWMH, IDS_EXPLAIN_B_PWMH, IDS_EXPLAIN_C_PWMH},
-    {174, IDS_EXPLAIN_SP0H, IDS_EXPLAIN_B_SP0H, IDS_EXPLAIN_C_SP0H},
-    {175, IDS_EXPLAIN_SPSH, IDS_EXPLAIN_B_SPSH, IDS_EXPLAIN_C_SPSH},
-    {176, IDS_EXPLAIN_SPCH, {}, {}},
-    {177, {}, IDS_EXPLAIN_B_F177, {}},
-    {355, IDS_EXPLAIN_PID, IDS_EXPLAIN_PID, {}},
+    {kInstructionPlsh, IDS_EXPLAIN_PLSH, IDS_EXPLAIN_B_PLSH, IDS_EXPLAIN_C_PLSH},
+    {kInstructionPwmh, IDS_EXPLAIN_PWMH, IDS_EXPLAIN_B_PWMH, IDS_EXPLAIN_C_PWMH},
+    {kInstructionSp0h, IDS_EXPLAIN_SP0H, IDS_EXPLAIN_B_SP0H, IDS_EXPLAIN_C_SP0H},
+    {kInstructionSpsh, IDS_EXPLAIN_SPSH, IDS_EXPLAIN_B_SPSH, IDS_EXPLAIN_C_SPSH},
+    {kInstructionSpch, IDS_EXPLAIN_SPCH, {}, {}},
+    {kInstructionF177, {}, IDS_EXPLAIN_B_F177, {}},
+    {kInstructionPid, IDS_EXPLAIN_PID, IDS_EXPLAIN_PID, {}},
 };
 
 constexpr SFamilyRow kTemplates[] = {
-    {168, {IDD_SPD1_TRAPEZOIDAL, IDD_SPD1_HOME}, {}, {}},
-    {169, IDD_PLS, {}, {}},
-    {170, IDD_PWM, {}, {}},
-    {171,
+    {kInstructionSpd1, {IDD_SPD1_TRAPEZOIDAL, IDD_SPD1_HOME}, {}, {}},
+    {kInstructionPls, IDD_PLS, {}, {}},
+    {kInstructionPwm, IDD_PWM, {}, {}},
+    {kInstructionSpdh,
      {IDD_SPDH_TRAPEZOIDAL, IDD_SPDH_HOME},
      {IDD_B_SPDH_TRAPEZOIDAL, IDD_B_SPDH_HOME},
      {IDD_C_SPDH_TRAPEZOIDAL, IDD_C_SPDH_HOME}},
-    {172, IDD_PLSH, IDD_B_PLSH, IDD_C_PLSH},
-    {173, IDD_PWMH, IDD_B_PWMH, IDD_C_PWMH},
-    {174, IDD_SP0H, IDD_B_SP0H, IDD_C_SP0H},
-    {175, IDD_SPSH, IDD_B_SPSH, IDD_C_SPSH},
-    {176, IDD_SPCH, {}, {}},
-    {177, {}, IDD_B_F177, {}},
+    {kInstructionPlsh, IDD_PLSH, IDD_B_PLSH, IDD_C_PLSH},
+    {kInstructionPwmh, IDD_PWMH, IDD_B_PWMH, IDD_C_PWMH},
+    {kInstructionSp0h, IDD_SP0H, IDD_B_SP0H, IDD_C_SP0H},
+    {kInstructionSpsh, IDD_SPSH, IDD_B_SPSH, IDD_C_SPSH},
+    {kInstructionSpch, IDD_SPCH, {}, {}},
+    {kInstructionF177, {}, IDD_B_F177, {}},
 };
 
 UINT LookUp(std::span<const SFamilyRow> rows, EPlcFamily family, const SWizardChoice& choice, bool second)

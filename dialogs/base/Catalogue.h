@@ -16,7 +16,7 @@ enum EWizardMode : unsigned char
 /// An instruction with the form or operation chosen.
 struct SWizardChoice
 {
-    int instruction = -1;
+    int instruction = kNoInstruction;
     int variant = 0;
 
     bool operator==(const SWizardChoice&) const = default;

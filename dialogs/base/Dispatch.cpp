@@ -1,47 +1,16 @@
-// The operations of the wizard object that open dialogs, and the way from a choice to its dialog.
+// The operations of the wizard object that open dialogs.
 #include "core/FunWizard.h"
 #include "core/Memory.h"
 #include "core/OpenWizard.h"
+#include "dialogs/base/DialogTable.h"
 #include "dialogs/base/PosSelectDlg.h"
-#include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
 #include "dialogs/process/PidDlg.h"
-#include "dialogs/pulse/Spd1Dlg.h"
-#include "dialogs/pulse/SpdhDlg.h"
-#include "resources/resource.h"
 
 namespace
 {
 
-constexpr int kPid = 355;
-constexpr int kScreenDisplay = 180;
-constexpr int kScaling[] = {282, 283, 354};
-
-/// The forms of E point control among the operations of the unit.
-EEPointForm EPointForm(int variant)
-{
-    return variant == kUnitPPointStart      ? kPPointStartForm
-           : variant == kUnitJogPositioning ? kJogPositioningForm
-                                            : kEPointForm;
-}
-
-/// Runs the dialog of a choice, which has the template: its result, or -1 when there is no such dialog.
-INT_PTR RunInstructionDialog(UINT templateId, int variant, CFunWizard* wizard, CWnd* parent)
-{
-    switch (templateId)
-    {
-    case IDD_SPD1_TRAPEZOIDAL:
-    case IDD_SPD1_HOME:
-        return CSpd1Dlg(wizard, templateId == IDD_SPD1_HOME, parent).DoModal();
-    case IDD_SPDH_TRAPEZOIDAL:
-    case IDD_SPDH_HOME:
-        return CSpdhDlg(wizard, templateId == IDD_SPDH_HOME, parent).DoModal();
-    case IDD_EPOINT:
-        return CEPointDlg(wizard, EPointForm(variant), parent).DoModal();
-    default:
-        return -1;
-    }
-}
+constexpr int kScaling[] = {kInstructionScal, kInstructionDscal, kInstructionFscal};
 
 } // namespace
 
@@ -79,7 +48,7 @@ int CFunWizard::DoOpenPosDlg(unsigned char mode, unsigned char axisFlag, CWnd* p
             wizard->EnterWizard(choice.instruction, choice.variant);
             wizard->m_axisType = axisFlag;
             const UINT templateId = DialogTemplate(wizardMode, wizard->m_plcType, choice);
-            if (RunInstructionDialog(templateId, choice.variant, wizard, parent) != IDOK)
+            if (RunDialog(templateId, choice.variant, wizard, parent) != IDOK)
                 continue;
             wizard->RecordWizard(mode, choice.instruction, choice.variant);
             wizard->FreeFont();
@@ -104,12 +73,13 @@ int CFunWizard::OpenDirectly(int instruction, CWnd* parent, TRun run)
 
 int CFunWizard::DoOpenPIDDlg(int workArea, CWnd* parent)
 {
-    return OpenDirectly(kPid, parent, [=](CFunWizard* wizard) { return CPidDlg(wizard, workArea, parent).DoModal(); });
+    return OpenDirectly(kInstructionPid, parent,
+                        [=](CFunWizard* wizard) { return CPidDlg(wizard, workArea, parent).DoModal(); });
 }
 
 int CFunWizard::DoOpenSCRDlg(ULONGLONG*, CWnd* parent)
 {
-    return OpenDirectly(kScreenDisplay, parent, [](CFunWizard*) { return IDCANCEL; });
+    return OpenDirectly(kInstructionScreen, parent, [](CFunWizard*) { return IDCANCEL; });
 }
 
 int CFunWizard::DoOpenSCALDlg(ULONGLONG*, int kind, CWnd* parent)

@@ -106,7 +106,7 @@ bool CPosSelectDlg::FillList()
     }
     SWizardChoice preset = m_choice;
     if (m_mode != kPulseInstructions)
-        preset.instruction = kUnitInstruction; // Whatever was confirmed before, the variant tells the operation.
+        preset.instruction = kInstructionUnit; // Whatever was confirmed before, the variant tells the operation.
     int selected = 0;
     for (const SCatalogueItem& item : CatalogueItems(m_mode, Wizard().GetPlcType()))
     {

@@ -116,6 +116,12 @@ void CWzdDialog::LimitText(UINT edit, int characters)
         item->LimitText(characters);
 }
 
+void CWzdDialog::TakeDigitsOnly(UINT edit, bool digitsOnly)
+{
+    if (CWnd* item = GetDlgItem(edit))
+        item->ModifyStyle(digitsOnly ? 0 : ES_NUMBER, digitsOnly ? ES_NUMBER : 0);
+}
+
 CWnd* CWzdDialog::ControlBefore(UINT id, int steps) const
 {
     CWnd* item = GetDlgItem(id);

@@ -2,7 +2,7 @@
 // a help topic, running out of memory, and access to the controls by id.
 #pragma once
 
-#include "dialogs/base/WzdField.h"
+#include "dialogs/base/WzdRow.h"
 
 class CFunWizard;
 
@@ -23,10 +23,13 @@ public:
     CString ItemText(UINT id) const;
     void SetItemText(UINT id, LPCSTR text);
     bool IsChecked(UINT id) const;
+    void Check(UINT id, bool checked) { CheckDlgButton(static_cast<int>(id), checked ? BST_CHECKED : BST_UNCHECKED); }
     int Selection(UINT combo) const;
     void Select(UINT combo, int index);
     void Enable(UINT id, bool enabled);
     void LimitText(UINT edit, int characters);
+    /// Whether only digits can be typed into an edit.
+    void TakeDigitsOnly(UINT edit, bool digitsOnly);
     /// The control before or after another one in tab order; null when there is none.
     CWnd* ControlBefore(UINT id, int steps = 1) const;
     CWnd* ControlAfter(UINT id) const;

@@ -6,27 +6,29 @@
 #include "core/FunWizard.h"
 #include "core/Values.h"
 #include "dialogs/base/WzdResults.h"
-
-#include <algorithm>
-#include <climits>
+#include "resources/resource.h"
 
 namespace
 {
 
-constexpr UINT kFirstControl = 1;
+constexpr UINT kFirstChoice = IDCANCEL + 1; // OK and Cancel go their own ways
 constexpr UINT kLastControl = 0x7FFF;
 constexpr short kRangeKind = -1; // Under which hosts set the device ranges.
 
+constexpr SWzdRow kContacts[] = {
+    {.combo = IDC_CONTACT_DEVICE, .rangeLabel = IDC_CONTACT_RANGE},
+    {.combo = IDC_SECOND_DEVICE, .rangeLabel = IDC_SECOND_RANGE},
+};
+
 } // namespace
 
-// Every combo may change what another field shows or accepts, so a selection refreshes them all.
 BEGIN_MESSAGE_MAP(CWzdDlgBase, CWzdDialog)
-ON_CONTROL_RANGE(CBN_SELCHANGE, kFirstControl, kLastControl, &CWzdDlgBase::OnSelectionChanged)
-ON_BN_CLICKED(IDC_ONLY_DATA_TABLE, &CWzdDlgBase::OnOnlyDataTable)
-ON_BN_CLICKED(IDC_START_OUTPUT_ENABLE, &CWzdDlgBase::RefreshFields)
-ON_BN_CLICKED(IDC_SAME_CONDITION, &CWzdDlgBase::RefreshFields)
+ON_BN_CLICKED(IDC_HELP_TOPIC, &CWzdDlgBase::OnHelpTopic)
 ON_BN_CLICKED(IDC_CLEAR_SETTINGS, &CWzdDlgBase::OnClearSettings)
 ON_BN_CLICKED(IDC_UNIT_CLEAR_SETTINGS, &CWzdDlgBase::OnClearSettings)
+ON_CONTROL_RANGE(BN_CLICKED, kFirstChoice, kLastControl, &CWzdDlgBase::OnChanged)
+ON_CONTROL_RANGE(CBN_SELCHANGE, kFirstChoice, kLastControl, &CWzdDlgBase::OnChanged)
+ON_CONTROL_RANGE(EN_KILLFOCUS, kFirstChoice, kLastControl, &CWzdDlgBase::OnEditLeft)
 END_MESSAGE_MAP()
 
 CWzdDlgBase::CWzdDlgBase(CFunWizard* wizard, UINT templateId, CWnd* parent) : CWzdDialog(wizard, templateId, parent) {}
@@ -34,9 +36,9 @@ CWzdDlgBase::CWzdDlgBase(CFunWizard* wizard, UINT templateId, CWnd* parent) : CW
 void CWzdDlgBase::DoFieldExchange(CWzdExchange*) {}
 
 template <typename TAction>
-bool CWzdDlgBase::ForEachField(TAction action)
+bool CWzdDlgBase::ForEachField(EFields fields, TAction action)
 {
-    CWzdWalk walk(*this, action);
+    CWzdWalk walk(*this, fields == kAllFields, action);
     DoFieldExchange(&walk);
     return walk.Succeeded();
 }
@@ -45,21 +47,25 @@ bool CWzdDlgBase::ForEachField(TAction action)
 
 bool CWzdDlgBase::Open()
 {
-    CheckDlgButton(IDC_ONLY_DATA_TABLE, Wizard().IsOnlyDataTable() ? BST_CHECKED : BST_UNCHECKED);
-    if (!ForEachField([](CWzdField& field) { return field.Open(); }))
+    Check(IDC_ONLY_DATA_TABLE, Wizard().IsOnlyDataTable());
+    if (!ForEachField(kAllFields, [](CWzdField& field) { return field.Open(); }))
         return false;
     RefreshFields();
-    int low, high;
-    m_impossible = !GetDataTableRange(low, high);
-    if (m_impossible)
+    m_state = IsPossible() ? kOpen : kImpossible;
+    if (m_state == kImpossible)
         DisableAllButFirstAndBack();
     return true;
+}
+
+bool CWzdDlgBase::IsPossible()
+{
+    return ForEachField(kActiveFields, [](CWzdField& field) { return field.IsPossible(); });
 }
 
 bool CWzdDlgBase::Confirm()
 {
     CWzdResults results;
-    if (!ForEachField([&results](CWzdField& field) { return field.Collect(results); }))
+    if (!ForEachField(kActiveFields, [&results](CWzdField& field) { return field.Collect(results); }))
         return false;
     if (!results.StoreIn(Wizard()))
     {
@@ -73,28 +79,37 @@ bool CWzdDlgBase::Confirm()
 
 void CWzdDlgBase::RefreshFields()
 {
-    if (m_impossible)
-        return; // Everything stays disabled.
-    ForEachField([](CWzdField& field) {
+    ForEachField(kAllFields, [](CWzdField& field) {
         field.Refresh();
         return true;
     });
 }
 
-void CWzdDlgBase::OnSelectionChanged(UINT) { RefreshFields(); }
-
-void CWzdDlgBase::OnOnlyDataTable()
+void CWzdDlgBase::OnChanged(UINT id)
 {
-    ForEachField([](CWzdField& field) {
-        field.OnOnlyDataTable();
+    if (m_state != kOpen)
+        return;
+    ForEachField(kAllFields, [id](CWzdField& field) {
+        field.OnChanged(id);
         return true;
     });
     RefreshFields();
 }
 
+void CWzdDlgBase::OnEditLeft(UINT id)
+{
+    if (m_state != kOpen)
+        return;
+    const bool isFollowed = !ForEachField(kActiveFields, [id](CWzdField& field) { return !field.FollowsEdit(id); });
+    if (isFollowed)
+        OnChanged(id);
+}
+
 void CWzdDlgBase::OnClearSettings()
 {
-    ForEachField([](CWzdField& field) {
+    if (m_state != kOpen)
+        return;
+    ForEachField(kAllFields, [](CWzdField& field) {
         field.Clear();
         return true;
     });
@@ -123,58 +138,59 @@ void CWzdDlgBase::DisableAllButFirstAndBack()
         GotoDlgCtrl(back); // Enter presses it, too.
 }
 
-// ---- Contacts -------------------------------------------------------------------------------------------------------
+// ---- Devices --------------------------------------------------------------------------------------------------------
+
+namespace
+{
+
+bool Offers(const SWzdRow& row, short code, BYTE bitKind)
+{
+    if (row.devices != kListAll && (row.devices == kListWords) != (bitKind == kWordDevice))
+        return false;
+    return row.permitted == nullptr || IsDevicePermitted(*row.permitted, code);
+}
+
+} // namespace
+
+bool CWzdDlgBase::FillDeviceCombo(const SWzdRow& row, short wanted)
+{
+    auto* list = static_cast<CComboBox*>(GetDlgItem(row.combo));
+    if (list == nullptr)
+        return false;
+    list->ResetContent();
+    int selected = 0;
+    short kind, code;
+    BYTE bitKind = kWordDevice;
+    for (int index = 0, found; (found = Wizard().GetSeqDevInfo(index, kind, code, bitKind, 0)) >= 0; index++)
+    {
+        if (row.devices == kListBits && bitKind == kWordDevice)
+            break; // bit devices come first
+        if (found > 0 || !Offers(row, code, bitKind))
+            continue;
+        const CString name = FormatDeviceName(code);
+        const int item = name.IsEmpty() ? CB_ERR : list->AddString(name);
+        if (item < 0 || list->SetItemData(item, static_cast<DWORD>(MAKELONG(code, kind))) < 0)
+            return false;
+        if (code == wanted)
+            selected = item;
+    }
+    list->SetCurSel(selected);
+    return true;
+}
 
 bool CWzdDlgBase::FillContactCombo(int comboId, int contactIndex)
 {
-    auto* list = static_cast<CComboBox*>(GetDlgItem(comboId));
-    if (list == nullptr)
-        return false;
     short kind, wanted = -1;
     int number;
     if (contactIndex <= 0 || !Wizard().IsSameCondition())
         Wizard().GetContInfo(contactIndex, kind, wanted, number);
-
-    list->ResetContent();
-    list->SetCurSel(CB_ERR);
-    short code;
-    BYTE bitKind = kWordDevice;
-    for (int index = 0, found; (found = Wizard().GetSeqDevInfo(index, kind, code, bitKind, 0)) >= 0; index++)
-    {
-        if (bitKind == kWordDevice)
-            break;
-        if (found > 0)
-            continue;
-        const CString name = FormatDeviceName(code);
-        const int item = name.IsEmpty() ? CB_ERR : list->AddString(name);
-        if (item < 0 || list->SetItemData(item, MAKELONG(code, kind)) < 0)
-            return false;
-        if (code == wanted)
-            list->SetCurSel(item);
-    }
-    if (list->GetCurSel() == CB_ERR)
-        list->SetCurSel(0);
-    return true;
-}
-
-bool CWzdDlgBase::FillJogDirectionCombo()
-{
-    static constexpr SWzdChoice kDirections[] = {{IDS_JOG_FORWARD, 0}, {IDS_JOG_REVERSE, 1}};
-    if (!FillCombo(IDC_JOG_DIRECTION, kDirections))
-        return false;
-    short kind, code;
-    int number;
-    const int count = Wizard().GetContInfoCount();
-    const bool reverse = count >= 3 && Wizard().GetContInfo(count - 1, kind, code, number) && code == kDeviceY &&
-                         FormatDeviceNumber(kDeviceY, number).Right(1) == "4";
-    Select(IDC_JOG_DIRECTION, reverse ? 1 : 0);
-    return true;
+    return FillDeviceCombo({.combo = static_cast<UINT>(comboId)}, wanted);
 }
 
 bool CWzdDlgBase::GetSelectedDevice(int comboId, short& kind, short& code) const
 {
     const auto* list = static_cast<CComboBox*>(GetDlgItem(comboId));
-    const int selection = Selection(comboId);
+    const int selection = Selection(static_cast<UINT>(comboId));
     if (selection == CB_ERR)
         return false;
     const auto data = static_cast<DWORD>(list->GetItemData(selection));
@@ -188,23 +204,21 @@ bool CWzdDlgBase::GetSelectedDeviceRange(int comboId, short& kind, short& code, 
     return GetSelectedDevice(comboId, kind, code) && Wizard().GetDevRange(kind, code, low, high);
 }
 
-bool CWzdDlgBase::ShowContactRange(UINT combo, UINT label)
+bool CWzdDlgBase::ShowDeviceRange(const SWzdRow& row)
 {
     short kind, code;
     int low, high;
-    if (!GetSelectedDeviceRange(combo, kind, code, low, high))
+    if (!GetSelectedDeviceRange(static_cast<int>(row.combo), kind, code, low, high))
         return false;
-    SetItemText(label, FillText(IDS_RANGE_TEXT, {FormatDeviceNumber(code, low), FormatDeviceNumber(code, high)}));
+    const int shownHigh = static_cast<int>(std::max<LONGLONG>(high - row.shownLess, INT_MIN));
+    SetItemText(row.rangeLabel,
+                FillText(IDS_RANGE_TEXT, {FormatDeviceNumber(code, low), FormatDeviceNumber(code, shownHigh)}));
     return true;
 }
 
-bool CWzdDlgBase::ShowContactRange(int which)
-{
-    return which == 0 ? ShowContactRange(IDC_CONTACT_DEVICE, IDC_CONTACT_RANGE)
-                      : ShowContactRange(IDC_SECOND_DEVICE, IDC_SECOND_RANGE);
-}
+bool CWzdDlgBase::ShowContactRange(int which) { return ShowDeviceRange(kContacts[which == 0 ? 0 : 1]); }
 
-// ---- Ranges ---------------------------------------------------------------------------------------------------------
+// ---- The data table -------------------------------------------------------------------------------------------------
 
 BOOL CWzdDlgBase::GetDataTableRange(int& low, int& high)
 {
@@ -220,14 +234,9 @@ BOOL CWzdDlgBase::GetDataTableRange(int& low, int& high)
 
 LONGLONG CWzdDlgBase::TableWords()
 {
-    CWzdWalk declarations(*this, [](CWzdField&) { return true; });
+    CWzdWalk declarations(*this, false, [](CWzdField&) { return true; });
     DoFieldExchange(&declarations);
     return declarations.TableWords();
-}
-
-bool CWzdDlgBase::GetWordDeviceRange(short code, int& low, int& high) const
-{
-    return (code == kDeviceY || code == kDeviceWY) && Wizard().GetDevRange(kRangeKind, code, low, high) && high >= low;
 }
 
 void CWzdDlgBase::ShowRange(CWnd* label, SWzdRange range)
@@ -241,17 +250,9 @@ bool CWzdDlgBase::ShowDataTableRange(UINT labelId)
     int low, high;
     if (!GetDataTableRange(low, high))
         return false;
-    ShowRange(GetDlgItem(labelId), {low, high});
+    ShowRange(GetDlgItem(static_cast<int>(labelId)), {low, high});
     return true;
 }
-
-SWzdRange CWzdDlgBase::AxisRange() const { return {1, Wizard().IsAxisType() ? 2 : 4}; }
-
-SWzdRange CWzdDlgBase::SlotRange() const { return {0, Wizard().GetMaxSlot() - 1}; }
-
-void CWzdDlgBase::ShowAxisRange(UINT editId) { ShowRange(ControlAfter(editId), AxisRange()); }
-
-void CWzdDlgBase::ShowSlotRange(UINT editId) { ShowRange(ControlAfter(editId), SlotRange()); }
 
 LONGLONG CWzdDlgBase::StoredTableStart() const
 {
@@ -260,32 +261,54 @@ LONGLONG CWzdDlgBase::StoredTableStart() const
     return Wizard().GetOprdInfo(0, code, number) && code == kDeviceDT ? number : -1;
 }
 
-DWORD CWzdDlgBase::StoredControlCode() const
+std::optional<DWORD> CWzdDlgBase::StoredControlCode() const
 {
     SFunSetData data;
-    return Wizard().GetDataInfo(0, &data) && data.code == kDeviceDT ? static_cast<DWORD>(data.value) : 0;
+    if (!Wizard().GetDataInfo(0, &data) || data.code != kDeviceDT)
+        return std::nullopt;
+    return static_cast<DWORD>(data.value);
 }
 
 // ---- Checking -------------------------------------------------------------------------------------------------------
 
-bool CWzdDlgBase::ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value, SWzdFormat format)
+bool CWzdDlgBase::ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value, const SWzdFormat& format)
 {
     if (!format.Parse(ItemText(edit), value))
         return Refuse(edit, IDS_ERR_NOT_A_NUMBER);
     return range.Holds(value) || Refuse(edit, message);
 }
 
-bool CWzdDlgBase::ReadContact(UINT combo, UINT edit, UINT message, short& code, int& number)
+UINT CWzdDlgBase::CheckDevice(const SWzdRow& row, short& code, int& number) const
 {
     short kind;
     int low, high;
-    if (!GetSelectedDeviceRange(combo, kind, code, low, high))
-        return Refuse(edit, message);
-    if (!ParseDeviceNumber(code, ItemText(edit), number))
-        return Refuse(edit, IDS_ERR_NOT_A_NUMBER);
-    return (number >= low && number <= high) || Refuse(edit, message);
+    if (!GetSelectedDeviceRange(static_cast<int>(row.combo), kind, code, low, high))
+        return row.message;
+    if (!ParseDeviceNumber(code, ItemText(row.edit), number))
+        return IDS_ERR_NOT_A_NUMBER;
+    return number >= low && number <= high ? 0 : row.message;
+}
+
+bool CWzdDlgBase::ReadDevice(const SWzdRow& row, short& code, int& number)
+{
+    const UINT problem = CheckDevice(row, code, number);
+    return problem == 0 || Refuse(row.edit, problem);
+}
+
+void CWzdDlgBase::AddComment(CWzdResults& results, const SWzdRow& row) const
+{
+    const SWzdComment& comment = row.comment;
+    if (comment.text != 0)
+    {
+        CString text;
+        text.LoadString(comment.text);
+        results.AddComment(text);
+    }
+    else if (comment.secondLabel != 0)
+        results.AddComment(ItemText(comment.label) + " " + ItemText(comment.secondLabel));
+    else
+        results.AddCommentFrom(comment.label != 0 ? GetDlgItem(static_cast<int>(comment.label))
+                                                  : ControlBefore(row.edit));
 }
 
 bool CWzdDlgBase::IsClipboardText() { return AfxIsClipboardText(); }
-
-int CWzdDlgBase::UnitBufferAddress(int slot, int axis) { return axis < 1 ? -1 : (axis + slot * 8 + 9) * 16; }

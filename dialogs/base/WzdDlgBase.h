@@ -21,77 +21,84 @@ public:
     /// Lists the fields in the order in which they are checked and stored.
     virtual void DoFieldExchange(CWzdExchange* wx);
 
-    // ---- Contacts ---------------------------------------------------------------------------------------------------
+    // ---- Devices ----------------------------------------------------------------------------------------------------
 
-    /// Lists the bit devices that the PLC has and selects the one of contact record `contactIndex`. False when the list
-    /// refuses an item.
+    /// Lists the devices of a row that the PLC has and selects `wanted`, or the first one when it is not among them.
+    /// False when the list refuses an item.
+    [[nodiscard]] bool FillDeviceCombo(const SWzdRow& row, short wanted);
+    /// The same for a contact: it selects the device of contact record `contactIndex`, but the first one for a further
+    /// contact that is the same as the starting condition.
     [[nodiscard]] bool FillContactCombo(int comboId, int contactIndex);
-    /// Shows the range of the selected device in the label of the contact. Without a selection or range the label stays
-    /// as it is and the result is false.
-    bool ShowContactRange(UINT combo, UINT label);
+    /// Shows the range of the selected device in the label of the row. Without a selection or range the label stays as
+    /// it is and the result is false.
+    bool ShowDeviceRange(const SWzdRow& row);
     /// The same for the starting condition (0) or the second one (1).
     bool ShowContactRange(int which);
-    /// Fills the combo of the JOG direction and selects the direction of the start output that the contact list ends
-    /// in: the second one runs from relays whose number ends in 4. False when the list refuses an item.
-    [[nodiscard]] bool FillJogDirectionCombo();
     bool GetSelectedDevice(int comboId, short& kind, short& code) const;
     bool GetSelectedDeviceRange(int comboId, short& kind, short& code, int& low, int& high) const;
 
-    // ---- Ranges -----------------------------------------------------------------------------------------------------
-
-    /// Shows "(low - high)" in a label, when there is one.
-    static void ShowRange(CWnd* label, SWzdRange range);
-    /// The range of words of the devices Y and WY; false for any other device or without a range.
-    bool GetWordDeviceRange(short code, int& low, int& high) const;
-    bool ShowDataTableRange(UINT labelId);
-    /// The axes of the positioning unit, and the slots in which it can be.
-    SWzdRange AxisRange() const;
-    SWzdRange SlotRange() const;
-    /// Shows the axes of the unit in the control after `editId`.
-    void ShowAxisRange(UINT editId);
-    /// Shows the slots in the control after `editId`.
-    void ShowSlotRange(UINT editId);
+    // ---- The stored results -----------------------------------------------------------------------------------------
 
     /// The register that the first operand names; -1 when it names none.
     LONGLONG StoredTableStart() const;
-    /// The control code that the data list begins with; 0 when it does not begin with a register.
-    virtual DWORD StoredControlCode() const;
-    /// A field of it.
-    DWORD StoredControlCode(SWzdBits bits) const { return bits.Extract(StoredControlCode()); }
+    /// The control code that the data list begins with; nothing when it does not begin with a register.
+    virtual std::optional<DWORD> StoredControlCode() const;
 
     // ---- Checking ---------------------------------------------------------------------------------------------------
 
     /// Reads an entry. False, with the message shown, when it is no number or outside the range.
-    [[nodiscard]] bool ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value, SWzdFormat format = {});
-    /// Reads a contact: the device selected in `combo` and the number in `edit`. False, with the message shown, when it
-    /// is no number or not of the PLC.
-    [[nodiscard]] bool ReadContact(UINT combo, UINT edit, UINT message, short& code, int& number);
+    [[nodiscard]] bool ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value,
+                                  const SWzdFormat& format = kSigned);
+    /// Reads the device selected in the combo of a row and the number in its edit. False, with the message shown, when
+    /// it is no number or not of the PLC.
+    [[nodiscard]] bool ReadDevice(const SWzdRow& row, short& code, int& number);
+    /// The same without a message shown: the message that would be, or 0.
+    UINT CheckDevice(const SWzdRow& row, short& code, int& number) const;
 
-    /// Only the first control and Back stay usable: there is no room for the data table.
+    /// Adds the comment of a row to the results; none when the controls it comes from are missing.
+    void AddComment(CWzdResults& results, const SWzdRow& row) const;
+
+    /// Shows "(low - high)" in a label, when there is one.
+    static void ShowRange(CWnd* label, SWzdRange range);
+    bool ShowDataTableRange(UINT labelId);
+
+    /// Only the first control and Back stay usable: the PLC lacks what the dialog needs.
     void DisableAllButFirstAndBack();
     static bool IsClipboardText();
-    /// The first relay of an axis of the positioning unit in a slot; -1 when `axis` is below 1.
-    static int UnitBufferAddress(int slot, int axis);
 
     /// How many registers the data table takes: as far as the declared entries reach.
     virtual LONGLONG TableWords();
 
 protected:
-    /// Brings all labels and the enabling into line with what the controls hold.
-    void RefreshFields();
+    /// The user has selected an item, clicked a button or left an edit. It may change what other fields show or accept,
+    /// so all are told and brought into line.
+    virtual void OnChanged(UINT id);
 
     [[nodiscard]] bool Open() override;
     [[nodiscard]] bool Confirm() override;
 
-    void OnSelectionChanged(UINT id);
-    void OnOnlyDataTable();
+    void OnEditLeft(UINT id);
     void OnClearSettings();
 
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// Which fields a walk comes to: all, or only those that count at the moment.
+    enum EFields
+    {
+        kAllFields,
+        kActiveFields
+    };
     template <typename TAction>
-    bool ForEachField(TAction action);
+    bool ForEachField(EFields fields, TAction action);
+    void RefreshFields();
+    bool IsPossible();
 
-    bool m_impossible = false; // there is no room for the data table
+    enum EState
+    {
+        kOpening,   // or it could not be opened
+        kOpen,      // for the user
+        kImpossible // the PLC lacks what a field needs: everything stays disabled
+    };
+    EState m_state = kOpening;
 };

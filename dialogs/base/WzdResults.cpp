@@ -1,6 +1,5 @@
 #include "dialogs/base/WzdResults.h"
 
-#include "core/Devices.h"
 #include "core/FunWizard.h"
 
 void CWzdResults::AddContact(short kind, short code, int number)
@@ -11,25 +10,26 @@ void CWzdResults::AddContact(short kind, short code, int number)
 void CWzdResults::SetOperand(int index, short code, int value)
 {
     if (m_operands.size() <= static_cast<size_t>(index))
-        m_operands.resize(index + 1);
-    m_operands[index] = {value, static_cast<WORD>(code)};
+        m_operands.resize(static_cast<size_t>(index) + 1);
+    m_operands[static_cast<size_t>(index)] = {value, static_cast<WORD>(code)};
 }
 
-void CWzdResults::AddData(SWzdEntry entry, EConstantFormat format, LONG value)
+void CWzdResults::AddData(const SWzdEntry& entry, EConstantFormat format, LONG value)
 {
-    m_data.push_back({entry, format, value});
+    m_data.push_back({entry.offset, entry.type, format, value});
 }
 
-void CWzdResults::AddControlCode(SWzdEntry entry)
+void CWzdResults::AddControlCode(const SWzdEntry& entry, EConstantFormat format)
 {
     m_codeRecord = m_data.size();
-    AddData(entry, kHexadecimalConstant, 0);
+    AddData(entry, format, 0);
 }
 
 void CWzdResults::AddToControlCode(DWORD bits)
 {
-    if (!m_codeEnded)
-        m_data.at(m_codeRecord).value |= static_cast<LONG>(bits);
+    ASSERT(m_codeRecord);
+    if (m_codeRecord && !m_codeEnded)
+        m_data[*m_codeRecord].value |= static_cast<LONG>(bits);
 }
 
 void CWzdResults::AddComment(const CString& text) { m_comments.push_back(text); }
@@ -50,7 +50,8 @@ bool CWzdResults::StoreIn(CFunWizard& wizard) const
 
 bool CWzdResults::StoreContacts(CFunWizard& wizard) const
 {
-    wizard.RemoveAllContInfo();
+    if (!m_keepsContacts)
+        wizard.RemoveAllContInfo();
     for (const SContact& contact : m_contacts)
         if (!wizard.AddContInfo(contact.Kind(), contact.Code(), contact.number))
             return false;
@@ -70,7 +71,8 @@ bool CWzdResults::StoreData(CFunWizard& wizard) const
 {
     wizard.RemoveAllDataInfo();
     for (const SData& data : m_data)
-        if (!wizard.AddDataInfo(kDeviceDT, m_tableStart + data.entry.offset, data.entry.type, data.format, data.value))
+        if (!wizard.AddDataInfo(m_tableStart.Code(), static_cast<int>(m_tableStart.value + data.offset), data.type,
+                                data.format, data.value))
             return false;
     return true;
 }

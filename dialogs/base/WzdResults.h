@@ -1,7 +1,8 @@
 // The results of a dialog whose entries have all been accepted.
 #pragma once
 
-#include "dialogs/base/WzdField.h"
+#include "core/Devices.h"
+#include "dialogs/base/WzdRow.h"
 
 #include <optional>
 #include <vector>
@@ -21,15 +22,17 @@ class CWzdResults
 {
 public:
     void AddContact(short kind, short code, int number);
+    /// The contacts are appended to those that the wizard has instead of replacing them.
+    void KeepContacts() { m_keepsContacts = true; }
     /// Operands are numbered: the order in which fields are checked need not be theirs.
     void SetOperand(int index, short code, int value);
 
-    /// The register at which the data table starts; the offsets of its entries count from it.
-    void SetTableStart(int number) { m_tableStart = number; }
-    void AddData(SWzdEntry entry, EConstantFormat format, LONG value);
+    /// The device at which the data table starts; the offsets of its entries count from its number.
+    void SetTableStart(short code, int number) { m_tableStart = {number, static_cast<WORD>(code)}; }
+    void AddData(const SWzdEntry& entry, EConstantFormat format, LONG value);
     /// Adds the control code as an entry of its own, its bits all 0.
-    void AddControlCode(SWzdEntry entry);
-    /// Sets bits of the control code.
+    void AddControlCode(const SWzdEntry& entry, EConstantFormat format);
+    /// Sets bits of the control code, which has been added.
     void AddToControlCode(DWORD bits);
     /// The control code is complete: bits that come later no longer count.
     void EndControlCode() { m_codeEnded = true; }
@@ -40,9 +43,9 @@ public:
     /// Sets the wizard's comment flag when the results are stored.
     void SetCommentRecord(bool on) { m_commentRecord = on; }
 
-    /// The positioning unit and the starting condition: a start output depends on them.
+    /// The positioning unit and the starting condition, if there is one: a start output depends on them.
     SWzdUnitAxis& Unit() { return m_unit; }
-    const SContact& StartingCondition() const { return m_contacts.at(0); }
+    const SContact* StartingCondition() const { return m_contacts.empty() ? nullptr : &m_contacts.front(); }
 
     /// Replaces the contact, operand and data lists and, when the wizard asks for them, the comments. False when the
     /// wizard ran out of memory: the lists are then as far as they were written.
@@ -51,7 +54,8 @@ public:
 private:
     struct SData
     {
-        SWzdEntry entry;
+        LONGLONG offset;
+        EDataType type;
         EConstantFormat format;
         LONG value;
     };
@@ -67,7 +71,8 @@ private:
     std::vector<SData> m_data;
     std::vector<CString> m_comments;
     std::optional<bool> m_commentRecord;
-    int m_tableStart = 0;
-    size_t m_codeRecord = 0;
+    bool m_keepsContacts = false;
+    SOperand m_tableStart = {0, kDeviceDT};
+    std::optional<size_t> m_codeRecord;
     bool m_codeEnded = false;
 };

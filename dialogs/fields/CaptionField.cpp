@@ -1,5 +1,6 @@
 // The caption of a dialog whose template serves several operations.
 #include "dialogs/base/WzdDlgBase.h"
+#include "dialogs/fields/Rows.h"
 
 namespace
 {
@@ -7,7 +8,7 @@ namespace
 class CCaptionField : public CWzdField
 {
 public:
-    CCaptionField(CWzdDlgBase& dialog, UINT text) : CWzdField(dialog), m_text(text) {}
+    CCaptionField(CWzdDlgBase& dialog, const SWzdRow& row, UINT text) : CWzdField(dialog, row), m_text(text) {}
 
     bool Open() override
     {
@@ -23,8 +24,4 @@ private:
 
 } // namespace
 
-void WDX_Caption(CWzdExchange* wx, UINT text)
-{
-    CCaptionField field(wx->Dialog(), text);
-    wx->Declare(field);
-}
+void WDX_Caption(CWzdExchange* wx, UINT text) { WzdDeclare<CCaptionField>(wx, {}, text); }

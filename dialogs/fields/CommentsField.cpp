@@ -2,6 +2,7 @@
 #include "core/FunWizard.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/base/WzdResults.h"
+#include "dialogs/fields/Rows.h"
 
 namespace
 {
@@ -13,7 +14,7 @@ public:
 
     bool Open() override
     {
-        m_dialog.CheckDlgButton(IDC_REGISTER_COMMENTS, m_dialog.Wizard().IsCmtRec() ? BST_CHECKED : BST_UNCHECKED);
+        m_dialog.Check(IDC_REGISTER_COMMENTS, m_dialog.Wizard().IsCmtRec());
         return true;
     }
 
@@ -26,8 +27,4 @@ public:
 
 } // namespace
 
-void WDX_RegisterComments(CWzdExchange* wx)
-{
-    CCommentsField field(wx->Dialog());
-    wx->Declare(field);
-}
+void WDX_RegisterComments(CWzdExchange* wx) { WzdDeclare<CCommentsField>(wx, {}); }

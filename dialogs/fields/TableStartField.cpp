@@ -4,6 +4,7 @@
 #include "core/Values.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/base/WzdResults.h"
+#include "dialogs/fields/Rows.h"
 
 namespace
 {
@@ -11,60 +12,59 @@ namespace
 class CTableStartField : public CWzdField
 {
 public:
-    CTableStartField(CWzdDlgBase& dialog, UINT edit, UINT rangeLabel, int operand, SWzdFormat format)
-        : CWzdField(dialog), m_edit(edit), m_rangeLabel(rangeLabel), m_operand(operand), m_format(format)
-    {
-    }
+    using CWzdField::CWzdField;
 
     bool Open() override
     {
         short code;
         int number;
-        const bool stored = m_dialog.Wizard().GetOprdInfo(m_operand, code, number) && code == kDeviceDT;
-        m_dialog.SetItemText(m_edit, stored ? FormatDecimal64(number) : CString());
-        int low, high;
-        const bool available = m_dialog.GetDataTableRange(low, high);
-        m_dialog.LimitText(m_edit, available ? FormatDecimal64(high).GetLength() : 0);
+        const bool stored = m_dialog.Wizard().GetOprdInfo(m_row.position, code, number) && code == kDeviceDT;
+        m_dialog.SetItemText(m_row.edit, stored ? FormatDecimal64(number) : CString());
         return true;
     }
 
-    void Refresh() override { m_dialog.ShowDataTableRange(m_rangeLabel); }
+    bool IsPossible() const override { return Range().has_value(); }
 
-    void Clear() override { m_dialog.SetItemText(m_edit, ""); }
+    // The longer the table, the lower the highest start.
+    void Refresh() override
+    {
+        const auto range = Range();
+        if (range)
+            CWzdDlgBase::ShowRange(m_dialog.GetDlgItem(m_row.rangeLabel), *range);
+        m_dialog.LimitText(m_row.edit, range ? FormatDecimal64(range->high).GetLength() : 0);
+    }
+
+    void Clear() override { m_dialog.SetItemText(m_row.edit, ""); }
 
     bool Collect(CWzdResults& results) override
     {
-        int low, high;
+        const auto range = Range();
+        if (!range)
+            return m_dialog.Refuse(m_row.edit, IDS_ERR_TABLE_START);
         LONGLONG start;
-        if (!m_dialog.GetDataTableRange(low, high))
-            return m_dialog.Refuse(m_edit, IDS_ERR_TABLE_START);
-        if (!m_dialog.ReadNumber(m_edit, {low, high}, IDS_ERR_TABLE_START, start, m_format))
+        if (!m_dialog.ReadNumber(m_row.edit, *range, IDS_ERR_TABLE_START, start, m_row.format))
             return false;
-        results.SetOperand(m_operand, kDeviceDT, static_cast<int>(start));
-        results.SetTableStart(static_cast<int>(start));
+        results.SetOperand(m_row.position, kDeviceDT, static_cast<int>(start));
+        results.SetTableStart(kDeviceDT, static_cast<int>(start));
         return true;
     }
 
-    SWzdFieldInfo Describe() const override
-    {
-        SWzdFieldInfo info;
-        info.edit = m_edit;
-        info.rangeLabel = m_rangeLabel;
-        info.message = IDS_ERR_TABLE_START;
-        return info;
-    }
-
 private:
-    UINT m_edit;
-    UINT m_rangeLabel;
-    int m_operand;
-    SWzdFormat m_format;
+    std::optional<SWzdRange> Range() const
+    {
+        int low, high;
+        if (!m_dialog.GetDataTableRange(low, high))
+            return std::nullopt;
+        return SWzdRange{low, high};
+    }
 };
 
 } // namespace
 
-void WDX_TableStart(CWzdExchange* wx, UINT edit, UINT rangeLabel, int operand, SWzdFormat format)
+void WDX_TableStart(CWzdExchange* wx, const SWzdRow& row)
 {
-    CTableStartField field(wx->Dialog(), edit, rangeLabel, operand, format);
-    wx->Declare(field);
+    wx->SetTableStart({row.edit, row.format});
+    SWzdRow complete = row;
+    complete.message = IDS_ERR_TABLE_START;
+    WzdDeclare<CTableStartField>(wx, complete);
 }

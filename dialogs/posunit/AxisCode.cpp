@@ -45,5 +45,8 @@ const SAxisCodeField& AxisCodeField(EAxisCode field) { return kFields[static_cas
 
 void WDX_AxisCode(CWzdExchange* wx, UINT combo, EAxisCode field, EUnselected unselected)
 {
-    WDX_Code(wx, combo, AxisCodeField(field).bits, AxisCodeField(field).items, {}, unselected);
+    WDX_Code(wx, {.combo = combo,
+                  .choices = AxisCodeField(field).items,
+                  .bits = AxisCodeField(field).bits,
+                  .unselected = unselected});
 }

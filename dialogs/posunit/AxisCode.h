@@ -1,7 +1,7 @@
 // The control code of a positioning unit's axis: one 32-bit word of bit fields, and the texts of their values.
 #pragma once
 
-#include "dialogs/base/WzdExchange.h"
+#include "dialogs/fields/Rows.h"
 
 /// The fields of the word. Bits 11, 14, 15, 22, 23, 26 and 27 belong to none.
 enum class EAxisCode

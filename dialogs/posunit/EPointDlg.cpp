@@ -1,6 +1,6 @@
 #include "dialogs/posunit/EPointDlg.h"
 
-#include "dialogs/posunit/AxisCode.h"
+#include "dialogs/posunit/UnitRows.h"
 
 namespace
 {
@@ -26,8 +26,8 @@ void CEPointDlg::DoFieldExchange(CWzdExchange* wx)
 {
     WDX_Caption    (wx, kForms[m_form].caption);
     WDX_Contact    (wx, IDS_ERR_UNIT_CONTACT);
-    WDX_UnitAxis   (wx, IDC_EPOINT_SLOT, IDC_EPOINT_AXIS);
-    WDX_TableStart (wx, IDC_EPOINT_START, IDC_EPOINT_START_RANGE, kTableOperand);
+    WDX_UnitAxis   (wx, IDC_EPOINT_SLOT, IDC_EPOINT_AXIS, 10);
+    WDX_TableStart (wx, {.edit = IDC_EPOINT_START, .position = kTableOperand, .rangeLabel = IDC_EPOINT_START_RANGE});
 
     //              control                          field                         without a selection
     WDX_ControlCode(wx, kTwoRegisters);
@@ -42,11 +42,10 @@ void CEPointDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_AxisCode   (wx, IDC_CODE_OUTPUT_MODE,        EAxisCode::OutputMode,        kCountsAsZero);
     WDX_AxisCode   (wx, IDC_CODE_DIVIDED_MODE,       EAxisCode::DividedMode,       kCountsAsZero);
 
-    //              control                       entry              limit  accepted        message when outside
-    WDX_Number     (wx, IDC_EPOINT_STARTUP_SPEED, {2, kTwoRegisters}, 7,    {0, 4000000},   IDS_ERR_STARTUP_SPEED);
-    WDX_Number     (wx, IDC_EPOINT_TARGET_SPEED,  {4, kTwoRegisters}, 7,    {1, 4000000},   IDS_ERR_TARGET_SPEED);
-    WDX_Number     (wx, IDC_EPOINT_TIME,          {6, kTwoRegisters}, 5,    {0, 32767},     IDS_ERR_UNIT_ACCELERATION_TIME);
-    WDX_Number     (wx, IDC_EPOINT_POSITION,      {8, kTwoRegisters}, 11,   kAnyDoubleWord, IDS_ERR_POSITION_COMMAND);
+    WDX_StartupSpeed    (wx, IDC_EPOINT_STARTUP_SPEED, 2);
+    WDX_TargetSpeed     (wx, IDC_EPOINT_TARGET_SPEED,  4);
+    WDX_AccelerationTime(wx, IDC_EPOINT_TIME,          6);
+    WDX_Position        (wx, IDC_EPOINT_POSITION,      8);
 
     WDX_StartOutput(wx, kForms[m_form].startBit);
 }

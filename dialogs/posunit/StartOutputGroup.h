@@ -5,12 +5,12 @@
 #include "afx/afx.h"
 
 /// Works on the controls of a dialog by their tab order. It does nothing when a control that it measures by is missing:
-/// not every template carries the group. The extended form has two controls more, those of the JOG direction.
+/// not every template carries the group. Its extended form has two controls more, those of the JOG direction.
 class CStartOutputGroup
 {
 public:
     /// `dialog` is not owned and outlives the group.
-    CStartOutputGroup(CWnd* dialog, bool extended);
+    explicit CStartOutputGroup(CWnd* dialog);
 
     /// Enables what the check boxes "start output" and "same condition" leave to be filled in.
     void UpdateEnabling() const;
@@ -20,9 +20,6 @@ public:
     void Compact(BYTE startType) const;
 
 private:
-    void HideFrom(CWnd* first, int count) const;
-    void MoveUp(CWnd* first, int distance) const;
-
     CWnd* m_dialog;
     bool m_extended;
     bool m_complete;

@@ -1,15 +1,13 @@
-// Which axis of which positioning unit the data table goes to.
+// Which axis of which positioning unit the data table goes to, and the numbers of which its moves consist.
 #include "core/Devices.h"
 #include "core/FunWizard.h"
 #include "core/Values.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/base/WzdResults.h"
+#include "dialogs/posunit/UnitRows.h"
 
 namespace
 {
-
-constexpr int kSlotLimit = 2;
-constexpr int kAxisLimit = 1;
 
 // Where the areas of the axes lie in the unit's shared memory.
 constexpr int kFirstAxisArea = 0x100;
@@ -20,60 +18,42 @@ constexpr int kMostAxes = 4;
 class CUnitField : public CWzdField
 {
 public:
-    CUnitField(CWzdDlgBase& dialog, UINT edit, int limit, SWzdRange range, UINT message)
-        : CWzdField(dialog), m_edit(edit), m_limit(limit), m_range(range), m_message(message)
-    {
-    }
+    using CWzdField::CWzdField;
 
     bool Open() override
     {
         int value;
-        m_dialog.SetItemText(m_edit, Restore(value) ? FormatDecimal64(value) : CString());
-        m_dialog.LimitText(m_edit, m_limit);
-        CWzdDlgBase::ShowRange(m_dialog.ControlAfter(m_edit), m_range);
+        m_dialog.SetItemText(m_row.edit, Restore(value) ? FormatDecimal64(value) : CString());
+        m_dialog.LimitText(m_row.edit, m_row.limit);
+        ShowRange();
         return true;
     }
 
-    void Clear() override { m_dialog.SetItemText(m_edit, ""); }
+    void Clear() override { m_dialog.SetItemText(m_row.edit, ""); }
 
     bool Collect(CWzdResults& results) override
     {
         LONGLONG value;
-        if (!m_dialog.ReadNumber(m_edit, m_range, m_message, value))
+        if (!m_dialog.ReadNumber(m_row.edit, m_row.range, m_row.message, value))
             return false;
         Store(results, static_cast<int>(value));
         return true;
     }
 
-    SWzdFieldInfo Describe() const override
-    {
-        SWzdFieldInfo info;
-        info.edit = m_edit;
-        info.message = m_message;
-        info.limit = m_limit;
-        info.range = m_range;
-        return info;
-    }
-
 protected:
+    virtual void ShowRange() const = 0;
     virtual bool Restore(int& value) const = 0;
     virtual void Store(CWzdResults& results, int value) const = 0;
-
-private:
-    UINT m_edit;
-    int m_limit;
-    SWzdRange m_range;
-    UINT m_message;
 };
 
 class CSlotField : public CUnitField
 {
 public:
-    CSlotField(CWzdDlgBase& dialog, UINT edit) : CUnitField(dialog, edit, kSlotLimit, dialog.SlotRange(), IDS_ERR_SLOT)
-    {
-    }
+    using CUnitField::CUnitField;
 
 protected:
+    void ShowRange() const override { ShowSlotRange(m_dialog, m_row.edit); }
+
     bool Restore(int& slot) const override
     {
         short code;
@@ -90,11 +70,14 @@ protected:
 class CAxisField : public CUnitField
 {
 public:
-    CAxisField(CWzdDlgBase& dialog, UINT edit) : CUnitField(dialog, edit, kAxisLimit, dialog.AxisRange(), IDS_ERR_AXIS)
+    CAxisField(CWzdDlgBase& dialog, const SWzdRow& row, int words, int areaOffset)
+        : CUnitField(dialog, row), m_words(words), m_areaOffset(areaOffset)
     {
     }
 
 protected:
+    void ShowRange() const override { ShowAxisRange(m_dialog, m_row.edit); }
+
     bool Restore(int& axis) const override
     {
         short code;
@@ -109,17 +92,49 @@ protected:
     void Store(CWzdResults& results, int axis) const override
     {
         results.Unit().axis = axis;
-        results.SetOperand(kWordsOperand, kDeviceK, static_cast<int>(m_dialog.TableWords()));
-        results.SetOperand(kAxisOperand, kDeviceH, kFirstAxisArea + (axis - 1) * kAxisAreaSize);
+        results.SetOperand(kWordsOperand, kDeviceK, m_words);
+        results.SetOperand(kAxisOperand, kDeviceH, kFirstAxisArea + (axis - 1) * kAxisAreaSize + m_areaOffset);
     }
+
+private:
+    int m_words;
+    int m_areaOffset;
 };
+
+constexpr LONGLONG kFastest = 4000000;
+
+void DeclareDoubleWord(CWzdExchange* wx, UINT edit, int offset, int limit, SWzdRange range, UINT message)
+{
+    WDX_Number(wx,
+               {.edit = edit, .entry = {offset, kTwoRegisters}, .limit = limit, .range = range, .message = message});
+}
 
 } // namespace
 
-void WDX_UnitAxis(CWzdExchange* wx, UINT slotEdit, UINT axisEdit)
+void WDX_UnitAxis(CWzdExchange* wx, UINT slotEdit, UINT axisEdit, int words, int areaOffset)
 {
-    CSlotField slot(wx->Dialog(), slotEdit);
-    wx->Declare(slot);
-    CAxisField axis(wx->Dialog(), axisEdit);
-    wx->Declare(axis);
+    const CFunWizard& wizard = wx->Dialog().Wizard();
+    WzdDeclare<CSlotField>(wx, {.edit = slotEdit, .limit = 2, .range = UnitSlotRange(wizard), .message = IDS_ERR_SLOT});
+    WzdDeclare<CAxisField>(wx, {.edit = axisEdit, .limit = 1, .range = UnitAxisRange(wizard), .message = IDS_ERR_AXIS},
+                           words, areaOffset);
+}
+
+void WDX_StartupSpeed(CWzdExchange* wx, UINT edit, int offset)
+{
+    DeclareDoubleWord(wx, edit, offset, 7, {0, kFastest}, IDS_ERR_STARTUP_SPEED);
+}
+
+void WDX_TargetSpeed(CWzdExchange* wx, UINT edit, int offset)
+{
+    DeclareDoubleWord(wx, edit, offset, 7, {1, kFastest}, IDS_ERR_TARGET_SPEED);
+}
+
+void WDX_AccelerationTime(CWzdExchange* wx, UINT edit, int offset)
+{
+    DeclareDoubleWord(wx, edit, offset, 5, {0, 32767}, IDS_ERR_UNIT_ACCELERATION_TIME);
+}
+
+void WDX_Position(CWzdExchange* wx, UINT edit, int offset)
+{
+    DeclareDoubleWord(wx, edit, offset, 11, kAnyDoubleWord, IDS_ERR_POSITION_COMMAND);
 }

@@ -11,21 +11,13 @@ public:
 
     void DoFieldExchange(CWzdExchange* wx) override;
     LONGLONG TableWords() override;
-    DWORD StoredControlCode() const override;
+    std::optional<DWORD> StoredControlCode() const override;
 
 protected:
     int HelpTopic() const override;
-    bool Open() override;
-
-    void OnAutoTuning();
-    void OnStartLeft();
-    void OnUsedChanged(UINT id);
-
-    DECLARE_MESSAGE_MAP()
 
 private:
     bool IsAutoTuning() const;
 
     int m_workArea;
-    bool m_autoTuning = false; // as it was when the gains were last set for it
 };

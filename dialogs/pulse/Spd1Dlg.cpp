@@ -1,9 +1,9 @@
 #include "dialogs/pulse/Spd1Dlg.h"
 
+#include "dialogs/pulse/PulseRows.h"
+
 namespace
 {
-
-constexpr SWzdChoice kOutputs[] = {{IDS_OUTPUT_Y, 0, 0}, {IDS_OUTPUT_Y, 1, 1}};
 
 constexpr DWORD kDuty50 = 0;
 constexpr SWzdChoice kPulseWidths[] = {{IDS_DUTY_50_PERCENT, kDuty50}, {IDS_FIXED_PULSE_WIDTH, 1}};
@@ -37,23 +37,22 @@ CSpd1Dlg::CSpd1Dlg(CFunWizard* wizard, bool homeReturn, CWnd* parent)
 void CSpd1Dlg::DoFieldExchange(CWzdExchange* wx)
 {
     WDX_Contact    (wx);
-    WDX_TableStart (wx, IDC_SPD1_START, IDC_SPD1_START_RANGE);
-    WDX_Output     (wx, IDC_SPD1_OUTPUT, kOutputs);
+    WDX_TableStart (wx, {.edit = IDC_SPD1_START, .rangeLabel = IDC_SPD1_START_RANGE});
+    WDX_Output     (wx, IDC_SPD1_OUTPUT, kBuiltInOutputs);
 
-    //              control              bits     items
     WDX_ControlCode(wx, kOneRegister);
-    WDX_Code       (wx, IDC_SPD1_WIDTH,  {8, 4},  kPulseWidths);
-    WDX_Code       (wx, IDC_SPD1_MODE,   {0, 8},  m_homeReturn, kTrapezoidalModes, kHomeModes);
+    WDX_Code       (wx, {.combo = IDC_SPD1_WIDTH, .choices = kPulseWidths, .bits = {8, 4}});
+    WDX_Code       (wx, IDC_SPD1_MODE, {0, 8}, m_homeReturn, kTrapezoidalModes, kHomeModes);
 
-    //              control              entry               limit  accepted             message when outside
-    WDX_Number     (wx, IDC_SPD1_INITIAL, {1, kOneRegister},  4,    {40, 5000},          IDS_ERR_INITIAL_SPEED);
-    WDX_Number     (wx, IDC_SPD1_MAXIMUM, {2, kOneRegister},  4,    MaximumSpeedRange(), IDS_ERR_MAXIMUM_SPEED,
-                    IDC_SPD1_MAXIMUM_RANGE);
-    WDX_Number     (wx, IDC_SPD1_TIME,    {3, kOneRegister},  5,    {30, 32767},         IDS_ERR_ACCELERATION_TIME);
+    WDX_Number(wx, {.edit = IDC_SPD1_INITIAL, .entry = {1}, .limit = 4, .range = {40, 5000}, .message = IDS_ERR_INITIAL_SPEED});
+    WDX_Number(wx, {.edit = IDC_SPD1_MAXIMUM, .entry = {2}, .limit = 4, .range = MaximumSpeedRange(),
+                    .message = IDS_ERR_MAXIMUM_SPEED, .rangeLabel = IDC_SPD1_MAXIMUM_RANGE});
+    WDX_Number(wx, {.edit = IDC_SPD1_TIME, .entry = {3}, .limit = 5, .range = {30, 32767}, .message = IDS_ERR_ACCELERATION_TIME});
     if (m_homeReturn)
         return;
-    WDX_Number     (wx, IDC_SPD1_TARGET,  {4, kTwoRegisters}, 8,    {-8388608, 8388607}, IDS_ERR_TARGET_VALUE);
-    WDX_Constant   (wx, {6, kOneRegister}, 0); // ends the table
+    WDX_Number(wx, {.edit = IDC_SPD1_TARGET, .entry = {4, kTwoRegisters}, .limit = 8, .range = {-8388608, 8388607},
+                    .message = IDS_ERR_TARGET_VALUE});
+    WDX_Constant(wx, {6}, 0); // ends the table
 }
 // clang-format on
 

@@ -12,7 +12,6 @@ public:
     void DoFieldExchange(CWzdExchange* wx) override;
 
 private:
-    SWzdRange SpeedRange() const;
     SWzdRange AccelerationTimeRange() const;
 
     bool m_homeReturn;

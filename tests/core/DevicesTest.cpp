@@ -255,3 +255,31 @@ TEST(DeviceRanges, AgreeWithAModelOverManyKeys)
             }
         }
 }
+
+TEST(DevicePermissions, HaveABitForEachDeviceThatCanBeLeftOut)
+{
+    struct
+    {
+        int code;
+        DWORD bit;
+    } const rows[] = {
+        {0, 0x80},     {1, 0x40},      {2, 0x20},     {3, 0x10},       {4, 0x200},    {5, 0x400},    {6, 0x200000},
+        {7, 0x400000}, {8, 0x1000000}, {9, 0x800000}, {10, 0x2000000}, {11, 0x1},     {12, 0x2},     {15, 0x10000000},
+        {17, 0x100},   {18, 0x800},    {20, 0x4},     {64, 0x80000},   {65, 0x40000}, {66, 0x20000}, {81, 0x100000},
+    };
+    for (const auto& row : rows)
+        for (int bit = 0; bit < 64; ++bit)
+            EXPECT_EQ(IsDevicePermitted(1ull << bit, static_cast<short>(row.code)), 1ull << bit == row.bit)
+                << row.code << ", bit " << bit;
+}
+
+TEST(DevicePermissions, AreNeverGivenToSomeAndAlwaysToOthers)
+{
+    for (const ULONGLONG mask : {0ull, ~0ull})
+    {
+        for (const short code : {67, 20009})
+            EXPECT_FALSE(IsDevicePermitted(mask, code)) << code;
+        for (const short code : {-1, 13, 14, 16, 19, 21, 63, 68, 80, 82, 20001, 20065})
+            EXPECT_TRUE(IsDevicePermitted(mask, code)) << code;
+    }
+}

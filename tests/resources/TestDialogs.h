@@ -21,6 +21,11 @@
 #define IDC_PROBE_AXIS 30108
 #define IDC_PROBE_COMBO 30109
 #define IDC_PROBE_UNLABELLED 30110
+#define IDC_PROBE_CHECK 30111
+#define IDC_PROBE_OPTIONAL 30112
+#define IDC_PROBE_OPTIONAL_RANGE 30113
+#define IDC_PROBE_FIRST_LABEL 30114
+#define IDC_PROBE_SECOND_LABEL 30115
 #define IDC_PROBE_NOTHING 30199 // no control has it
 // The combos of the eighteen fields of the control code, in the order of their bits.
 #define IDC_PROBE_CODE 30201

@@ -1,4 +1,4 @@
-// The list of contact devices, the range of the selected one, and the JOG direction.
+// The list of contact devices and the range of the selected one.
 #include "core/ResourceScope.h"
 #include "resources/resource.h"
 #include "tests/dialogs/base/ProbeDlg.h"
@@ -212,48 +212,5 @@ TEST_F(CContactComboTest, KeepsTheLabelWithoutSelectionOrRange)
         m_probe.SetItemText(2058, "as it was");
         EXPECT_FALSE(m_probe.ShowContactRange(1));
         EXPECT_EQ(robot.Text(2058), "as it was");
-    });
-}
-
-TEST_F(CContactComboTest, SelectsTheJogDirectionByTheStartOutput)
-{
-    struct
-    {
-        std::vector<SContactRecord> contacts;
-        int selected;
-    } const rows[] = {
-        {{}, 0},
-        {{{kY, 4}}, 0},
-        {{{kX, 1}, {kY, 4}}, 0},
-        {{{kX, 1}, {kX, 1}, {kY, 4}}, 1},
-        {{{kX, 1}, {kX, 1}, {kY, 3}}, 0},
-        {{{kX, 1}, {kX, 1}, {kY, Bit(20, 4)}}, 1},
-        {{{kX, 1}, {kX, 1}, {kY, Bit(4, 3)}}, 0},
-        {{{kX, 1}, {kX, 1}, {kR, 4}}, 0},
-        {{{kX, 1}, {kX, 4}, {kX, 4}, {kY, Bit(9, 4)}}, 1},
-        {{{kX, 1}, {kX, 4}, {kY, 4}, {kY, 5}}, 0},
-    };
-    for (size_t i = 0; i < std::size(rows); ++i)
-    {
-        SCOPED_TRACE("row " + std::to_string(i));
-        m_wizard.RemoveAllContInfo();
-        for (const SContactRecord& contact : rows[i].contacts)
-            m_wizard.AddContInfo(2, static_cast<short>(contact.code), contact.number);
-        InProbe([&](CDialogRobot& robot) {
-            EXPECT_TRUE(m_probe.FillJogDirectionCombo());
-            EXPECT_EQ(robot.Items(2062), Texts({"Forward rotation", "Reverse rotation"}));
-            EXPECT_EQ(robot.Selection(2062), rows[i].selected);
-        });
-    }
-}
-
-TEST_F(CContactComboTest, HasNoJogDirectionWithoutTextsOrCombo)
-{
-    CFunWizard english; // the module does not have the texts
-    SetUpController(english);
-    CProbeDlg plain(&english, IDD_SPD1_HOME);
-    Open(plain, [&](CDialogRobot& robot) {
-        EXPECT_FALSE(plain.FillJogDirectionCombo());
-        robot.Click(IDCANCEL);
     });
 }

@@ -1,5 +1,6 @@
 // What every dialog declares of its fields holds together. A new dialog is one more row of the table of dialogs.
 #include "core/Values.h"
+#include "resources/resource.h"
 #include "tests/dialogs/InstructionDialogs.h"
 #include "tests/dialogs/base/FieldRecorder.h"
 #include "tests/resources/LanguageLibrary.h"
@@ -46,15 +47,15 @@ protected:
     {
         InDialog(kEnglish, [&](CWzdDlgBase& dialog, CDialogRobot&) {
             look(dialog, RecordFields(dialog));
-            for (const SWzdFieldInfo& field : RecordFields(dialog))
+            for (const SDeclaredField& field : RecordFields(dialog))
             {
-                for (size_t item = 0; item < field.choices.size(); ++item)
+                for (size_t item = 0; item < field.items.size(); ++item)
                 {
                     SCOPED_TRACE(testing::Message() << "combo " << field.combo << ", item " << item);
                     dialog.Select(field.combo, static_cast<int>(item));
                     look(dialog, RecordFields(dialog));
                 }
-                if (!field.choices.empty())
+                if (!field.items.empty())
                     dialog.Select(field.combo, 0);
             }
         });
@@ -72,13 +73,13 @@ protected:
 bool CanBeUsed(CDialogRobot& robot, UINT id) { return robot.Enabled(id) && robot.Visible(id); }
 
 /// The lowest or the highest entry that a field takes.
-CString Bound(CWzdDlgBase& dialog, const SWzdFieldInfo& field, bool highest)
+CString Bound(CWzdDlgBase& dialog, const SDeclaredField& field, bool highest)
 {
     short kind, code;
     int low, high;
     if (field.combo != 0 && dialog.GetSelectedDeviceRange(field.combo, kind, code, low, high))
         return FormatDeviceNumber(code, highest ? high : low);
-    if (field.range.low <= field.range.high)
+    if (field.IsEntry() || field.range.low <= field.range.high)
         return field.format.Format(highest ? field.range.high : field.range.low);
     EXPECT_TRUE(dialog.GetDataTableRange(low, high));
     return FormatDecimal64(highest ? high : low);
@@ -91,10 +92,10 @@ void FillIn(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
         if (robot.Exists(check))
             robot.Check(check, check == IDC_START_OUTPUT_ENABLE);
     int choice = round; // not the same in every combo: two contacts would become one
-    for (const SWzdFieldInfo& field : RecordFields(dialog))
+    for (const SDeclaredField& field : RecordFields(dialog))
         if (field.combo != 0)
             robot.Select(field.combo, choice++ % static_cast<int>(robot.Items(field.combo).size()));
-    for (const SWzdFieldInfo& field : RecordFields(dialog)) // their ranges may depend on the combos
+    for (const SDeclaredField& field : RecordFields(dialog)) // their ranges may depend on the combos
     {
         if (field.check != 0 && CanBeUsed(robot, field.check))
             robot.Check(field.check);
@@ -105,7 +106,7 @@ void FillIn(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
 
 int Length(LONGLONG number) { return FormatDecimal64(number).GetLength(); }
 
-bool IsNumber(const SWzdFieldInfo& field) { return field.edit != 0 && field.offset >= 0; }
+bool IsNumber(const SDeclaredField& field) { return field.edit != 0 && field.IsEntry(); }
 
 } // namespace
 
@@ -119,7 +120,7 @@ TEST_P(CDeclaredFieldsTest, StandInTheTemplate)
             std::map<UINT, CString> classes;
             for (const SRobotControl& control : robot.Controls())
                 classes[control.id] = control.className;
-            for (const SWzdFieldInfo& field : fields)
+            for (const SDeclaredField& field : fields)
             {
                 if (field.combo != 0)
                 {
@@ -140,19 +141,19 @@ TEST_P(CDeclaredFieldsTest, StandInTheTemplate)
 
 TEST_P(CDeclaredFieldsTest, HaveTheirTextsInEveryLanguage)
 {
-    ForEachState([&](CWzdDlgBase&, const std::vector<SWzdFieldInfo>& fields) {
+    ForEachState([&](CWzdDlgBase&, const std::vector<SDeclaredField>& fields) {
         for (const int language : Languages())
         {
             SCOPED_TRACE(testing::Message() << "language " << language);
             const CLanguage scope(language);
-            for (const SWzdFieldInfo& field : fields)
+            for (const SDeclaredField& field : fields)
             {
                 EXPECT_EQ(field.message != 0, field.edit != 0) << "an edit has a message";
                 if (field.message != 0)
                 {
                     EXPECT_TRUE(LoadText(field.message)) << "message " << field.message;
                 }
-                for (const SWzdChoice& choice : field.choices)
+                for (const SWzdChoice& choice : field.items)
                 {
                     const auto text = LoadText(choice.text);
                     ASSERT_TRUE(text) << "item " << choice.text;
@@ -169,9 +170,9 @@ TEST_P(CDeclaredFieldsTest, HaveTheirTextsInEveryLanguage)
 
 TEST_P(CDeclaredFieldsTest, HaveControlsOfTheirOwn)
 {
-    ForEachState([](CWzdDlgBase&, const std::vector<SWzdFieldInfo>& fields) {
+    ForEachState([](CWzdDlgBase&, const std::vector<SDeclaredField>& fields) {
         std::set<UINT> ids;
-        for (const SWzdFieldInfo& field : fields)
+        for (const SDeclaredField& field : fields)
             for (const UINT id : {field.combo, field.edit, field.rangeLabel})
                 if (id != 0)
                 {
@@ -182,16 +183,16 @@ TEST_P(CDeclaredFieldsTest, HaveControlsOfTheirOwn)
 
 TEST_P(CDeclaredFieldsTest, HaveBitsOfTheirOwnThatHoldTheirCodes)
 {
-    ForEachState([](CWzdDlgBase&, const std::vector<SWzdFieldInfo>& fields) {
+    ForEachState([](CWzdDlgBase&, const std::vector<SDeclaredField>& fields) {
         DWORD taken = 0;
-        for (const SWzdFieldInfo& field : fields)
+        for (const SDeclaredField& field : fields)
         {
             std::set<DWORD> codes;
-            for (const SWzdChoice& choice : field.choices)
+            for (const SWzdChoice& choice : field.items)
                 EXPECT_TRUE(codes.insert(choice.code).second) << "two items of " << field.combo << " share a code";
             if (field.bits.width == 0)
                 continue;
-            EXPECT_FALSE(field.choices.empty());
+            EXPECT_FALSE(field.items.empty());
             ASSERT_GT(field.bits.width, 0);
             ASSERT_GE(field.bits.shift, 0);
             ASSERT_LE(field.bits.shift + field.bits.width, 32);
@@ -200,7 +201,7 @@ TEST_P(CDeclaredFieldsTest, HaveBitsOfTheirOwnThatHoldTheirCodes)
                 EXPECT_EQ(taken & 1u << bit, 0u) << "combo " << field.combo << " shares bit " << bit;
                 taken |= 1u << bit;
             }
-            for (const SWzdChoice& choice : field.choices)
+            for (const SWzdChoice& choice : field.items)
                 EXPECT_LT(static_cast<ULONGLONG>(choice.code), 1ull << field.bits.width) << "combo " << field.combo;
         }
     });
@@ -208,8 +209,8 @@ TEST_P(CDeclaredFieldsTest, HaveBitsOfTheirOwnThatHoldTheirCodes)
 
 TEST_P(CDeclaredFieldsTest, CanBeEnteredToBothEndsOfTheirRanges)
 {
-    ForEachState([](CWzdDlgBase&, const std::vector<SWzdFieldInfo>& fields) {
-        for (const SWzdFieldInfo& field : fields)
+    ForEachState([](CWzdDlgBase&, const std::vector<SDeclaredField>& fields) {
+        for (const SDeclaredField& field : fields)
         {
             if (!IsNumber(field))
                 continue;
@@ -225,19 +226,19 @@ TEST_P(CDeclaredFieldsTest, CanBeEnteredToBothEndsOfTheirRanges)
 
 TEST_P(CDeclaredFieldsTest, HaveRegistersOfTheirOwnWithinTheTable)
 {
-    ForEachState([](CWzdDlgBase& dialog, const std::vector<SWzdFieldInfo>& fields) {
+    ForEachState([](CWzdDlgBase& dialog, const std::vector<SDeclaredField>& fields) {
         int lowest, highest, lowestStart, highestStart;
         ASSERT_TRUE(dialog.Wizard().GetDevRange(-1, kDT, lowest, highest));
         ASSERT_TRUE(dialog.GetDataTableRange(lowestStart, highestStart));
         EXPECT_EQ(lowestStart, lowest);
         const int words = highest - highestStart + 1;
 
-        std::set<int> taken;
-        for (const SWzdFieldInfo& field : fields)
+        std::set<LONGLONG> taken;
+        for (const SDeclaredField& field : fields)
         {
-            if (field.offset < 0)
+            if (!field.IsEntry())
                 continue;
-            for (int word = static_cast<int>(field.offset); word < field.offset + field.registers; ++word)
+            for (LONGLONG word = field.entry.offset; word < field.entry.End(); ++word)
             {
                 EXPECT_TRUE(taken.insert(word).second) << "two fields share word " << word;
                 EXPECT_LT(word, words);

@@ -1,5 +1,5 @@
 // The walks over all fields: clearing, checking in order, replacing the lists, and running out of memory meanwhile.
-#include "resources/resource.h"
+#include "dialogs/pulse/PulseRows.h"
 #include "tests/dialogs/base/ProbeDlg.h"
 #include "tests/support/AllocationFaults.h"
 
@@ -14,12 +14,20 @@ constexpr SWzdChoice kWidths[] = {{IDS_DUTY_50_PERCENT, 0}, {IDS_FIXED_PULSE_WID
 void DeclareEverything(CWzdExchange* wx)
 {
     WDX_Contact(wx);
-    WDX_TableStart(wx, IDC_PROBE_START, IDC_PROBE_START_RANGE);
+    WDX_TableStart(wx, {.edit = IDC_PROBE_START, .rangeLabel = IDC_PROBE_START_RANGE});
     WDX_Output(wx, IDC_PROBE_OUTPUT, kOutputs);
     WDX_ControlCode(wx, kOneRegister);
-    WDX_Code(wx, IDC_PROBE_COMBO, {8, 1}, kWidths);
-    WDX_Number(wx, IDC_PROBE_NUMBER, {1, kOneRegister}, 4, {40, 5000}, IDS_ERR_INITIAL_SPEED);
-    WDX_Number(wx, IDC_PROBE_OTHER, {2, kTwoRegisters}, 8, {-10, 10}, IDS_ERR_TARGET_VALUE);
+    WDX_Code(wx, {.combo = IDC_PROBE_COMBO, .choices = kWidths, .bits = {8, 1}});
+    WDX_Number(wx, {.edit = IDC_PROBE_NUMBER,
+                    .entry = {1, kOneRegister},
+                    .limit = 4,
+                    .range = {40, 5000},
+                    .message = IDS_ERR_INITIAL_SPEED});
+    WDX_Number(wx, {.edit = IDC_PROBE_OTHER,
+                    .entry = {2, kTwoRegisters},
+                    .limit = 8,
+                    .range = {-10, 10},
+                    .message = IDS_ERR_TARGET_VALUE});
     WDX_Constant(wx, {4, kOneRegister}, 0);
 }
 

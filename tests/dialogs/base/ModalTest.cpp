@@ -1,5 +1,5 @@
 // How the dialog base runs: results, the source of texts, the font, and the ways in which opening can fail.
-#include "resources/resource.h"
+#include "dialogs/pulse/PulseRows.h"
 #include "tests/dialogs/base/ProbeDlg.h"
 
 #include <string>
@@ -15,6 +15,10 @@ class CModalTest : public CProbeTest
 };
 
 void DeclareContact(CWzdExchange* wx) { WDX_Contact(wx); }
+void DeclareStart(CWzdExchange* wx)
+{
+    WDX_TableStart(wx, {.edit = IDC_PROBE_START, .rangeLabel = IDC_PROBE_START_RANGE});
+}
 
 std::vector<UINT> EnabledIds(const CDialogRobot& robot)
 {
@@ -134,7 +138,11 @@ TEST_F(CModalTest, OpensNoFieldAfterTheOneThatFailed)
         WDX_Contact(wx);
         WDX_Output(wx, IDC_PROBE_OUTPUT, kItems);
         EXPECT_FALSE(wx->Succeeded());
-        WDX_Number(wx, IDC_PROBE_NUMBER, {1, kOneRegister}, 3, {0, 9}, IDS_ERR_FREQUENCY);
+        WDX_Number(wx, {.edit = IDC_PROBE_NUMBER,
+                        .entry = {1, kOneRegister},
+                        .limit = 3,
+                        .range = {0, 9},
+                        .message = IDS_ERR_FREQUENCY});
         EXPECT_EQ(wx->Dialog().ItemText(IDC_PROBE_NUMBER), "");
         EXPECT_EQ(wx->Dialog().SendDlgItemMessage(IDC_CONTACT_DEVICE, CB_GETCOUNT), 7);
     };
@@ -148,6 +156,7 @@ TEST_F(CModalTest, OpensNoFieldAfterTheOneThatFailed)
 TEST_F(CModalTest, LeavesOnlyBackWithoutRegisters)
 {
     CProbeDlg probe(&m_wizard, IDD_MIXED_IDS);
+    probe.m_fields = DeclareStart;
     const std::vector<UINT> everything = {0, 30401, 30402, static_cast<WORD>(IDC_STATIC), 0, 30403, 1, 2, 2099};
     Open(probe, [&](CDialogRobot& robot) {
         EXPECT_EQ(EnabledIds(robot), everything);
@@ -170,15 +179,33 @@ TEST_F(CModalTest, LeavesOnlyBackWhenTheTableDoesNotFit)
 {
     SetDeviceRange(m_wizard, kDT, 10, 15);
     m_probe.m_tableWords = 7;
-    InProbe([](CDialogRobot& robot) {
+    InProbe(DeclareStart, [](CDialogRobot& robot) {
         EXPECT_FALSE(robot.Enabled(IDOK));
         EXPECT_TRUE(robot.Enabled(IDCANCEL));
     });
     m_probe.m_tableWords = 6;
-    InProbe([](CDialogRobot& robot) {
+    InProbe(DeclareStart, [](CDialogRobot& robot) {
         EXPECT_TRUE(robot.Enabled(IDOK));
         EXPECT_NE(robot.FocusId(), 2u);
     });
+}
+
+TEST_F(CModalTest, NeedsNoRegistersForFieldsOutsideOfThem)
+{
+    m_wizard.ResetContents();
+    SFunWizardTest::SetLibrary(m_wizard, AfxLoadLibrary(AfxGetModuleFolder(nullptr) + "TestDialogs.DLL"));
+    const int result = InProbe(
+        [](CWzdExchange* wx) {
+            WDX_Number(
+                wx,
+                {.edit = IDC_PROBE_NUMBER, .entry = {0}, .limit = 3, .range = {0, 9}, .message = IDS_ERR_FREQUENCY});
+        },
+        [](CDialogRobot& robot) {
+            EXPECT_TRUE(robot.Enabled(IDC_PROBE_NUMBER));
+            robot.Type(IDC_PROBE_NUMBER, "5");
+            robot.Click(IDOK);
+        });
+    EXPECT_EQ(result, 1);
 }
 
 // ---- "Only a data table is created." --------------------------------------------------------------------------------

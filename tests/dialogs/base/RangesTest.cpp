@@ -1,4 +1,4 @@
-// Ranges that the PLC allows and the labels that show them; the clipboard; the relays of a positioning unit.
+// Ranges that the PLC allows and the labels that show them; the clipboard.
 #include "resources/resource.h"
 #include "tests/dialogs/base/ProbeDlg.h"
 
@@ -87,79 +87,6 @@ TEST_F(CRangesTest, AreNotShownWithoutRegisters)
     });
 }
 
-// ---- Words, slots, axes ---------------------------------------------------------------------------------------------
-
-TEST_F(CRangesTest, OfWordsExistForOutputsOnly)
-{
-    for (const int code : {kL, kR, kY, kX, kT, kC, kDT, kWL, kWR, kWY, kWX, kSpecialR, kSpecialDT})
-    {
-        SetDeviceRange(m_wizard, code, code + 3, code + 300);
-        int low = -7, high = -7;
-        const bool expected = code == kY || code == kWY;
-        EXPECT_EQ(m_probe.GetWordDeviceRange(static_cast<short>(code), low, high), expected) << code;
-        if (expected)
-        {
-            EXPECT_EQ(low, code + 3);
-            EXPECT_EQ(high, code + 300);
-        }
-    }
-}
-
-TEST_F(CRangesTest, OfWordsMustNotBeEmpty)
-{
-    int low, high;
-    CFunWizard bare;
-    EXPECT_FALSE(CProbeDlg(&bare).GetWordDeviceRange(kY, low, high));
-    for (const int code : {kY, kWY})
-    {
-        SetDeviceRange(m_wizard, code, 10, 9);
-        EXPECT_FALSE(m_probe.GetWordDeviceRange(static_cast<short>(code), low, high)) << code;
-        SetDeviceRange(m_wizard, code, 10, 10);
-        EXPECT_TRUE(m_probe.GetWordDeviceRange(static_cast<short>(code), low, high)) << code;
-    }
-}
-
-TEST_F(CRangesTest, OfSlotsEndBeforeTheMaximum)
-{
-    struct
-    {
-        int maximum;
-        const char* label;
-    } const rows[] = {{32, "(0 - 31)"}, {16, "(0 - 15)"}, {1, "(0 - 0)"}, {255, "(0 - 254)"}, {0, "(0 - -1)"}};
-    InProbe([&](CDialogRobot&) {
-        m_probe.ShowSlotRange(IDC_PROBE_NOTHING);
-        m_probe.ShowSlotRange(IDC_UNIT_CLEAR_SETTINGS); // nothing follows it
-        for (const auto& row : rows)
-        {
-            m_wizard.SetMaxSlot(static_cast<unsigned char>(row.maximum));
-            m_probe.ShowSlotRange(IDC_PROBE_SLOT);
-            CString text;
-            m_probe.ControlAfter(IDC_PROBE_SLOT)->GetWindowText(text);
-            EXPECT_EQ(text, row.label);
-        }
-    });
-}
-
-TEST_F(CRangesTest, OfAxesDependOnTheAxisType)
-{
-    struct
-    {
-        int flag;
-        const char* label;
-    } const rows[] = {{0, "(1 - 2)"}, {1, "(1 - 4)"}, {2, "(1 - 4)"}, {255, "(1 - 4)"}};
-    InProbe([&](CDialogRobot&) {
-        m_probe.ShowAxisRange(IDC_PROBE_NOTHING);
-        for (const auto& row : rows)
-        {
-            SFunWizardTest::SetAxisFlag(m_wizard, static_cast<BYTE>(row.flag));
-            m_probe.ShowAxisRange(IDC_PROBE_AXIS);
-            CString text;
-            m_probe.ControlAfter(IDC_PROBE_AXIS)->GetWindowText(text);
-            EXPECT_EQ(text, row.label) << row.flag;
-        }
-    });
-}
-
 TEST_F(CRangesTest, AreShownWithTheirSigns)
 {
     InProbe([&](CDialogRobot& robot) {
@@ -170,20 +97,6 @@ TEST_F(CRangesTest, AreShownWithTheirSigns)
 }
 
 // ---- The rest -------------------------------------------------------------------------------------------------------
-
-TEST_F(CRangesTest, UnitBuffersFollowEachOther)
-{
-    struct
-    {
-        int slot, axis;
-        int address;
-    } const rows[] = {
-        {0, 1, 160}, {1, 0, -1},  {0, 0, -1},  {5, -1, -1},   {0, 2, 176},
-        {0, 4, 208}, {1, 1, 288}, {1, 2, 304}, {31, 4, 4176}, {0, INT_MIN, -1},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(CWzdDlgBase::UnitBufferAddress(row.slot, row.axis), row.address) << row.slot << ", " << row.axis;
-}
 
 TEST_F(CRangesTest, ClipboardHoldsTextOrNot)
 {

@@ -1,5 +1,5 @@
 // The kinds of fields, one by one: opening and restoring, refreshing, clearing, checking and storing.
-#include "resources/resource.h"
+#include "dialogs/pulse/PulseRows.h"
 #include "tests/dialogs/base/ProbeDlg.h"
 
 namespace
@@ -18,16 +18,24 @@ protected:
 };
 
 void DeclareContact(CWzdExchange* wx) { WDX_Contact(wx); }
-void DeclareStart(CWzdExchange* wx) { WDX_TableStart(wx, IDC_PROBE_START, IDC_PROBE_START_RANGE); }
+void DeclareStart(CWzdExchange* wx)
+{
+    WDX_TableStart(wx, {.edit = IDC_PROBE_START, .rangeLabel = IDC_PROBE_START_RANGE});
+}
 void DeclareOutput(CWzdExchange* wx) { WDX_Output(wx, IDC_PROBE_OUTPUT, kOutputs); }
 void DeclareMode(CWzdExchange* wx)
 {
     WDX_ControlCode(wx, kOneRegister);
-    WDX_Code(wx, IDC_PROBE_COMBO, {4, 8}, kModes, kOtherModes);
+    WDX_Code(wx, {.combo = IDC_PROBE_COMBO, .choices = kModes, .alsoRestores = kOtherModes, .bits = {4, 8}});
 }
 void DeclareNumber(CWzdExchange* wx)
 {
-    WDX_Number(wx, IDC_PROBE_NUMBER, {5, kTwoRegisters}, 6, {-20, 3000}, IDS_ERR_FREQUENCY, IDC_PROBE_NUMBER_RANGE);
+    WDX_Number(wx, {.edit = IDC_PROBE_NUMBER,
+                    .entry = {5, kTwoRegisters},
+                    .limit = 6,
+                    .range = {-20, 3000},
+                    .message = IDS_ERR_FREQUENCY,
+                    .rangeLabel = IDC_PROBE_NUMBER_RANGE});
 }
 
 } // namespace
@@ -133,7 +141,12 @@ TEST_F(CFieldsTest, ContactsCanBeSeveral)
 {
     const CProbeDlg::Fields declare = [](CWzdExchange* wx) {
         WDX_Contact(wx, IDS_ERR_UNIT_CONTACT);
-        WDX_Contact(wx, IDS_ERR_SPEED_CHANGE_CONTACT, {IDC_SECOND_DEVICE, IDC_SECOND_NUMBER, IDC_SECOND_RANGE, 1});
+        WDX_Contact(wx, {.combo = IDC_SECOND_DEVICE,
+                         .edit = IDC_SECOND_NUMBER,
+                         .position = 1,
+                         .limit = 4,
+                         .message = IDS_ERR_SPEED_CHANGE_CONTACT,
+                         .rangeLabel = IDC_SECOND_RANGE});
     };
     InProbe(declare, [](CDialogRobot& robot) {
         robot.SelectText(2051, "R");
@@ -242,7 +255,7 @@ TEST_F(CFieldsTest, OutputIsStoredAsItsCode)
 {
     const CProbeDlg::Fields declare = [](CWzdExchange* wx) {
         WDX_Output(wx, IDC_PROBE_OUTPUT, kOutputs); // checked before the operand that it follows
-        WDX_TableStart(wx, IDC_PROBE_START, IDC_PROBE_START_RANGE);
+        WDX_TableStart(wx, {.edit = IDC_PROBE_START, .rangeLabel = IDC_PROBE_START_RANGE});
     };
     InProbe(declare, [](CDialogRobot& robot) {
         robot.Select(IDC_PROBE_OUTPUT, 2);
@@ -320,7 +333,11 @@ TEST_F(CFieldsTest, NumberIsRestoredFromItsRecord)
         WDX_ControlCode(wx, kOneRegister);
         DeclareNumber(wx);
         WDX_Constant(wx, {7, kOneRegister}, 0);
-        WDX_Number(wx, IDC_PROBE_OTHER, {8, kOneRegister}, 3, {0, 9}, IDS_ERR_DUTY);
+        WDX_Number(wx, {.edit = IDC_PROBE_OTHER,
+                        .entry = {8, kOneRegister},
+                        .limit = 3,
+                        .range = {0, 9},
+                        .message = IDS_ERR_DUTY});
     };
     InProbe(declare, [](CDialogRobot& robot) {
         EXPECT_EQ(robot.Text(IDC_PROBE_NUMBER), "");
@@ -346,7 +363,11 @@ TEST_F(CFieldsTest, NumberIsStoredWithTheLabelAsComment)
         DeclareStart(wx);
         DeclareNumber(wx);
         WDX_Constant(wx, {7, kOneRegister}, -3);
-        WDX_Number(wx, IDC_PROBE_UNLABELLED, {8, kOneRegister}, 0, {0, 9}, IDS_ERR_DUTY);
+        WDX_Number(wx, {.edit = IDC_PROBE_UNLABELLED,
+                        .entry = {8, kOneRegister},
+                        .limit = 0,
+                        .range = {0, 9},
+                        .message = IDS_ERR_DUTY});
     };
     for (const bool comments : {true, false})
     {
@@ -370,9 +391,12 @@ TEST_F(CFieldsTest, NumberShowsARangeThatDependsOnAnotherField)
 {
     const CProbeDlg::Fields declare = [](CWzdExchange* wx) {
         WDX_Output(wx, IDC_PROBE_OUTPUT, kOutputs);
-        WDX_Number(wx, IDC_PROBE_NUMBER, {0, kOneRegister}, 4,
-                   {1, 100 * (1 + wx->Dialog().Selection(IDC_PROBE_OUTPUT))}, IDS_ERR_FREQUENCY,
-                   IDC_PROBE_NUMBER_RANGE);
+        WDX_Number(wx, {.edit = IDC_PROBE_NUMBER,
+                        .entry = {0},
+                        .limit = 4,
+                        .range = {1, 100 * (1 + wx->Dialog().Selection(IDC_PROBE_OUTPUT))},
+                        .message = IDS_ERR_FREQUENCY,
+                        .rangeLabel = IDC_PROBE_NUMBER_RANGE});
     };
     InProbe(declare, [](CDialogRobot& robot) {
         EXPECT_EQ(robot.Text(IDC_PROBE_NUMBER_RANGE), "(1 - 100)");

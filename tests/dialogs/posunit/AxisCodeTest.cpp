@@ -86,6 +86,9 @@ protected:
         m_wizard.AddDataInfo(static_cast<short>(code), 10, 1, 1, static_cast<LONG>(word));
     }
 
+    /// A field of the stored word; 0 without a word.
+    DWORD Stored(SWzdBits bits) const { return bits.Extract(m_probe.StoredControlCode().value_or(0)); }
+
     /// Selects an item in each of the combos, presses OK and returns the control code.
     DWORD Compose(const CProbeDlg::Fields& fields, const std::vector<std::pair<UINT, int>>& items)
     {
@@ -158,22 +161,21 @@ TEST_F(CAxisCodeTest, FieldsOfTheStoredWordAreRead)
         int shift, width;
     } const accessors[] = {{0, 1}, {1, 1},  {2, 1},  {3, 1},  {4, 1},  {5, 1},  {6, 1},  {7, 1},
                            {8, 3}, {12, 2}, {18, 2}, {20, 2}, {24, 1}, {25, 1}, {28, 3}, {31, 1}};
-    EXPECT_EQ(m_probe.StoredControlCode(), 0u);
+    EXPECT_EQ(m_probe.StoredControlCode(), std::nullopt);
     for (const DWORD word : Words())
     {
         Store(word);
         EXPECT_EQ(m_probe.StoredControlCode(), word);
         for (const auto& field : accessors)
-            EXPECT_EQ(m_probe.StoredControlCode(SWzdBits{field.shift, field.width}),
-                      FieldOf(word, {{}, field.shift, field.width, {}}))
+            EXPECT_EQ(Stored({field.shift, field.width}), FieldOf(word, {{}, field.shift, field.width, {}}))
                 << std::hex << word << ", field at bit " << std::dec << field.shift;
     }
     for (const int code : {kK, kH, kWR, kSpecialDT, 0, -1})
     {
         Store(0xFFFFFFFF, code);
-        EXPECT_EQ(m_probe.StoredControlCode(), 0u) << code;
+        EXPECT_EQ(m_probe.StoredControlCode(), std::nullopt) << code;
         for (const auto& field : accessors)
-            EXPECT_EQ(m_probe.StoredControlCode(SWzdBits{field.shift, field.width}), 0u) << code;
+            EXPECT_EQ(Stored({field.shift, field.width}), 0u) << code;
     }
 }
 
@@ -181,7 +183,7 @@ TEST_F(CAxisCodeTest, OnlyTheFirstRecordHoldsTheWord)
 {
     m_wizard.AddDataInfo(kK, 0, 0, 0, 1);
     m_wizard.AddDataInfo(kDT, 0, 0, 0, 0x77);
-    EXPECT_EQ(m_probe.StoredControlCode(), 0u);
+    EXPECT_EQ(m_probe.StoredControlCode(), std::nullopt);
 }
 
 TEST_F(CAxisCodeTest, EachItemContributesItsBits)
@@ -216,9 +218,9 @@ TEST_F(CAxisCodeTest, TheLogicFieldsAddUp)
     {
         const DWORD code = Compose(declare, {{Combo(0), row.home}, {Combo(1), row.nearHome}, {Combo(2), row.limit}});
         EXPECT_EQ(code, row.code);
-        EXPECT_EQ(m_probe.StoredControlCode({4, 1}), static_cast<DWORD>(row.home));
-        EXPECT_EQ(m_probe.StoredControlCode({5, 1}), static_cast<DWORD>(row.nearHome));
-        EXPECT_EQ(m_probe.StoredControlCode({7, 1}), static_cast<DWORD>(row.limit));
+        EXPECT_EQ(Stored({4, 1}), static_cast<DWORD>(row.home));
+        EXPECT_EQ(Stored({5, 1}), static_cast<DWORD>(row.nearHome));
+        EXPECT_EQ(Stored({7, 1}), static_cast<DWORD>(row.limit));
     }
 }
 

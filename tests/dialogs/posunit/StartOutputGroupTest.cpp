@@ -104,7 +104,7 @@ TEST_F(CStartOutputGroupTest, EnablesWhatTheCheckBoxesLeaveToFillIn)
                 SCOPED_TRACE(testing::Message() << "form " << form << ", " << wanted << same);
                 dialog.CheckDlgButton(2054, wanted);
                 dialog.CheckDlgButton(2055, same);
-                CStartOutputGroup(&dialog, form == kExtended).UpdateEnabling();
+                CStartOutputGroup(&dialog).UpdateEnabling();
 
                 Places expected = before;
                 for (const UINT id : FollowersOf(form))
@@ -123,7 +123,7 @@ TEST_F(CStartOutputGroupTest, StaysAsItIsWithStartType2)
             InForm(form, [&](CDialog& dialog, CDialogRobot& robot) {
                 const Places before = PlacesOf(robot);
                 const CRect client = ClientOf(robot);
-                CStartOutputGroup(&dialog, form == kExtended).Compact(startType);
+                CStartOutputGroup(&dialog).Compact(startType);
                 EXPECT_EQ(PlacesOf(robot), before);
                 EXPECT_EQ(ClientOf(robot), client);
             });
@@ -135,7 +135,7 @@ TEST_F(CStartOutputGroupTest, GoesWithStartType0)
         InForm(form, [&](CDialog& dialog, CDialogRobot& robot) {
             const Places before = PlacesOf(robot);
             const CRect client = ClientOf(robot);
-            CStartOutputGroup(&dialog, form == kExtended).Compact(0);
+            CStartOutputGroup(&dialog).Compact(0);
 
             const int gained = before.at(3099).rect.top - before.at(IDC_GROUP_FRAME).rect.top;
             ASSERT_GT(gained, 0);
@@ -157,7 +157,7 @@ TEST_F(CStartOutputGroupTest, LosesTheWordWithStartType1)
         InForm(form, [&](CDialog& dialog, CDialogRobot& robot) {
             const Places before = PlacesOf(robot);
             const CRect client = ClientOf(robot);
-            CStartOutputGroup(&dialog, form == kExtended).Compact(1);
+            CStartOutputGroup(&dialog).Compact(1);
 
             const CRect word = before.at(2059).rect;
             const int gained = before.at(3099).rect.top - word.bottom;
@@ -185,7 +185,7 @@ TEST_F(CStartOutputGroupTest, DoesNothingWhenAControlToMeasureByIsMissing)
                 dialog.GetDlgItem(missing)->DestroyWindow();
                 const Places before = PlacesOf(robot);
                 const CRect client = ClientOf(robot);
-                const CStartOutputGroup group(&dialog, form == kExtended);
+                const CStartOutputGroup group(&dialog);
                 group.UpdateEnabling();
                 group.Compact(0);
                 group.Compact(1);
@@ -201,7 +201,7 @@ TEST_F(CStartOutputGroupTest, DoesNothingInATemplateThatNeverHadIt)
     Play([&] { return static_cast<int>(dialog.DoModal()); }, {[&](CDialogRobot& robot) {
              const auto before = robot.Controls().size();
              const CRect client = ClientOf(robot);
-             const CStartOutputGroup group(&dialog, false);
+             const CStartOutputGroup group(&dialog);
              group.UpdateEnabling();
              group.Compact(0);
              EXPECT_EQ(robot.Controls().size(), before);

@@ -1,6 +1,6 @@
 // Combos that refuse an item because they are full.
-#include "dialogs/posunit/AxisCode.h"
-#include "resources/resource.h"
+#include "dialogs/posunit/UnitRows.h"
+#include "dialogs/pulse/PulseRows.h"
 #include "tests/dialogs/base/ProbeDlg.h"
 
 #include "afx/offscreen/Desktop.h"
@@ -61,10 +61,10 @@ TEST_F(CListCapacityTest, IsReportedByTheFunctionsThatFill)
         offscreen::SetListCapacity(1);
         EXPECT_FALSE(m_probe.FillContactCombo(2051, 0));
         EXPECT_FALSE(m_probe.FillCombo(IDC_PROBE_COMBO, kOutputs));
-        EXPECT_FALSE(m_probe.FillJogDirectionCombo());
+        EXPECT_FALSE(FillJogDirectionCombo(m_probe));
         offscreen::SetListCapacity(7);
         EXPECT_TRUE(m_probe.FillContactCombo(2051, 0));
         EXPECT_TRUE(m_probe.FillCombo(IDC_PROBE_COMBO, kOutputs));
-        EXPECT_TRUE(m_probe.FillJogDirectionCombo());
+        EXPECT_TRUE(FillJogDirectionCombo(m_probe));
     });
 }

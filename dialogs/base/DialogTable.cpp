@@ -1,0 +1,53 @@
+#include "dialogs/base/DialogTable.h"
+
+#include "core/Memory.h"
+#include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/pulse/Spd1Dlg.h"
+#include "dialogs/pulse/SpdhDlg.h"
+#include "resources/resource.h"
+
+namespace
+{
+
+constexpr int kAnyVariant = -1;
+
+struct SDialogRow
+{
+    UINT templateId;
+    int variant; // where several share a template
+    std::unique_ptr<CWzdDlgBase> (*make)(CFunWizard* wizard, CWnd* parent);
+};
+
+template <class TDialog, auto... arguments>
+std::unique_ptr<CWzdDlgBase> Make(CFunWizard* wizard, CWnd* parent)
+{
+    return std::make_unique<TDialog>(wizard, arguments..., parent);
+}
+
+constexpr SDialogRow kDialogs[] = {
+    {IDD_SPD1_TRAPEZOIDAL, kAnyVariant, Make<CSpd1Dlg, false>},
+    {IDD_SPD1_HOME, kAnyVariant, Make<CSpd1Dlg, true>},
+    {IDD_SPDH_TRAPEZOIDAL, kAnyVariant, Make<CSpdhDlg, false>},
+    {IDD_SPDH_HOME, kAnyVariant, Make<CSpdhDlg, true>},
+    {IDD_EPOINT, kUnitEPoint, Make<CEPointDlg, kEPointForm>},
+    {IDD_EPOINT, kUnitPPointStart, Make<CEPointDlg, kPPointStartForm>},
+    {IDD_EPOINT, kUnitJogPositioning, Make<CEPointDlg, kJogPositioningForm>},
+};
+
+} // namespace
+
+std::unique_ptr<CWzdDlgBase> MakeDialog(UINT templateId, int variant, CFunWizard* wizard, CWnd* parent)
+{
+    for (const SDialogRow& row : kDialogs)
+        if (row.templateId == templateId && (row.variant == kAnyVariant || row.variant == variant))
+            return row.make(wizard, parent);
+    return nullptr;
+}
+
+INT_PTR RunDialog(UINT templateId, int variant, CFunWizard* wizard, CWnd* parent)
+{
+    std::unique_ptr<CWzdDlgBase> dialog;
+    if (!WithMemory([&] { dialog = MakeDialog(templateId, variant, wizard, parent); }) || dialog == nullptr)
+        return -1;
+    return dialog->DoModal();
+}

@@ -1,0 +1,182 @@
+// Fields that are a device and its number: contacts, operands, and the start of a data table.
+#include "core/Devices.h"
+#include "core/FunWizard.h"
+#include "core/Values.h"
+#include "dialogs/base/WzdDlgBase.h"
+#include "dialogs/base/WzdResults.h"
+#include "dialogs/fields/Rows.h"
+
+namespace
+{
+
+/// A combo box that lists devices, an edit for the number, and the label of the range.
+class CDeviceField : public CWzdField
+{
+public:
+    using CWzdField::CWzdField;
+
+    bool Open() override
+    {
+        short code = -1;
+        int number;
+        const bool stored = Restore(code, number);
+        if (!m_dialog.FillDeviceCombo(m_row, code))
+            return false;
+        m_dialog.SetItemText(m_row.edit, stored ? FormatDeviceNumber(code, number) : CString());
+        m_dialog.LimitText(m_row.edit, m_row.limit);
+        return true;
+    }
+
+    void Refresh() override { m_dialog.ShowDeviceRange(m_row); }
+
+    void Clear() override
+    {
+        m_dialog.Select(m_row.combo, 0);
+        m_dialog.SetItemText(m_row.edit, "");
+    }
+
+    bool Collect(CWzdResults& results) override
+    {
+        short code;
+        int number;
+        if (!m_dialog.ReadDevice(m_row, code, number))
+            return false;
+        Store(results, code, number);
+        return true;
+    }
+
+protected:
+    /// What the wizard's lists hold; false when they hold nothing.
+    virtual bool Restore(short& code, int& number) const = 0;
+    virtual void Store(CWzdResults& results, short code, int number) const = 0;
+};
+
+class CContactField : public CDeviceField
+{
+public:
+    using CDeviceField::CDeviceField;
+
+    bool Collect(CWzdResults& results) override
+    {
+        if (m_row.withoutInstruction == kStillChecked || !m_dialog.IsChecked(IDC_ONLY_DATA_TABLE))
+            return CDeviceField::Collect(results);
+        short code;
+        int number;
+        if (m_row.withoutInstruction == kBestKnown && BestKnown(code, number))
+            Store(results, code, number);
+        return true;
+    }
+
+protected:
+    bool Restore(short& code, int& number) const override
+    {
+        short kind;
+        return m_dialog.Wizard().GetContInfo(m_row.position, kind, code, number);
+    }
+
+    void Store(CWzdResults& results, short code, int number) const override
+    {
+        results.AddContact(kInstContact, code, number);
+    }
+
+private:
+    bool BestKnown(short& code, int& number) const
+    {
+        short kind;
+        int high;
+        return m_dialog.CheckDevice(m_row, code, number) == 0 ||
+               m_dialog.GetSelectedDeviceRange(m_row.combo, kind, code, number, high);
+    }
+};
+
+class CDeviceOperandField : public CDeviceField
+{
+public:
+    using CDeviceField::CDeviceField;
+
+protected:
+    bool Restore(short& code, int& number) const override
+    {
+        return m_dialog.Wizard().GetOprdInfo(m_row.position, code, number);
+    }
+
+    void Store(CWzdResults& results, short code, int number) const override
+    {
+        results.SetOperand(m_row.position, code, number);
+    }
+};
+
+class CDeviceTableField : public CDeviceOperandField
+{
+public:
+    using CDeviceOperandField::CDeviceOperandField;
+
+protected:
+    void Store(CWzdResults& results, short code, int number) const override
+    {
+        CDeviceOperandField::Store(results, code, number);
+        results.SetTableStart(code, number);
+    }
+};
+
+class CFixedContactField : public CWzdField
+{
+public:
+    CFixedContactField(CWzdDlgBase& dialog, const SWzdRow& row, short code, int number)
+        : CWzdField(dialog, row), m_code(code), m_number(number)
+    {
+    }
+
+    bool Collect(CWzdResults& results) override
+    {
+        results.KeepContacts();
+        results.AddContact(kInstContact, m_code, m_number);
+        return true;
+    }
+
+private:
+    short m_code;
+    int m_number;
+};
+
+class CConstantOperandField : public CWzdField
+{
+public:
+    CConstantOperandField(CWzdDlgBase& dialog, const SWzdRow& row, int value) : CWzdField(dialog, row), m_value(value)
+    {
+    }
+
+    bool Collect(CWzdResults& results) override
+    {
+        results.SetOperand(m_row.position, kDeviceK, m_value);
+        return true;
+    }
+
+private:
+    int m_value;
+};
+
+} // namespace
+
+void WDX_Contact(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CContactField>(wx, row); }
+
+void WDX_Contact(CWzdExchange* wx, UINT message)
+{
+    SWzdRow row = kStartingCondition;
+    row.message = message;
+    WDX_Contact(wx, row);
+}
+
+void WDX_FixedContact(CWzdExchange* wx, short code, int number)
+{
+    WzdDeclare<CFixedContactField>(wx, {}, code, number);
+}
+
+void WDX_DeviceOperand(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CDeviceOperandField>(wx, row); }
+
+void WDX_DeviceTable(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CDeviceTableField>(wx, row); }
+
+void WDX_ConstantOperand(CWzdExchange* wx, int position, int value)
+{
+    WzdDeclare<CConstantOperandField>(wx, {.position = position}, value);
+}

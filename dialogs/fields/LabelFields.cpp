@@ -1,0 +1,85 @@
+// Labels that follow what is entered and selected elsewhere.
+#include "core/FillText.h"
+#include "dialogs/base/WzdDlgBase.h"
+#include "dialogs/fields/Rows.h"
+
+namespace
+{
+
+class CLabelField : public CWzdField
+{
+public:
+    CLabelField(CWzdDlgBase& dialog, const SWzdRow& row, UINT text) : CWzdField(dialog, row), m_text(text) {}
+
+    void Refresh() override
+    {
+        CString text;
+        text.LoadString(m_text);
+        m_dialog.SetItemText(m_row.rangeLabel, text);
+    }
+
+private:
+    UINT m_text;
+};
+
+/// The names of registers that the program fills: the dialog only tells where they are.
+class CRegisterField : public CWzdField
+{
+public:
+    CRegisterField(CWzdDlgBase& dialog, const SWzdRow& row, const SWzdStartEdit& start, bool span, bool inRange)
+        : CWzdField(dialog, row), m_start(start), m_span(span), m_inRange(inRange)
+    {
+    }
+
+    void Refresh() override
+    {
+        LONGLONG start;
+        const bool known =
+            m_start.format.Parse(m_dialog.ItemText(m_start.edit), start) && (!m_inRange || Accepts(start));
+        m_dialog.SetItemText(m_row.rangeLabel, known ? Text(start) : CString());
+    }
+
+    bool FollowsEdit(UINT edit) const override { return edit == m_start.edit; }
+
+private:
+    bool Accepts(LONGLONG start) const
+    {
+        int low, high;
+        return m_dialog.GetDataTableRange(low, high) && start >= low && start <= high;
+    }
+
+    CString Text(LONGLONG start) const
+    {
+        const CString first = Name(start + m_row.entry.offset);
+        if (!m_span)
+            return " " + first;
+        const CString last = Name(start + m_row.entry.End() - 1);
+        return " " + FillText(IDS_REGISTER_SPAN, {first, last});
+    }
+
+    static CString Name(LONGLONG number) { return FillText(IDS_DT_ADDRESS, {number}); }
+
+    SWzdStartEdit m_start;
+    bool m_span; // the last register is named too
+    bool m_inRange;
+};
+
+void DeclareRegisters(CWzdExchange* wx, UINT label, const SWzdEntry& entry, bool span, bool inRange)
+{
+    wx->Reserve(entry);
+    WzdDeclare<CRegisterField>(wx, {.entry = entry, .rangeLabel = label}, wx->TableStart(), span, inRange);
+}
+
+} // namespace
+
+void WDX_Label(CWzdExchange* wx, UINT label, UINT text) { WzdDeclare<CLabelField>(wx, {.rangeLabel = label}, text); }
+
+void WDX_Register(CWzdExchange* wx, UINT label, const SWzdEntry& entry, bool inRange)
+{
+    DeclareRegisters(wx, label, entry, false, inRange);
+}
+
+void WDX_RegisterSpan(CWzdExchange* wx, UINT label, const SWzdEntry& entry)
+{
+    DeclareRegisters(wx, label, entry, true, false);
+}

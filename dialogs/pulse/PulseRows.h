@@ -1,0 +1,37 @@
+// What the pulse-output dialogs have in common: rows for the output, and the lists and ranges that several of them use.
+#pragma once
+
+#include "dialogs/fields/Rows.h"
+
+/// The pulse output, a constant operand; without an instruction ("Only a data table is created.") there is no choice.
+void WDX_Output(CWzdExchange* wx, UINT combo, CWzdChoices choices, int operand = 1);
+
+/// The same for the channels that the wizard offers to an instruction. A single channel leaves nothing to choose: then
+/// the dialog does not open.
+void WDX_Channel(CWzdExchange* wx, UINT combo, int instruction, int operand = 1);
+
+// ---- Lists ----------------------------------------------------------------------------------------------------------
+
+/// The built-in outputs.
+constexpr SWzdChoice kBuiltInOutputs[] = {{IDS_OUTPUT_Y, 0, 0}, {IDS_OUTPUT_Y, 1, 1}};
+
+constexpr SWzdChoice kDuties[] = {{IDS_DUTY_HALF, 0}, {IDS_DUTY_QUARTER, 1}};
+
+constexpr SWzdChoice kFrequencies[] = {
+    {IDS_FREQUENCY_FROM_1_5_HZ, 0}, {IDS_FREQUENCY_FROM_48_HZ, 1}, {IDS_FREQUENCY_FROM_191_HZ, 2}};
+
+/// Operation modes and output methods of a move on a channel.
+constexpr SWzdChoice kMoveModes[] = {
+    {IDS_INCREMENTAL_CW_CCW, 0x00},           //
+    {IDS_INCREMENTAL_SIGN_FORWARD_OFF, 0x02}, //
+    {IDS_INCREMENTAL_SIGN_FORWARD_ON, 0x03},  //
+    {IDS_ABSOLUTE_CW_CCW, 0x10},              //
+    {IDS_ABSOLUTE_SIGN_FORWARD_OFF, 0x12},    //
+    {IDS_ABSOLUTE_SIGN_FORWARD_ON, 0x13},
+};
+
+// ---- Ranges ---------------------------------------------------------------------------------------------------------
+
+/// The speeds, in Hz, that an item of kFrequencies allows on a channel; both by their positions in the lists, -1 for no
+/// selection. The first two channels of a list are the fast ones.
+SWzdRange SpeedRange(int frequency, int channel);
