@@ -51,7 +51,7 @@ TEST_F(CChangesTest, AreToldToEveryField)
             changes.clear();
             refreshes = 0;
         };
-        robot.Focus(IDC_PROBE_NUMBER);
+        robot.Focus(IDC_PROBE_CHECK);
         changes.clear();
         refreshes = 0;
         robot.Select(IDC_PROBE_OUTPUT, 1);

@@ -80,7 +80,7 @@ TEST_F(CNumberRowsTest, TheCodeCanBeWrittenInDecimal)
         WDX_Code(wx, {.combo = IDC_PROBE_COMBO, .choices = kModes, .bits = {0, 16}});
     };
     InProbe(declare, [](CDialogRobot& robot) { robot.Click(IDOK); });
-    EXPECT_EQ(ReadResults(m_wizard).data, (std::vector<SDataRow>{{0, 0, 0, 0, 0x11}}));
+    EXPECT_EQ(ReadResults(m_wizard).data, (std::vector<SDataRow>{{kDT, 0, 0, 0, 0x11}}));
 }
 
 // ---- Comments -------------------------------------------------------------------------------------------------------

@@ -118,11 +118,11 @@ TEST_F(CSectionTest, IsCheckedAndStoredWhileItCounts)
     {
         SCOPED_TRACE(testing::Message() << row.mode << " " << row.target);
         m_wizard.RemoveAllDataInfo();
-        InTarget([&](CDialogRobot& robot, CWzdDlgBase&) {
+        InTarget([&](CDialogRobot& robot, CWzdDlgBase& probe) {
             robot.Type(IDC_PROBE_START, "100");
             robot.Type(IDC_PROBE_NUMBER, "7");
             robot.Select(IDC_PROBE_COMBO, row.mode);
-            robot.SetText(IDC_PROBE_OTHER, row.target);
+            probe.SetItemText(IDC_PROBE_OTHER, row.target);
             const CString message = robot.ClickAndAnswer(IDOK);
             EXPECT_EQ(message.IsEmpty(), row.accepted) << message;
             if (!row.accepted)
@@ -150,8 +150,8 @@ TEST_F(CSectionTest, IsRestoredWhileItCounts)
 
 TEST_F(CSectionTest, IsClearedEvenWhenItDoesNotCount)
 {
-    InTarget([](CDialogRobot& robot, CWzdDlgBase&) {
-        robot.SetText(IDC_PROBE_OTHER, "4");
+    InTarget([](CDialogRobot& robot, CWzdDlgBase& probe) {
+        probe.SetItemText(IDC_PROBE_OTHER, "4");
         robot.Click(2099);
         robot.Select(IDC_PROBE_COMBO, 1);
         EXPECT_EQ(robot.Text(IDC_PROBE_OTHER), "");
