@@ -267,7 +267,7 @@ TEST_P(CReentranceTest, ContentsAreNotReset)
 
 TEST_P(CReentranceTest, NoSecondDialogOpens)
 {
-    SFunWizardTest::SetLastWizard(*m_wizard, 1, kUnitInstruction, kUnitPulsar);
+    SFunWizardTest::SetLastWizard(*m_wizard, 1, kInstructionUnit, kUnitPulsar);
     EXPECT_EQ(ConfirmWith([&] {
                   WriteResults(*m_wizard, SomeResults());
                   const int last = SFunWizardTest::LastInstruction(*m_wizard);
