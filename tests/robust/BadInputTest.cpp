@@ -4,19 +4,15 @@
 #include "tests/dialogs/pulse/Spd1Test.h"
 #include "tests/robust/CodePage.h"
 #include "tests/robust/TextGenerator.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
 
 // How many of the texts are tried. A message box of the real desktop takes its time: there, texts evenly spread over
 // all of them stand for the rest.
-#if defined(_WIN32)
-constexpr unsigned kTexts = 10000;
-constexpr unsigned kStep = 11;
-#else
-constexpr unsigned kTexts = 12000;
-constexpr unsigned kStep = 1;
-#endif
+const unsigned kTexts = IsThorough() ? 12000 : 10000;
+const unsigned kStep = IsThorough() ? 1 : 11;
 constexpr unsigned kTypedApart = 8;
 constexpr size_t kMostTyped = 200;
 

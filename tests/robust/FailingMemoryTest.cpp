@@ -4,6 +4,7 @@
 #include "tests/robust/Holdings.h"
 #include "tests/support/AllocationFaults.h"
 #include "tests/support/FailingOpening.h"
+#include "tests/support/Sampled.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
@@ -15,13 +16,8 @@ namespace
 constexpr int kTooMany = 100000; // allocations that an operation may not need
 
 // What is repeated to see what it leaves is repeated less where a dialog takes its time.
-#if defined(_WIN32)
-constexpr int kBatches = 3;
-constexpr int kStep = 7;
-#else
-constexpr int kBatches = 8;
-constexpr int kStep = 1;
-#endif
+const int kBatches = IsThorough() ? 8 : 3;
+const int kStep = IsThorough() ? 1 : 7;
 
 struct SFault
 {

@@ -7,6 +7,7 @@
 #include "tests/support/DesktopTest.h"
 #include "tests/support/PrintTo.h"
 #include "tests/support/Results.h"
+#include "tests/support/Sampled.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
@@ -17,11 +18,7 @@ namespace
 
 constexpr int kTooMany = 100000; // allocations that an opening may not need
 
-#if defined(_WIN32)
-constexpr int kStep = 17;
-#else
-constexpr int kStep = 1;
-#endif
+const int kStep = IsThorough() ? 1 : 17;
 
 /// Lists of some earlier run, so that there is something to restore.
 SResults EarlierResults()

@@ -12,6 +12,7 @@
 #include "tests/support/DesktopTest.h"
 #include "tests/support/PrintTo.h"
 #include "tests/support/Results.h"
+#include "tests/support/Sampled.h"
 
 #include <cstdlib>
 #include <functional>
@@ -22,11 +23,7 @@
 namespace
 {
 
-#if defined(_WIN32)
-constexpr unsigned kSequences = 240;
-#else
-constexpr unsigned kSequences = 6000;
-#endif
+const unsigned kSequences = IsThorough() ? 6000 : 240;
 constexpr int kMostSteps = 14;
 constexpr int kEnglish = 0;
 

@@ -1,16 +1,13 @@
 // A thousand dialogs of F168, confirmed or left, leave nothing behind: no window, no object, no memory.
 #include "tests/dialogs/pulse/Spd1Test.h"
 #include "tests/robust/Holdings.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
 
 constexpr int kBatches = 5;
-#if defined(_WIN32)
-constexpr int kOpenings = 67; // in each of them: a thousand in the three tests together
-#else
-constexpr int kOpenings = 200; // a thousand in each test
-#endif
+const int kOpenings = IsThorough() ? 200 : 67; // a thousand in each test
 
 /// The bytes that the system keeps of each list box with tab stops that is gone.
 size_t BytesLostWithTabStops()

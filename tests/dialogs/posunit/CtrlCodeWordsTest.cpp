@@ -1,6 +1,7 @@
 // What the dialog of the control code shows of a word, and what it makes of the choices.
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
 #include "tests/dialogs/posunit/CtrlCodeTest.h"
+#include "tests/support/Sampled.h"
 
 #include <random>
 
@@ -134,15 +135,9 @@ TEST_F(CCtrlCodeTest, ComposesAsFarAsTheFirstListWithoutSelection)
 // ---- Random words ---------------------------------------------------------------------------------------------------
 
 // A hundred thousand words by three ways, or a part of them where one opening takes long.
-#if defined(_WIN32)
-constexpr int kOpenings = 20;
-constexpr int kRefreshes = 300;
-constexpr int kInputs = 60;
-#else
-constexpr int kOpenings = 5000;
-constexpr int kRefreshes = 90000;
-constexpr int kInputs = 5000;
-#endif
+const int kOpenings = IsThorough() ? 5000 : 20;
+const int kRefreshes = IsThorough() ? 90000 : 300;
+const int kInputs = IsThorough() ? 5000 : 60;
 
 DWORD NextWord(std::mt19937& random) { return static_cast<DWORD>(random()); }
 

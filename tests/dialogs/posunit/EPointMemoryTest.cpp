@@ -2,17 +2,14 @@
 #include "tests/dialogs/posunit/EPointTest.h"
 #include "tests/support/AllocationFaults.h"
 #include "tests/support/FailingOpening.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
 
 constexpr int kTooMany = 100000; // allocations that an operation may not need
 
-#if defined(_WIN32)
-constexpr int kStep = 17;
-#else
-constexpr int kStep = 1;
-#endif
+const int kStep = IsThorough() ? 1 : 17;
 
 class CEPointMemoryTest : public CEPointTest, public testing::WithParamInterface<int>
 {

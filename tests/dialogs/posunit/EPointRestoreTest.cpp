@@ -1,5 +1,6 @@
 // What the dialog of E point control shows of an earlier run: each list position by its rule, and every control code.
 #include "tests/dialogs/posunit/EPointTest.h"
+#include "tests/support/Sampled.h"
 
 #include <random>
 
@@ -139,11 +140,7 @@ TEST_F(CEPointTest, RestoresNoAxisOfAnotherAddress)
 
 // ---- The control code -----------------------------------------------------------------------------------------------
 
-#if defined(_WIN32)
-constexpr int kWords = 200;
-#else
-constexpr int kWords = 10000;
-#endif
+const int kWords = IsThorough() ? 10000 : 200;
 
 TEST_F(CEPointTest, RestoresTheListsFromAnyWord)
 {

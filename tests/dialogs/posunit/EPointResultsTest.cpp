@@ -1,5 +1,6 @@
 // What a confirmed dialog of E point control leaves in the wizard's lists.
 #include "tests/dialogs/posunit/EPointTest.h"
+#include "tests/support/Sampled.h"
 
 #include <random>
 
@@ -75,11 +76,7 @@ TEST_F(CEPointTest, StoresTheBitsOfEveryItem)
     }
 }
 
-#if defined(_WIN32)
-constexpr int kRounds = 15;
-#else
-constexpr int kRounds = 1000;
-#endif
+const int kRounds = IsThorough() ? 1000 : 15;
 
 // Bits of fields that this dialog does not have are lost, even when nothing is changed.
 TEST_F(CEPointTest, KeepsOfAnyWordWhatItsListsShow)

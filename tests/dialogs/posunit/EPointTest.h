@@ -5,18 +5,16 @@
 #include "tests/dialogs/posunit/EPointModel.h"
 #include "tests/dialogs/posunit/PosUnitTest.h"
 #include "tests/resources/LanguageLibrary.h"
+#include "tests/support/Sampled.h"
+
+#include <span>
 
 /// The module's template has no start output, that of the library has.
 inline constexpr int kSources[] = {kModule, kEnglish};
 
 // For sweeps: everything, or what has most of it where an opening takes long.
-#if defined(_WIN32)
-inline constexpr int kSweptSources[] = {kEnglish};
-inline constexpr EEPointForm kSweptForms[] = {kJogPositioningForm};
-#else
-inline constexpr auto& kSweptSources = kSources;
-inline constexpr auto& kSweptForms = kForms;
-#endif
+inline const std::span<const int> kSweptSources = std::span(kSources).last(IsThorough() ? std::size(kSources) : 1);
+inline const std::span<const EEPointForm> kSweptForms = std::span(kForms).last(IsThorough() ? std::size(kForms) : 1);
 
 class CEPointTest : public CPosUnitTest
 {

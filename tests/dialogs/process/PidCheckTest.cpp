@@ -1,5 +1,6 @@
 // What the dialog of F355 checks, and in which order.
 #include "tests/dialogs/process/PidTest.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
@@ -7,13 +8,6 @@ namespace
 using CPidCheckTest = CPidTest;
 
 constexpr size_t kEntries = 2 + kPidParameters; // contact, start, parameters
-
-// Where a message box takes long, a part of the sets stands for all.
-#if defined(_WIN32)
-constexpr unsigned kStep = 17;
-#else
-constexpr unsigned kStep = 1;
-#endif
 
 UINT EditAt(size_t entry)
 {
@@ -42,7 +36,7 @@ TEST_F(CPidCheckTest, PointsAtTheFirstBadEntry)
     WriteResults(m_wizard, before);
     Leave([&](CDialogRobot& dialog) {
         FillIn(dialog, good);
-        for (unsigned bad = 1; bad < 1u << kEntries; bad += kStep)
+        for (const unsigned bad : SampledSets(kEntries, 37))
         {
             SCOPED_TRACE(testing::Message() << "bad entries " << bad);
             size_t first = kEntries;
@@ -73,7 +67,7 @@ TEST_F(CPidCheckTest, LooksOnlyAtTheParametersInUse)
         FillIn(dialog, {});
         for (const SPidParameterRow& parameter : kPid)
             dialog.Type(parameter.edit, "x");
-        for (unsigned used = 1; used < 1u << kPidParameters; used += kStep)
+        for (const unsigned used : SampledSets(kPidParameters, 31))
         {
             SCOPED_TRACE(testing::Message() << "used " << used);
             size_t first = kPidParameters;

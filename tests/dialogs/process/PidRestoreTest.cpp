@@ -1,6 +1,7 @@
 // What the dialog of F355 shows of an earlier run: the control mode of every word, the notation of every value, and the
 // walk over records of which any may be missing.
 #include "tests/dialogs/process/PidTest.h"
+#include "tests/support/Sampled.h"
 
 #include <random>
 
@@ -238,11 +239,7 @@ TEST_F(CPidRestoreTest, FindsTheRecordsByTheirRegisters)
     }
 }
 
-#if defined(_WIN32)
-constexpr int kRounds = 60; // where an opening takes long
-#else
-constexpr int kRounds = 2000;
-#endif
+const int kRounds = IsThorough() ? 2000 : 60;
 
 TEST_F(CPidRestoreTest, WalksOverAnyRecords)
 {

@@ -2,25 +2,19 @@
 // and the ladder.
 #include "tests/core/FunWizardTest.h"
 #include "tests/dialogs/process/PidTest.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
 
 using CPidResultsTest = CPidTest;
 
-// Where one opening takes long, a part of the sets stands for all.
-#if defined(_WIN32)
-constexpr unsigned kStep = 23;
-#else
-constexpr unsigned kStep = 1;
-#endif
-
 // Each set is stored, shown again, and stored again by the next OK.
 TEST_F(CPidResultsTest, HoldAnySetOfParameters)
 {
     for (int autoTuning : {0, 1})
     {
-        for (unsigned used = 0; used < 1u << kPidParameters; used += kStep)
+        for (const unsigned used : SampledNumbers(0, (1u << kPidParameters) - 1, 23))
         {
             SCOPED_TRACE(testing::Message() << "set " << used << ", auto-tuning " << autoTuning);
             SPidEntries entries = PidWith(used);

@@ -1,5 +1,6 @@
 // What a confirmed dialog of F171 leaves in the wizard: every control code, every field, comments, and the ladder.
 #include "tests/dialogs/pulse/SpdhTest.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
@@ -54,11 +55,7 @@ const std::vector<SItem>& Modes(ESpdhVariant variant)
 }
 
 // Where one opening takes long, a part of the codes stands for all; the step takes every item in turn.
-#if defined(_WIN32)
-constexpr int kStep = 11;
-#else
-constexpr int kStep = 1;
-#endif
+const int kStep = IsThorough() ? 1 : 11;
 
 // Each code is stored, shown again, and stored again by the next OK.
 TEST_P(CSpdhResultsTest, HoldTheCodeOfEveryCombination)

@@ -1,0 +1,30 @@
+// How much of an exhaustive test runs. Natively all of it does. Where one dialog takes as long as a thousand natively,
+// a sample stands for the rest: it must still touch every control, every message and every path of the code once.
+#pragma once
+
+#include <cstddef>
+#include <iterator>
+#include <ranges>
+#include <vector>
+
+/// Whether exhaustive tests run whole: natively, and on Windows when PEXLO_THOROUGH is set in the environment.
+bool IsThorough();
+
+/// The numbers from `first` to `last`, or as a sample every nth of them, the last always.
+std::vector<unsigned> SampledNumbers(unsigned first, unsigned last, unsigned every);
+
+/// Every set of `count` things but the empty one, a bit for each thing; or as a sample each thing alone, all together,
+/// and every nth set.
+std::vector<unsigned> SampledSets(std::size_t count, unsigned every);
+
+/// The rows of a table, or as a sample every nth of them, the last always.
+template <std::ranges::random_access_range TTable>
+auto Sampled(const TTable& table, unsigned every)
+{
+    std::vector<std::ranges::range_value_t<const TTable>> rows;
+    if (std::ranges::empty(table))
+        return rows;
+    for (const unsigned i : SampledNumbers(0, static_cast<unsigned>(std::ranges::size(table)) - 1, every))
+        rows.push_back(std::begin(table)[i]);
+    return rows;
+}
