@@ -28,9 +28,8 @@ public:
     // The longer the table, the lower the highest start.
     void Refresh() override
     {
+        m_dialog.ShowDataTableRange(m_row.rangeLabel);
         const auto range = Range();
-        if (range)
-            CWzdDlgBase::ShowRange(m_dialog.GetDlgItem(m_row.rangeLabel), *range);
         m_dialog.LimitText(m_row.edit, range ? FormatDecimal64(range->high).GetLength() : 0);
     }
 

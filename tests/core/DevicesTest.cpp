@@ -277,9 +277,9 @@ TEST(DevicePermissions, AreNeverGivenToSomeAndAlwaysToOthers)
 {
     for (const ULONGLONG mask : {0ull, ~0ull})
     {
-        for (const short code : {67, 20009})
-            EXPECT_FALSE(IsDevicePermitted(mask, code)) << code;
-        for (const short code : {-1, 13, 14, 16, 19, 21, 63, 68, 80, 82, 20001, 20065})
-            EXPECT_TRUE(IsDevicePermitted(mask, code)) << code;
+        for (const int code : {67, 20009})
+            EXPECT_FALSE(IsDevicePermitted(mask, static_cast<short>(code))) << code;
+        for (const int code : {-1, 13, 14, 16, 19, 21, 63, 68, 80, 82, 20001, 20065})
+            EXPECT_TRUE(IsDevicePermitted(mask, static_cast<short>(code))) << code;
     }
 }
