@@ -199,7 +199,7 @@ public:
     /// Appends a copy of the text; a null pointer counts as an empty text.
     int AddCmtInfo(const char* text);
     int GetCmtInfoCount() const;
-    /// Copies a comment with its terminator; the caller's buffer must hold it. 0 for a null buffer.
+    /// Copies a comment and its terminator. The dialogs add none longer than 255 bytes. 0 for a null buffer.
     int GetCmtInfo(int index, char* text) const;
     void RemoveAllCmtInfo();
 

@@ -3,10 +3,11 @@
 #include "host/DeviceText.h"
 
 #include <cstdarg>
-#include <vector>
 
 namespace
 {
+constexpr int kLongestComment = 255; // as the library promises
+
 [[gnu::format(printf, 1, 2)]] std::string Print(const char* format, ...)
 {
     va_list values;
@@ -34,13 +35,12 @@ int ConstantCode(int format)
     return format < 3 ? kCodes[format] : -1;
 }
 
-// The library copies into a buffer that must be large enough, but does not tell how large; it fills it with zeros
-// first.
+// The host adds no comments of its own, and those of the library have a limit.
 std::string Comment(const CFunWizard& wizard, int index)
 {
-    std::vector<char> text(4096);
-    wizard.GetCmtInfo(index, text.data());
-    return text.data();
+    char text[kLongestComment + 1] = "";
+    wizard.GetCmtInfo(index, text);
+    return text;
 }
 } // namespace
 

@@ -16,6 +16,8 @@ public:
     /// dialog could not be opened or the wizard was destroyed, -1 when the source does not hold the template.
     INT_PTR DoModal() override;
 
+    /// To be asked again after a message box or another dialog: the host may have destroyed the object meanwhile, and a
+    /// stand-in has taken its place.
     CFunWizard& Wizard() const { return *m_wizard; }
 
     // ---- Controls; a control that the template does not carry counts as empty, unchecked and without selection -----

@@ -1,5 +1,6 @@
 #include "dialogs/base/WzdResults.h"
 
+#include "afx/System.h"
 #include "core/FunWizard.h"
 
 void CWzdResults::AddContact(short kind, short code, int number)
@@ -32,7 +33,18 @@ void CWzdResults::AddToControlCode(DWORD bits)
         m_data[*m_codeRecord].value |= static_cast<LONG>(bits);
 }
 
-void CWzdResults::AddComment(const CString& text) { m_comments.push_back(text); }
+void CWzdResults::AddComment(const CString& text)
+{
+    if (text.GetLength() <= kLongestComment)
+    {
+        m_comments.push_back(text);
+        return;
+    }
+    int length = 0;
+    for (int next = 0; next <= kLongestComment; next += AfxCharLength(static_cast<LPCSTR>(text) + next))
+        length = next;
+    m_comments.push_back(text.Left(length));
+}
 
 void CWzdResults::AddCommentFrom(const CWnd* label)
 {

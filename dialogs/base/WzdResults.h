@@ -9,6 +9,9 @@
 
 class CFunWizard;
 
+/// In bytes: hosts read comments into buffers without telling their size.
+constexpr int kLongestComment = 255;
+
 /// An axis of a positioning unit, from 1, and the slot of the unit.
 struct SWzdUnitAxis
 {
@@ -37,6 +40,7 @@ public:
     /// The control code is complete: bits that come later no longer count.
     void EndControlCode() { m_codeEnded = true; }
 
+    /// A comment that is too long is cut behind a whole character.
     void AddComment(const CString& text);
     /// The text of a control; nothing when there is no control.
     void AddCommentFrom(const CWnd* label);
