@@ -113,10 +113,12 @@ void DeclareDoubleWord(CWzdExchange* wx, UINT edit, int offset, int limit, SWzdR
 
 void WDX_UnitAxis(CWzdExchange* wx, UINT slotEdit, UINT axisEdit, int words, int areaOffset)
 {
-    const CFunWizard& wizard = wx->Dialog().Wizard();
-    WzdDeclare<CSlotField>(wx, {.edit = slotEdit, .limit = 2, .range = UnitSlotRange(wizard), .message = IDS_ERR_SLOT});
-    WzdDeclare<CAxisField>(wx, {.edit = axisEdit, .limit = 1, .range = UnitAxisRange(wizard), .message = IDS_ERR_AXIS},
-                           words, areaOffset);
+    const CWzdDlgBase& dialog = wx->Dialog(); // The slot's message may outlast the wizard.
+    WzdDeclare<CSlotField>(
+        wx, {.edit = slotEdit, .limit = 2, .range = UnitSlotRange(dialog.Wizard()), .message = IDS_ERR_SLOT});
+    WzdDeclare<CAxisField>(
+        wx, {.edit = axisEdit, .limit = 1, .range = UnitAxisRange(dialog.Wizard()), .message = IDS_ERR_AXIS}, words,
+        areaOffset);
 }
 
 void WDX_StartupSpeed(CWzdExchange* wx, UINT edit, int offset)

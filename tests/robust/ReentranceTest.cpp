@@ -10,6 +10,7 @@
 #include "resources/resource.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -533,6 +534,38 @@ TEST_P(CReentranceOfDialogsTest, EndsWithItsObjectUnderAMessageBox)
                   NotifyAll(dialog.Dialog()->GetSafeHwnd());
               }),
               IDCANCEL);
+}
+
+// Whichever entry the box is about: those before it are given values that are accepted.
+TEST_P(CReentranceOfDialogsTest, EndsWithItsObjectUnderTheMessageBoxOfAnyField)
+{
+    constexpr int kMostRefusals = 60;
+    const char* const kValues[] = {"", "1", "100", "1000", "0.5"};
+    bool isAccepted = false;
+    int refusals = 0;
+    for (; refusals < kMostRefusals && !isAccepted; ++refusals)
+    {
+        m_wizard = std::make_unique<CFunWizard>();
+        SetUpController(*m_wizard);
+        m_dialog = GetParam().make(m_wizard.get());
+        CHostWindow host;
+        PlayWith([&](CDialogRobot& dialog) {
+            std::map<UINT, size_t> tried;
+            for (int i = 0; i < refusals && !isAccepted; ++i)
+            {
+                isAccepted = dialog.ClickAndAnswer(IDOK).IsEmpty();
+                if (isAccepted)
+                    return;
+                const UINT edit = dialog.FocusId();
+                ASSERT_LT(++tried[edit], std::size(kValues)) << "nothing is accepted in " << edit;
+                dialog.Type(edit, kValues[tried[edit]]);
+            }
+            host.Post([&] { m_wizard.reset(); });
+            isAccepted = dialog.ClickAndAnswer(IDOK).IsEmpty();
+        });
+    }
+    EXPECT_TRUE(isAccepted);
+    EXPECT_GT(refusals, 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, CReentranceOfDialogsTest, testing::ValuesIn(kInstructionDialogs),
