@@ -25,9 +25,9 @@ public:
     BOOL IsEmpty() const { return m_nSize == 0; }
     int GetUpperBound() const { return m_nSize - 1; }
 
-    /// Makes the array `newSize` elements long. New elements are zero-filled, then constructed. When the storage has to
-    /// grow it grows by at least `growBy` elements; 0 means one eighth of the size, no less than 4 and no more than
-    /// 1024, and -1 keeps what was set before.
+    /// Makes the array `newSize` elements long. New elements are zero but for what their constructors set. When the
+    /// storage has to grow it grows by at least `growBy` elements; 0 means one eighth of the size, no less than 4 and
+    /// no more than 1024, and -1 keeps what was set before.
     void SetSize(int newSize, int growBy = -1);
     /// Gives back the storage that the elements do not need.
     void FreeExtra();

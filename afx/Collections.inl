@@ -114,11 +114,8 @@ void CArray<TYPE, ARG_TYPE>::Grow(int size)
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Construct(int first, int last)
 {
-    if (first >= last)
-        return;
-    std::memset(static_cast<void*>(m_pData + first), 0, (last - first) * sizeof(TYPE));
     for (; first < last; ++first)
-        ::new (static_cast<void*>(m_pData + first)) TYPE;
+        ::new (static_cast<void*>(m_pData + first)) TYPE();
 }
 
 template <class TYPE, class ARG_TYPE>

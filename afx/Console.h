@@ -4,4 +4,4 @@
 #include "afx/Export.h"
 
 /// From now on standard output takes bytes as they are: "\n" stays one character on Windows too.
-AFX_API void AfxSetBinaryOutput();
+void AfxSetBinaryOutput();

@@ -129,7 +129,8 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM wParam, L
     if (message != WM_INITDIALOG || FromHandlePermanent(window))
         return FALSE;
     CDialog* const dialog = reinterpret_cast<CDialog*>(lParam);
-    dialog->SubclassWindow(window);
+    if (!dialog->SubclassWindow(window))
+        return ::DestroyWindow(window); // there was no memory to attach it
     return AfxCallWndProc(dialog, AfxMessage(window, message, wParam, lParam));
 }
 

@@ -47,7 +47,7 @@ struct SRobotControl
     RECT rect; ///< in pixels, relative to the dialog's client area
 };
 
-class AFX_API CDialogRobot
+class CDialogRobot
 {
 public:
     /// What a user does in one dialog. It must leave the dialog closed.

@@ -5,7 +5,7 @@
 
 /// Shows a topic of a help file by its number; 0 shows the file's default topic. While the control is called, the drive
 /// that the path names is the current one. Does nothing where the system has no help control.
-AFX_API void AfxHtmlHelp(LPCSTR path, UINT topic);
+void AfxHtmlHelp(LPCSTR path, UINT topic);
 
 /// The system's help control. It is loaded when it is first needed and never freed; when it cannot be found or used
 /// once, it is not looked for again.

@@ -94,7 +94,7 @@ class AFX_API CResourceException : public CException
 };
 
 [[noreturn]] AFX_API void AfxThrowMemoryException();
-[[noreturn]] AFX_API void AfxThrowResourceException();
+[[noreturn]] void AfxThrowResourceException();
 
 // All memory of objects, strings and containers passes through these. Without memory they throw a CMemoryException and
 // change nothing.
@@ -109,4 +109,4 @@ AFX_API void AfxFree(void* block);
 typedef BOOL(PASCAL* AFX_ALLOC_HOOK)(size_t size, BOOL isObject, LONG requestNumber);
 
 /// Installs a hook and returns the one before; null for none. For tests of what happens without memory.
-AFX_API AFX_ALLOC_HOOK AfxSetAllocHook(AFX_ALLOC_HOOK hook);
+AFX_ALLOC_HOOK AfxSetAllocHook(AFX_ALLOC_HOOK hook);

@@ -10,17 +10,17 @@ AFX_API HINSTANCE AfxGetResourceHandle();
 AFX_API void AfxSetResourceHandle(HINSTANCE resources);
 
 /// The module that contains this code: the library or, where the code is linked directly, the program.
-AFX_API HINSTANCE AfxGetInstanceHandle();
+HINSTANCE AfxGetInstanceHandle();
 
 /// The module to look for a resource in: always the one in use, there is no fallback.
-AFX_API HINSTANCE AfxFindResourceHandle(LPCSTR name, LPCSTR type);
+HINSTANCE AfxFindResourceHandle(LPCSTR name, LPCSTR type);
 
 /// Copies a string of the module in use to a buffer of `size` characters, cutting it when it is longer, and allocates
 /// nothing. Returns its length without the terminator; 0, and an empty text, when there is no such string.
-AFX_API int AfxLoadString(UINT id, LPSTR buffer, UINT size = 256);
+int AfxLoadString(UINT id, LPSTR buffer, UINT size = 256);
 
 /// Loads a library, to be freed with AfxFreeLibrary; null on failure. Give a full path: a bare name is searched for in
 /// folders that are not ours.
-AFX_API HINSTANCE AfxLoadLibrary(LPCSTR path);
+HINSTANCE AfxLoadLibrary(LPCSTR path);
 /// Null is permitted and does nothing.
-AFX_API BOOL AfxFreeLibrary(HINSTANCE library);
+BOOL AfxFreeLibrary(HINSTANCE library);

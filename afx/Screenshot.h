@@ -5,4 +5,4 @@
 
 /// Paints a window with its caption and saves what it shows as a PNG file. FALSE when the file cannot be written, or
 /// when this desktop has no pictures: windows that are only kept in memory are never painted.
-AFX_API BOOL AfxSaveScreenshot(HWND window, LPCSTR pngPath);
+BOOL AfxSaveScreenshot(HWND window, LPCSTR pngPath);

@@ -14,7 +14,9 @@ namespace
 
 constexpr char kWhiteSpace[] = " \t\n\v\f\r";
 
-int Length(LPCSTR text) { return text ? static_cast<int>(std::strlen(text)) : 0; }
+LPCSTR OrEmpty(LPCSTR text) { return text ? text : ""; }
+
+int Length(LPCSTR text) { return static_cast<int>(std::strlen(OrEmpty(text))); }
 
 std::string_view View(const CString& text) { return {text, static_cast<size_t>(text.GetLength())}; }
 
@@ -68,7 +70,7 @@ CString::CString(const CString& other) { Assign(other, other.GetLength()); }
 
 CString::CString(LPCSTR text) { Assign(text, Length(text)); }
 
-CString::CString(LPCSTR text, int length) { Assign(text, length); }
+CString::CString(LPCSTR text, int length) { Assign(text, text ? length : 0); }
 
 CString::CString(char c, int count)
 {
@@ -135,7 +137,7 @@ CString& CString::operator+=(char c)
 int CString::CompareNoCase(LPCSTR other) const
 {
     LPCSTR mine = *this;
-    other = other ? other : "";
+    other = OrEmpty(other);
     for (; *mine && Lower(*mine) == Lower(*other); ++mine, ++other)
         ;
     return static_cast<BYTE>(Lower(*mine)) - static_cast<BYTE>(Lower(*other));
@@ -156,11 +158,14 @@ CString CString::Right(int count) const
 
 int CString::Find(char c, int start) const { return start < 0 ? -1 : Index(View(*this).find(c, start)); }
 
-int CString::Find(LPCSTR text, int start) const { return start < 0 ? -1 : Index(View(*this).find(text, start)); }
+int CString::Find(LPCSTR text, int start) const
+{
+    return start < 0 ? -1 : Index(View(*this).find(OrEmpty(text), start));
+}
 
 int CString::ReverseFind(char c) const { return Index(View(*this).rfind(c)); }
 
-int CString::FindOneOf(LPCSTR characters) const { return Index(View(*this).find_first_of(characters)); }
+int CString::FindOneOf(LPCSTR characters) const { return Index(View(*this).find_first_of(OrEmpty(characters))); }
 
 void CString::TrimLeft()
 {
@@ -238,7 +243,7 @@ void CString::Format(LPCSTR format, ...)
 
 void CString::FormatV(LPCSTR format, va_list arguments)
 {
-    const CString translated = TranslateFormat(format);
+    const CString translated = TranslateFormat(OrEmpty(format));
     va_list again;
     va_copy(again, arguments);
     char brief[256];

@@ -29,5 +29,3 @@ CString AfxGetModuleFolder(HINSTANCE module)
     }
     return path.Left(folderLength);
 }
-
-HINSTANCE AfxGetProgramHandle() { return ::GetModuleHandleA(nullptr); }

@@ -12,8 +12,8 @@ IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 namespace
 {
 
-// The objects that are attached to a window. They are a handful, the last ones being asked for most. There is room from
-// the start, so that memory cannot fail while the system creates a window.
+// The objects that are attached to a window. They are a handful, the last ones being asked for most, and there is room
+// for them from the start. A host may attach more.
 std::vector<CWnd*> attachedWindows = [] {
     std::vector<CWnd*> none;
     none.reserve(64);
@@ -78,7 +78,14 @@ BOOL CWnd::Attach(HWND window)
     ASSERT(!m_hWnd);
     if (!window)
         return FALSE;
-    attachedWindows.push_back(this);
+    try
+    {
+        attachedWindows.push_back(this);
+    }
+    catch (const std::bad_alloc&) // which must not pass the system while it creates a window
+    {
+        return FALSE;
+    }
     m_hWnd = window;
     return TRUE;
 }
@@ -91,7 +98,8 @@ HWND CWnd::Detach()
 
 void CWnd::AttachCreated(HWND window)
 {
-    Attach(window);
+    if (!Attach(window))
+        return;
     PreSubclassWindow();
     m_pfnSuper = ::DefWindowProcA;
 }
@@ -128,7 +136,10 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, i
     const HWND created = ::CreateWindowExA(exStyle, className ? className : plainClass.kName, text, style, x, y, width,
                                            height, parent, idOrMenu, AfxGetInstanceHandle(), context);
     windowInCreation = nullptr;
-    return created && (!className || SubclassWindow(created));
+    if (!created || (className ? SubclassWindow(created) : m_hWnd != nullptr))
+        return created != nullptr;
+    ::DestroyWindow(created); // there was no memory to attach it
+    return FALSE;
 }
 
 LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -139,7 +150,7 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         object = std::exchange(windowInCreation, nullptr);
         object->AttachCreated(window);
     }
-    if (!object)
+    if (!object || !object->m_hWnd)
         return ::DefWindowProcA(window, message, wParam, lParam);
 
     return AfxCallWndProc(object, AfxMessage(window, message, wParam, lParam));

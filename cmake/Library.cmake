@@ -4,7 +4,8 @@
 #   wizard   core and dialogs
 #   pexlo    both, with the module's own resources
 #   Pexlo    Pexlo.dll and libPexlo.dll.a (Windows only)
-
+#   robot    what tests and recorded sessions need beside the library: CDialogRobot, pictures, the console. No part of
+#            the DLL; compiled by each program that links it.
 
 if(WIN32)
     set(desktop win32)
@@ -13,8 +14,11 @@ else()
 endif()
 file(GLOB afx_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/afx/*.cpp ${PROJECT_SOURCE_DIR}/afx/${desktop}/*.cpp)
 file(GLOB_RECURSE wizard_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/dialogs/*.cpp)
+set(robot_sources ${PROJECT_SOURCE_DIR}/afx/DialogRobot.cpp ${PROJECT_SOURCE_DIR}/afx/${desktop}/Console.cpp
+                  ${PROJECT_SOURCE_DIR}/afx/${desktop}/Screenshot.cpp)
+list(REMOVE_ITEM afx_sources ${robot_sources})
 if(PEXLO_WITH_MFC)
-    list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|HtmlHelp|System|DialogRobot|win32/Screenshot)\\.cpp$")
+    list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|HtmlHelp|System|win32/ExceptionMemory)\\.cpp$")
 endif()
 
 add_library(afx OBJECT ${afx_sources})
@@ -34,6 +38,11 @@ target_sources(pexlo INTERFACE $<TARGET_OBJECTS:afx> $<TARGET_OBJECTS:wizard>)
 target_compile_definitions(pexlo INTERFACE PEXLO_STATIC)
 target_include_directories(pexlo INTERFACE ${PROJECT_SOURCE_DIR})
 target_link_libraries(pexlo INTERFACE module_resources ${system_libraries})
+
+add_library(robot INTERFACE)
+target_sources(robot INTERFACE ${robot_sources})
+target_include_directories(robot INTERFACE ${PROJECT_SOURCE_DIR})
+target_link_libraries(robot INTERFACE ${system_libraries})
 
 if(WIN32)
     add_library(Pexlo SHARED $<TARGET_OBJECTS:afx> $<TARGET_OBJECTS:wizard>)

@@ -4,7 +4,6 @@
 //     LadderHost --play session.json [--shots DIR] plays a recorded session and prints what came of it
 
 #include "afx/Console.h"
-#include "afx/System.h"
 #include "host/HostDlg.h"
 #include "host/HostName.h"
 #include "host/SessionPlayer.h"
@@ -44,7 +43,7 @@ int Run(int argc, char** argv)
 
     AfxSetBinaryOutput(); // reports have the same line ends everywhere
     PexloDll_SetAppName(kHostName);
-    AfxSetResourceHandle(AfxGetProgramHandle());
+    AfxSetResourceHandle(::GetModuleHandleA(nullptr)); // the library's own are its English ones
     if (*play)
         return PlaySession(session, shots);
 

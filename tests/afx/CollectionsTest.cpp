@@ -111,6 +111,30 @@ TEST(ArrayTest, NewElementsAreZero)
     EXPECT_EQ(Elements(array), (std::vector<int>{1, 0, 0, 0}));
 }
 
+// A class whose constructor leaves a member to the array.
+struct SPartlySet
+{
+    int set = 7;
+    int rest;
+};
+
+TEST(ArrayTest, NewElementsAreZeroButForWhatTheirConstructorSets)
+{
+    CArray<SPartlySet> array;
+    SPartlySet used;
+    used.set = 1;
+    used.rest = 2;
+    for (int i = 0; i < 4; ++i)
+        array.Add(used);
+    array.SetSize(1);
+    array.SetSize(4);
+    for (int i = 1; i < 4; ++i)
+    {
+        EXPECT_EQ(array[i].set, 7);
+        EXPECT_EQ(array[i].rest, 0);
+    }
+}
+
 TEST(ArrayTest, GivesSpareStorageBack)
 {
     CArray<int, int> array;

@@ -205,6 +205,29 @@ TEST(StringTest, Replaces)
     EXPECT_EQ(text, "abc");
 }
 
+TEST(StringTest, ANullTextIsAnEmptyOne)
+{
+    const LPCSTR null = nullptr;
+    EXPECT_EQ(CString(null, 3), "");
+    EXPECT_EQ(CString(null, 0), "");
+
+    CString text("abc");
+    EXPECT_EQ(text.Find(null), text.Find(""));
+    EXPECT_EQ(text.Find(null, 2), text.Find("", 2));
+    EXPECT_EQ(text.FindOneOf(null), -1);
+    EXPECT_EQ(text.Replace(null, "x"), 0);
+    EXPECT_GT(text.CompareNoCase(null), 0);
+    EXPECT_EQ(CString().CompareNoCase(null), 0);
+    EXPECT_FALSE(text == null);
+    EXPECT_TRUE(null == CString());
+    EXPECT_TRUE(null < text);
+    EXPECT_TRUE(text > null);
+    EXPECT_EQ(text + null, "abc");
+    EXPECT_EQ(null + text, "abc");
+    text.Format(null);
+    EXPECT_EQ(text, "");
+}
+
 TEST(StringTest, GivesAccessToItsCharacters)
 {
     CString text("abc");
