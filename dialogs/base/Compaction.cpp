@@ -23,6 +23,8 @@ void HideControls(CWnd* first, int count)
 
 void ShowControls(CWnd* first, UINT last, bool shown)
 {
+    if (first == nullptr || first->GetParent()->GetDlgItem(static_cast<int>(last)) == nullptr)
+        return;
     for (CWnd* control = first; control != nullptr; control = control->GetWindow(GW_HWNDNEXT))
     {
         control->ShowWindow(shown ? SW_SHOW : SW_HIDE);
@@ -34,9 +36,9 @@ void ShowControls(CWnd* first, UINT last, bool shown)
 
 void CloseGap(CWnd* first, UINT last, int height)
 {
-    if (first == nullptr)
+    CWnd* const dialog = first != nullptr ? first->GetParent() : nullptr;
+    if (dialog == nullptr || dialog->GetDlgItem(static_cast<int>(last)) == nullptr)
         return;
-    CWnd* const dialog = first->GetParent();
     for (CWnd* control = first; control != nullptr; control = control->GetWindow(GW_HWNDNEXT))
     {
         CRect rect = RectInDialog(control);

@@ -1,4 +1,5 @@
-// Dialogs that leave out controls which their form does not need, and close the gap.
+// Dialogs that leave out controls which their form does not need, and close the gap. Nothing happens when a control to
+// begin or to end with is missing.
 #pragma once
 
 #include "afx/afx.h"

@@ -15,11 +15,6 @@ constexpr UINT kFirstChoice = IDCANCEL + 1; // OK and Cancel go their own ways
 constexpr UINT kLastControl = 0x7FFF;
 constexpr short kRangeKind = -1; // Under which hosts set the device ranges.
 
-constexpr SWzdRow kContacts[] = {
-    {.combo = IDC_CONTACT_DEVICE, .rangeLabel = IDC_CONTACT_RANGE},
-    {.combo = IDC_SECOND_DEVICE, .rangeLabel = IDC_SECOND_RANGE},
-};
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(CWzdDlgBase, CWzdDialog)
@@ -158,7 +153,8 @@ bool CWzdDlgBase::FillDeviceCombo(const SWzdRow& row, short wanted)
     if (list == nullptr)
         return false;
     list->ResetContent();
-    int selected = 0;
+    int selected = -1;
+    int preferred = 0;
     short kind, code;
     BYTE bitKind = kWordDevice;
     for (int index = 0, found; (found = Wizard().GetSeqDevInfo(index, kind, code, bitKind, 0)) >= 0; index++)
@@ -173,8 +169,10 @@ bool CWzdDlgBase::FillDeviceCombo(const SWzdRow& row, short wanted)
             return false;
         if (code == wanted)
             selected = item;
+        if (code == row.preferred)
+            preferred = item;
     }
-    list->SetCurSel(selected);
+    list->SetCurSel(selected >= 0 ? selected : preferred);
     return true;
 }
 
@@ -210,13 +208,15 @@ bool CWzdDlgBase::ShowDeviceRange(const SWzdRow& row)
     int low, high;
     if (!GetSelectedDeviceRange(static_cast<int>(row.combo), kind, code, low, high))
         return false;
-    const int shownHigh = static_cast<int>(std::max<LONGLONG>(high - row.shownLess, INT_MIN));
-    SetItemText(row.rangeLabel,
-                FillText(IDS_RANGE_TEXT, {FormatDeviceNumber(code, low), FormatDeviceNumber(code, shownHigh)}));
+    SetItemText(row.rangeLabel, FillText(IDS_RANGE_TEXT, {FormatDeviceNumber(code, low),
+                                                          FormatDeviceNumber(code, high - row.shownLess)}));
     return true;
 }
 
-bool CWzdDlgBase::ShowContactRange(int which) { return ShowDeviceRange(kContacts[which == 0 ? 0 : 1]); }
+bool CWzdDlgBase::ShowContactRange(int which)
+{
+    return ShowDeviceRange(which == 0 ? kStartingCondition : kSecondCondition);
+}
 
 // ---- The data table -------------------------------------------------------------------------------------------------
 
@@ -252,13 +252,6 @@ bool CWzdDlgBase::ShowDataTableRange(UINT labelId)
         return false;
     ShowRange(GetDlgItem(static_cast<int>(labelId)), {low, high});
     return true;
-}
-
-LONGLONG CWzdDlgBase::StoredTableStart() const
-{
-    short code;
-    int number;
-    return Wizard().GetOprdInfo(0, code, number) && code == kDeviceDT ? number : -1;
 }
 
 std::optional<DWORD> CWzdDlgBase::StoredControlCode() const
@@ -304,11 +297,14 @@ void CWzdDlgBase::AddComment(CWzdResults& results, const SWzdRow& row) const
         text.LoadString(comment.text);
         results.AddComment(text);
     }
-    else if (comment.secondLabel != 0)
-        results.AddComment(ItemText(comment.label) + " " + ItemText(comment.secondLabel));
+    else if (comment.label != 0)
+    {
+        const CString joint = comment.secondLabel != 0 ? " " : "";
+        if (GetDlgItem(static_cast<int>(comment.label)) != nullptr)
+            results.AddComment(ItemText(comment.label) + joint + ItemText(comment.secondLabel));
+    }
     else
-        results.AddCommentFrom(comment.label != 0 ? GetDlgItem(static_cast<int>(comment.label))
-                                                  : ControlBefore(row.edit));
+        results.AddCommentFrom(ControlBefore(row.combo != 0 ? row.combo : row.edit));
 }
 
 bool CWzdDlgBase::IsClipboardText() { return AfxIsClipboardText(); }

@@ -7,6 +7,19 @@
 
 #include "dialogs/base/WzdDialog.h"
 #include "dialogs/base/WzdExchange.h"
+#include "resources/resource.h"
+
+/// The contact of the starting condition, and the one of a second condition.
+constexpr SWzdRow kStartingCondition = {.combo = IDC_CONTACT_DEVICE,
+                                        .edit = IDC_CONTACT_NUMBER,
+                                        .limit = 4,
+                                        .message = IDS_ERR_CONTACT,
+                                        .rangeLabel = IDC_CONTACT_RANGE};
+constexpr SWzdRow kSecondCondition = {.combo = IDC_SECOND_DEVICE,
+                                      .edit = IDC_SECOND_NUMBER,
+                                      .limit = 4,
+                                      .message = IDS_ERR_CONTACT,
+                                      .rangeLabel = IDC_SECOND_RANGE};
 
 class CWzdDlgBase : public CWzdDialog
 {
@@ -39,8 +52,6 @@ public:
 
     // ---- The stored results -----------------------------------------------------------------------------------------
 
-    /// The register that the first operand names; -1 when it names none.
-    LONGLONG StoredTableStart() const;
     /// The control code that the data list begins with; nothing when it does not begin with a register.
     virtual std::optional<DWORD> StoredControlCode() const;
 
@@ -55,7 +66,7 @@ public:
     /// The same without a message shown: the message that would be, or 0.
     UINT CheckDevice(const SWzdRow& row, short& code, int& number) const;
 
-    /// Adds the comment of a row to the results; none when the controls it comes from are missing.
+    /// Adds the comment of a row to the results; none when the label it comes from is missing.
     void AddComment(CWzdResults& results, const SWzdRow& row) const;
 
     /// Shows "(low - high)" in a label, when there is one.
@@ -69,11 +80,11 @@ public:
     /// How many registers the data table takes: as far as the declared entries reach.
     virtual LONGLONG TableWords();
 
-protected:
-    /// The user has selected an item, clicked a button or left an edit. It may change what other fields show or accept,
-    /// so all are told and brought into line.
+    /// The user has selected an item, clicked a button, left an edit that others follow, or changed something else that
+    /// field `id` stands for. It may change what other fields show or accept, so all are told and brought into line.
     virtual void OnChanged(UINT id);
 
+protected:
     [[nodiscard]] bool Open() override;
     [[nodiscard]] bool Confirm() override;
 

@@ -16,11 +16,13 @@
 #include <algorithm>
 #include <utility>
 
-/// The edit that holds the start of the data table.
-struct SWzdStartEdit
+/// Where the start of the data table is entered, and which operand it is.
+struct SWzdTableStart
 {
     UINT edit = 0;
     SWzdFormat format = kSigned;
+    int operand = 0;
+    bool anyDevice = false; ///< not DT alone
 };
 
 class CWzdExchange
@@ -39,7 +41,7 @@ public:
     // ---- The data table ---------------------------------------------------------------------------------------------
 
     /// Declares an entry of the data table. Returns the record of the wizard's data list that restores it: each entry
-    /// takes the record behind that of the entry before.
+    /// takes the record behind that of the entry before, as long as it is of the table's device.
     int AddEntry(const SWzdEntry& entry);
     /// The same for an entry that may have been left out: it takes the next record only if that is of its register.
     int AddOptionalEntry(const SWzdEntry& entry);
@@ -47,9 +49,9 @@ public:
     void Reserve(const SWzdEntry& entry) { m_tableWords = std::max(m_tableWords, m_active ? entry.End() : 0); }
     LONGLONG TableWords() const { return m_tableWords; }
 
-    /// Where the table's start is entered, and how.
-    void SetTableStart(const SWzdStartEdit& start) { m_tableStart = start; }
-    const SWzdStartEdit& TableStart() const { return m_tableStart; }
+    /// Declares where the table's start is entered; before, it is a register DT.
+    void SetTableStart(const SWzdTableStart& start) { m_tableStart = start; }
+    const SWzdTableStart& TableStart() const { return m_tableStart; }
 
     // ---- The walk ---------------------------------------------------------------------------------------------------
 
@@ -67,10 +69,15 @@ protected:
     virtual bool VisitsInactive() const { return false; }
 
 private:
+    /// The device and number of the stored table; DT without one.
+    SOperand StoredTable() const;
+    /// Whether a record of the data list is of the stored table's device, and which register it holds.
+    bool IsOfTable(int record, int& number) const;
+
     CWzdDlgBase& m_dialog;
     int m_nextRecord = 0;
     LONGLONG m_tableWords = 1;
-    SWzdStartEdit m_tableStart;
+    SWzdTableStart m_tableStart;
     bool m_active = true;
     bool m_succeeded = true;
 };

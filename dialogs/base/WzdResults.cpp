@@ -17,7 +17,7 @@ void CWzdResults::SetOperand(int index, short code, int value)
 
 void CWzdResults::AddData(const SWzdEntry& entry, EConstantFormat format, LONG value)
 {
-    m_data.push_back({entry.offset, entry.type, format, value});
+    m_data.push_back({m_tableStart, entry.offset, entry.type, format, value});
 }
 
 void CWzdResults::AddControlCode(const SWzdEntry& entry, EConstantFormat format)
@@ -83,7 +83,7 @@ bool CWzdResults::StoreData(CFunWizard& wizard) const
 {
     wizard.RemoveAllDataInfo();
     for (const SData& data : m_data)
-        if (!wizard.AddDataInfo(m_tableStart.Code(), static_cast<int>(m_tableStart.value + data.offset), data.type,
+        if (!wizard.AddDataInfo(data.table.Code(), static_cast<int>(data.table.value + data.offset), data.type,
                                 data.format, data.value))
             return false;
     return true;

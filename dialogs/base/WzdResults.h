@@ -30,7 +30,8 @@ public:
     /// Operands are numbered: the order in which fields are checked need not be theirs.
     void SetOperand(int index, short code, int value);
 
-    /// The device at which the data table starts; the offsets of its entries count from its number.
+    /// The device at which the data table starts: the offsets of the entries that are added from now on count from its
+    /// number.
     void SetTableStart(short code, int number) { m_tableStart = {number, static_cast<WORD>(code)}; }
     void AddData(const SWzdEntry& entry, EConstantFormat format, LONG value);
     /// Adds the control code as an entry of its own, its bits all 0.
@@ -58,6 +59,7 @@ public:
 private:
     struct SData
     {
+        SOperand table;
         LONGLONG offset;
         EDataType type;
         EConstantFormat format;

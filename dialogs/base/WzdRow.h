@@ -74,7 +74,7 @@ struct SWzdEntry
 };
 
 /// The comment of an entry: a text of its own, or those of one or two labels, joined by a blank. When nothing is named
-/// it is the text of the control before the edit.
+/// it is the text of the control before the combo or edit.
 struct SWzdComment
 {
     UINT label = 0;
@@ -82,12 +82,12 @@ struct SWzdComment
     UINT text = 0;
 };
 
-/// What becomes of a contact while "Only a data table is created." is checked.
+/// What becomes of a device while "Only a data table is created." is checked.
 enum EWithoutInstruction
 {
     kStillChecked,
-    kLeftOut,  ///< neither checked nor stored
-    kBestKnown ///< stored unchecked: the entry when it can be used, else the lowest number of the device
+    kLeftOut,  ///< disabled and not checked: no contact is stored, and an operand that is none
+    kBestKnown ///< a contact, stored unchecked: the entry when it can be used, else the lowest number of the device
 };
 
 /// The devices that a list offers, of those that the PLC has.
@@ -120,9 +120,10 @@ struct SWzdRow
     EListedDevices devices = kListBits;
     /// Permitted devices, as hosts give them; null permits all.
     const ULONGLONG* permitted = nullptr;
-    int position = 0; ///< in the wizard's list of contacts or operands
+    short preferred = -1; ///< selected as long as nothing is stored; the first one when it is not listed
+    int position = 0;     ///< in the wizard's list of contacts or operands
     EWithoutInstruction withoutInstruction = kStillChecked;
-    LONGLONG shownLess = 0; ///< by how much the highest number shown is below the one accepted
+    int shownLess = 0; ///< by how much the highest number shown is below the one accepted
 
     // A number.
     SWzdEntry entry = {0, kOneRegister, 0}; ///< without registers: none
@@ -130,6 +131,7 @@ struct SWzdRow
     int limit = 0; ///< characters that can be typed; 0 = any number, or computed
     bool digitsOnly = false;
     SWzdRange range = {0, -1};
+    UINT follows = 0;                    ///< an edit on whose text the range depends
     UINT message = 0;                    ///< when the entry is outside the range
     UINT rangeLabel = 0;                 ///< shows the range, when it is not fixed
     std::optional<SWzdRange> shown = {}; ///< when another range is shown than the one that counts

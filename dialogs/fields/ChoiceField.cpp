@@ -4,14 +4,23 @@
 
 bool CChoiceField::Open() { return m_dialog.FillCombo(m_row.combo, m_row.choices, StoredIndex()); }
 
-// An item that the list refuses now is missing; nothing more can be done about it than that the user sees it.
 void CChoiceField::OnChanged(UINT id)
 {
     if (std::find(m_row.refilledBy.begin(), m_row.refilledBy.end(), id) != m_row.refilledBy.end())
-        static_cast<void>(m_dialog.FillCombo(m_row.combo, m_row.choices));
+        Refill();
 }
 
-void CChoiceField::Clear() { m_dialog.Select(m_row.combo, 0); }
+// What a list depends on has been cleared, too.
+void CChoiceField::Clear()
+{
+    if (m_row.refilledBy.empty())
+        m_dialog.Select(m_row.combo, 0);
+    else
+        Refill();
+}
+
+// An item that the list refuses now is missing; nothing more can be done about it than that the user sees it.
+void CChoiceField::Refill() { static_cast<void>(m_dialog.FillCombo(m_row.combo, m_row.choices)); }
 
 std::optional<DWORD> CChoiceField::SelectedCode() const
 {

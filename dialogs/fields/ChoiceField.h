@@ -19,4 +19,7 @@ protected:
     virtual int StoredIndex() const = 0;
 
     std::optional<DWORD> SelectedCode() const;
+
+private:
+    void Refill();
 };

@@ -1,4 +1,4 @@
-// Whether comments are registered, in the dialogs that ask for it themselves.
+// Whether comments are registered, in the dialogs that ask for it themselves, and comments that stand alone.
 #include "core/FunWizard.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/base/WzdResults.h"
@@ -25,6 +25,20 @@ public:
     }
 };
 
+class CCommentField : public CWzdField
+{
+public:
+    using CWzdField::CWzdField;
+
+    bool Collect(CWzdResults& results) override
+    {
+        m_dialog.AddComment(results, m_row);
+        return true;
+    }
+};
+
 } // namespace
 
 void WDX_RegisterComments(CWzdExchange* wx) { WzdDeclare<CCommentsField>(wx, {}); }
+
+void WDX_Comment(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CCommentField>(wx, row); }

@@ -19,7 +19,7 @@ public:
     {
         short code = -1;
         int number;
-        const bool stored = Restore(code, number);
+        const bool stored = Restore(code, number) && code >= 0;
         if (!m_dialog.FillDeviceCombo(m_row, code))
             return false;
         m_dialog.SetItemText(m_row.edit, stored ? FormatDeviceNumber(code, number) : CString());
@@ -27,7 +27,13 @@ public:
         return true;
     }
 
-    void Refresh() override { m_dialog.ShowDeviceRange(m_row); }
+    void Refresh() override
+    {
+        m_dialog.ShowDeviceRange(m_row);
+        if (m_row.withoutInstruction == kLeftOut)
+            for (const UINT id : {m_row.combo, m_row.edit, m_row.rangeLabel})
+                m_dialog.Enable(id, !IsLeftOut());
+    }
 
     void Clear() override
     {
@@ -37,6 +43,11 @@ public:
 
     bool Collect(CWzdResults& results) override
     {
+        if (IsLeftOut())
+        {
+            LeaveOut(results);
+            return true;
+        }
         short code;
         int number;
         if (!m_dialog.ReadDevice(m_row, code, number))
@@ -46,9 +57,13 @@ public:
     }
 
 protected:
+    bool IsWithoutInstruction() const { return m_dialog.IsChecked(IDC_ONLY_DATA_TABLE); }
+    bool IsLeftOut() const { return m_row.withoutInstruction == kLeftOut && IsWithoutInstruction(); }
     /// What the wizard's lists hold; false when they hold nothing.
     virtual bool Restore(short& code, int& number) const = 0;
     virtual void Store(CWzdResults& results, short code, int number) const = 0;
+    /// Stores what stands for no device.
+    virtual void LeaveOut(CWzdResults& results) const = 0;
 };
 
 class CContactField : public CDeviceField
@@ -58,11 +73,11 @@ public:
 
     bool Collect(CWzdResults& results) override
     {
-        if (m_row.withoutInstruction == kStillChecked || !m_dialog.IsChecked(IDC_ONLY_DATA_TABLE))
+        if (m_row.withoutInstruction != kBestKnown || !IsWithoutInstruction())
             return CDeviceField::Collect(results);
         short code;
         int number;
-        if (m_row.withoutInstruction == kBestKnown && BestKnown(code, number))
+        if (BestKnown(code, number))
             Store(results, code, number);
         return true;
     }
@@ -78,6 +93,8 @@ protected:
     {
         results.AddContact(kInstContact, code, number);
     }
+
+    void LeaveOut(CWzdResults&) const override {}
 
 private:
     bool BestKnown(short& code, int& number) const
@@ -104,6 +121,8 @@ protected:
     {
         results.SetOperand(m_row.position, code, number);
     }
+
+    void LeaveOut(CWzdResults& results) const override { results.SetOperand(m_row.position, -1, -1); }
 };
 
 class CDeviceTableField : public CDeviceOperandField
@@ -174,7 +193,11 @@ void WDX_FixedContact(CWzdExchange* wx, short code, int number)
 
 void WDX_DeviceOperand(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CDeviceOperandField>(wx, row); }
 
-void WDX_DeviceTable(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CDeviceTableField>(wx, row); }
+void WDX_DeviceTable(CWzdExchange* wx, const SWzdRow& row)
+{
+    wx->SetTableStart({row.edit, row.format, row.position, true});
+    WzdDeclare<CDeviceTableField>(wx, row);
+}
 
 void WDX_ConstantOperand(CWzdExchange* wx, int position, int value)
 {

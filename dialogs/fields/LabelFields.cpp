@@ -9,24 +9,23 @@ namespace
 class CLabelField : public CWzdField
 {
 public:
-    CLabelField(CWzdDlgBase& dialog, const SWzdRow& row, UINT text) : CWzdField(dialog, row), m_text(text) {}
-
-    void Refresh() override
+    CLabelField(CWzdDlgBase& dialog, const SWzdRow& row, UINT text, std::initializer_list<CGapValue> values)
+        : CWzdField(dialog, row), m_text(text), m_values(values)
     {
-        CString text;
-        text.LoadString(m_text);
-        m_dialog.SetItemText(m_row.rangeLabel, text);
     }
+
+    void Refresh() override { m_dialog.SetItemText(m_row.rangeLabel, FillText(m_text, m_values)); }
 
 private:
     UINT m_text;
+    std::initializer_list<CGapValue> m_values; // of the declaration, which the field does not outlive
 };
 
 /// The names of registers that the program fills: the dialog only tells where they are.
 class CRegisterField : public CWzdField
 {
 public:
-    CRegisterField(CWzdDlgBase& dialog, const SWzdRow& row, const SWzdStartEdit& start, bool span, bool inRange)
+    CRegisterField(CWzdDlgBase& dialog, const SWzdRow& row, const SWzdTableStart& start, bool span, bool inRange)
         : CWzdField(dialog, row), m_start(start), m_span(span), m_inRange(inRange)
     {
     }
@@ -59,20 +58,24 @@ private:
 
     static CString Name(LONGLONG number) { return FillText(IDS_DT_ADDRESS, {number}); }
 
-    SWzdStartEdit m_start;
+    SWzdTableStart m_start;
     bool m_span; // the last register is named too
     bool m_inRange;
 };
 
 void DeclareRegisters(CWzdExchange* wx, UINT label, const SWzdEntry& entry, bool span, bool inRange)
 {
+    ASSERT(wx->TableStart().edit != 0);
     wx->Reserve(entry);
     WzdDeclare<CRegisterField>(wx, {.entry = entry, .rangeLabel = label}, wx->TableStart(), span, inRange);
 }
 
 } // namespace
 
-void WDX_Label(CWzdExchange* wx, UINT label, UINT text) { WzdDeclare<CLabelField>(wx, {.rangeLabel = label}, text); }
+void WDX_Label(CWzdExchange* wx, UINT label, UINT text, std::initializer_list<CGapValue> values)
+{
+    WzdDeclare<CLabelField>(wx, {.rangeLabel = label}, text, values);
+}
 
 void WDX_Register(CWzdExchange* wx, UINT label, const SWzdEntry& entry, bool inRange)
 {

@@ -11,7 +11,7 @@ bool CNumberField::Open()
 {
     const CFunWizard& wizard = m_dialog.Wizard();
     SFunSetData data;
-    const bool stored = wizard.GetDataInfo(m_record, &data) && data.code == kDeviceDT;
+    const bool stored = wizard.GetDataInfo(m_record, &data);
     m_dialog.SetItemText(m_row.edit, stored ? m_row.format.Format(data.value) : CString(m_row.initial));
     if (m_row.check != 0)
         m_dialog.Check(m_row.check, stored || (m_row.used && wizard.GetDataInfoCount() == 0));

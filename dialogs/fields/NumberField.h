@@ -12,6 +12,7 @@ public:
 
     bool Open() override;
     void Refresh() override;
+    bool FollowsEdit(UINT edit) const override { return edit == m_row.follows; }
     void Clear() override;
     bool Collect(CWzdResults& results) override;
 

@@ -1,8 +1,8 @@
 // The rows with which dialogs declare their fields. Each reads the members of SWzdRow that it names.
 #pragma once
 
-#include "dialogs/base/WzdExchange.h"
-#include "resources/resource.h"
+#include "core/FillText.h"
+#include "dialogs/base/WzdDlgBase.h"
 
 /// The rows declared during its life count only while it is active: else they are opened, empty, and refreshed and
 /// cleared as always, but neither checked nor stored, and take no registers. The controls from `first` to `last`
@@ -24,20 +24,16 @@ private:
 /// The caption of a dialog whose template serves several operations; 0 leaves the template's.
 void WDX_Caption(CWzdExchange* wx, UINT text);
 
-/// A label whose text depends on what is selected.
-void WDX_Label(CWzdExchange* wx, UINT label, UINT text);
+/// A label whose text, with its gaps filled, depends on what is selected.
+void WDX_Label(CWzdExchange* wx, UINT label, UINT text, std::initializer_list<CGapValue> values = {});
+
+/// A comment for what no other row comments: `comment`, or the control before `combo` or `edit`.
+void WDX_Comment(CWzdExchange* wx, const SWzdRow& row);
 
 /// The check box "I/O comment is registered automatically.".
 void WDX_RegisterComments(CWzdExchange* wx);
 
 // ---- Devices --------------------------------------------------------------------------------------------------------
-
-/// The contact of the starting condition.
-constexpr SWzdRow kStartingCondition = {.combo = IDC_CONTACT_DEVICE,
-                                        .edit = IDC_CONTACT_NUMBER,
-                                        .limit = 4,
-                                        .message = IDS_ERR_CONTACT,
-                                        .rangeLabel = IDC_CONTACT_RANGE};
 
 /// A contact: a bit device, a number in the notation of that device, and its range. `position`, `withoutInstruction`.
 void WDX_Contact(CWzdExchange* wx, const SWzdRow& row = kStartingCondition);
@@ -46,7 +42,8 @@ void WDX_Contact(CWzdExchange* wx, UINT message);
 /// A contact that is always the same, appended to those that the wizard has.
 void WDX_FixedContact(CWzdExchange* wx, short code, int number);
 
-/// A device that is an operand: `devices`, `permitted`, `position`, `limit`, `shownLess`.
+/// A device that is an operand: `devices`, `permitted`, `preferred`, `position`, `withoutInstruction`, `limit`,
+/// `shownLess`.
 void WDX_DeviceOperand(CWzdExchange* wx, const SWzdRow& row);
 /// The same for the device at which the data table starts.
 void WDX_DeviceTable(CWzdExchange* wx, const SWzdRow& row);
@@ -74,14 +71,15 @@ void WDX_Code(CWzdExchange* wx, UINT combo, SWzdBits bits, bool second, CWzdChoi
 // ---- Entries of the data table --------------------------------------------------------------------------------------
 
 /// A number: `edit`, `entry`, `limit`, `range`, `message`, and what it needs of `format`, `digitsOnly`, `rangeLabel`,
-/// `shown` and `comment`. With `check` it can be left out: a check box, directly before the edit, and behind it the
-/// label of its range; `initial`, `used`.
+/// `shown`, `follows` and `comment`. With `check` it can be left out: a check box, directly before the edit, and behind
+/// it the label of its range; `initial`, `used`.
 void WDX_Number(CWzdExchange* wx, const SWzdRow& row);
 
 /// An entry that always has the same value.
 void WDX_Constant(CWzdExchange* wx, const SWzdEntry& entry, LONG value);
 
-/// Registers of the table that the program fills: `label` names the first of them, or the first and the last, once the
-/// start of the table is entered; with `inRange` only when it is one that is accepted.
+/// Registers of the table that the program fills, declared behind the table's start: `label` names the first of them,
+/// or the first and the last, once the start of the table is entered; with `inRange` only when it is one that is
+/// accepted.
 void WDX_Register(CWzdExchange* wx, UINT label, const SWzdEntry& entry, bool inRange = false);
 void WDX_RegisterSpan(CWzdExchange* wx, UINT label, const SWzdEntry& entry);

@@ -6,8 +6,6 @@
 namespace
 {
 
-constexpr SWzdRow kNoMembers;
-
 class CSectionField : public CWzdField
 {
 public:
@@ -30,6 +28,6 @@ CWzdSection::CWzdSection(CWzdExchange* wx, bool active, CWnd* first, UINT last)
     : m_exchange(*wx), m_outerActive(wx->IsActive())
 {
     if (first != nullptr)
-        WzdDeclare<CSectionField>(wx, kNoMembers, active && m_outerActive, first, last);
+        WzdDeclare<CSectionField>(wx, {}, active && m_outerActive, first, last);
     wx->SetActive(active && m_outerActive);
 }

@@ -37,11 +37,9 @@ public:
 
     bool Collect(CWzdResults& results) override
     {
-        const auto range = Range();
-        if (!range)
-            return m_dialog.Refuse(m_row.edit, IDS_ERR_TABLE_START);
+        constexpr SWzdRange kNone = {0, -1};
         LONGLONG start;
-        if (!m_dialog.ReadNumber(m_row.edit, *range, IDS_ERR_TABLE_START, start, m_row.format))
+        if (!m_dialog.ReadNumber(m_row.edit, Range().value_or(kNone), m_row.message, start, m_row.format))
             return false;
         results.SetOperand(m_row.position, kDeviceDT, static_cast<int>(start));
         results.SetTableStart(kDeviceDT, static_cast<int>(start));
@@ -62,7 +60,7 @@ private:
 
 void WDX_TableStart(CWzdExchange* wx, const SWzdRow& row)
 {
-    wx->SetTableStart({row.edit, row.format});
+    wx->SetTableStart({row.edit, row.format, row.position});
     SWzdRow complete = row;
     complete.message = IDS_ERR_TABLE_START;
     WzdDeclare<CTableStartField>(wx, complete);

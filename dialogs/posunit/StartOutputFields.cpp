@@ -16,12 +16,6 @@ constexpr BYTE kStartAxisRelay = 1;    // the relay of the unit's axis does,
 constexpr BYTE kStartChosenOutput = 2; // or an output word that the user chooses
 constexpr int kFirstWord = 2;
 
-constexpr SWzdRow kSecondCondition = {.combo = IDC_SECOND_DEVICE,
-                                      .edit = IDC_SECOND_NUMBER,
-                                      .limit = 4,
-                                      .message = IDS_ERR_CONTACT,
-                                      .rangeLabel = IDC_SECOND_RANGE};
-
 /// What a stored start output consists of: the last contact, and the condition before it.
 bool GetStoredContact(const CFunWizard& wizard, int fromEnd, short& code, int& number)
 {

@@ -21,10 +21,14 @@ public:
         return CNumberField::Open();
     }
 
+    void OnChanged(UINT id) override
+    {
+        if (id == IDC_PID_AUTO_TUNING && WasAutomatic() != m_automatic)
+            Switch();
+    }
+
     void Refresh() override
     {
-        if (WasAutomatic() != m_automatic)
-            Switch();
         CNumberField::Refresh();
         if (m_automatic)
             EnableEntry(false);

@@ -54,6 +54,7 @@ void CPidDlg::DoFieldExchange(CWzdExchange* wx)
 }
 // clang-format on
 
+// Hosts count; a work area that ends before it begins makes the table shorter than its entries.
 LONGLONG CPidDlg::TableWords() { return kWorkAreaOffset + 1LL + m_workArea; }
 
 // Any of the low bits but the first stands for the proportional-derivative type.

@@ -97,9 +97,66 @@ TEST_F(CChangesTest, RefillTheListsThatDependOnThem)
     });
     EXPECT_EQ(ReadResults(m_wizard).data.at(0).value, 2);
 
+    m_wizard.SetOnlyDataTable(0);
+    // Clearing the output clears the list that depends on it.
+    InProbe(declare, [&](CDialogRobot& robot) {
+        robot.Select(IDC_PROBE_OUTPUT, 1);
+        robot.Select(IDC_PROBE_COMBO, 2);
+        robot.Click(2099);
+        EXPECT_EQ(robot.Selection(IDC_PROBE_OUTPUT), 0);
+        EXPECT_EQ(robot.Items(IDC_PROBE_COMBO), few);
+        EXPECT_EQ(robot.Selection(IDC_PROBE_COMBO), 0);
+    });
+
     // When the dialog opens, the list is the one of the restored output.
     InProbe(declare, [&](CDialogRobot& robot) {
         EXPECT_EQ(robot.Items(IDC_PROBE_COMBO), many);
         EXPECT_EQ(robot.Selection(IDC_PROBE_COMBO), 2);
+    });
+}
+
+TEST_F(CChangesTest, DoNothingWhileNothingCanBeEntered)
+{
+    m_wizard.ResetContents();
+    SFunWizardTest::SetLibrary(m_wizard, AfxLoadLibrary(AfxGetModuleFolder(nullptr) + "TestDialogs.DLL"));
+    std::vector<UINT> changes;
+    int refreshes = 0;
+    const auto declare = [&](CWzdExchange* wx) {
+        WDX_TableStart(wx, {.edit = IDC_PROBE_START, .rangeLabel = IDC_PROBE_START_RANGE});
+        WDX_Output(wx, IDC_PROBE_OUTPUT, kOutputs);
+        WzdDeclare<CListener>(wx, {}, changes, refreshes);
+    };
+    InProbe(declare, [&](CDialogRobot& robot) {
+        const int before = refreshes;
+        CWnd* dialog = robot.Dialog();
+        dialog->SendMessage(WM_COMMAND, MAKEWPARAM(IDC_PROBE_OUTPUT, CBN_SELCHANGE), 0);
+        dialog->SendMessage(WM_COMMAND, MAKEWPARAM(2061, BN_CLICKED), 0);
+        dialog->SendMessage(WM_COMMAND, MAKEWPARAM(IDC_PROBE_NUMBER, EN_KILLFOCUS), 0);
+        dialog->SendMessage(WM_COMMAND, MAKEWPARAM(2099, BN_CLICKED), 0);
+        EXPECT_EQ(changes, std::vector<UINT>());
+        EXPECT_EQ(refreshes, before);
+        EXPECT_FALSE(robot.Enabled(IDC_PROBE_OUTPUT));
+        EXPECT_EQ(robot.FocusId(), 2u);
+    });
+}
+
+TEST_F(CChangesTest, OfFieldsThatDoNotCountAreNotFollowed)
+{
+    std::vector<UINT> changes;
+    int refreshes = 0;
+    const auto declare = [&](CWzdExchange* wx) {
+        const CWzdSection section(wx, wx->Dialog().IsChecked(IDC_PROBE_CHECK));
+        WzdDeclare<CListener>(wx, {}, changes, refreshes);
+    };
+    InProbe(declare, [&](CDialogRobot& robot) {
+        robot.Focus(IDC_PROBE_NUMBER);
+        changes.clear();
+        robot.Focus(IDC_PROBE_CHECK);
+        EXPECT_EQ(changes, std::vector<UINT>());
+        robot.Check(IDC_PROBE_CHECK);
+        EXPECT_EQ(changes, (std::vector<UINT>{IDC_PROBE_CHECK}));
+        robot.Focus(IDC_PROBE_NUMBER);
+        robot.Focus(IDC_PROBE_CHECK);
+        EXPECT_EQ(changes, (std::vector<UINT>{IDC_PROBE_CHECK, IDC_PROBE_NUMBER}));
     });
 }

@@ -156,6 +156,91 @@ TEST_F(CDeviceFieldsTest, TablesStartAtAnyDevice)
     EXPECT_EQ(ReadResults(m_wizard).data, (std::vector<SDataRow>{{kWR, 20, 0, 0, 5}, {kWR, 21, 1, 0, 6}}));
 }
 
+TEST_F(CDeviceFieldsTest, TablesInOtherDevicesAreRestored)
+{
+    const auto declare = [](CWzdExchange* wx) {
+        WDX_DeviceTable(wx, kDevice);
+        WDX_Number(wx, {.edit = IDC_PROBE_NUMBER, .entry = {0}, .limit = 5, .range = {0, 99}, .message = IDS_ERR_DUTY});
+    };
+    const auto expect = [&](LPCSTR text) {
+        InProbe(declare, [&](CDialogRobot& robot) { EXPECT_EQ(robot.Text(IDC_PROBE_NUMBER), text); });
+    };
+    InProbe(declare, [](CDialogRobot& robot) {
+        robot.Type(IDC_SECOND_NUMBER, "20");
+        robot.Type(IDC_PROBE_NUMBER, "42");
+        robot.Click(IDOK);
+    });
+    EXPECT_EQ(ReadResults(m_wizard).data, (std::vector<SDataRow>{{kWR, 20, 0, 0, 42}}));
+    expect("42");
+    m_wizard.RemoveAllDataInfo();
+    m_wizard.AddDataInfo(kDT, 20, 0, 0, 42); // of another device
+    expect("");
+}
+
+TEST_F(CDeviceFieldsTest, EntriesGoToTheTableDeclaredBeforeThem)
+{
+    SWzdRow other = kDevice;
+    other.combo = IDC_CONTACT_DEVICE;
+    other.edit = IDC_CONTACT_NUMBER;
+    other.rangeLabel = IDC_CONTACT_RANGE;
+    other.position = 2;
+    InProbe(
+        [&](CWzdExchange* wx) {
+            WDX_DeviceTable(wx, kDevice);
+            WDX_Constant(wx, {0}, 1);
+            WDX_DeviceTable(wx, other);
+            WDX_Constant(wx, {1}, 2);
+        },
+        [](CDialogRobot& robot) {
+            robot.Type(IDC_SECOND_NUMBER, "20");
+            robot.SelectText(IDC_CONTACT_DEVICE, "DT");
+            robot.Type(IDC_CONTACT_NUMBER, "50");
+            robot.Click(IDOK);
+        });
+    EXPECT_EQ(ReadResults(m_wizard).data, (std::vector<SDataRow>{{kWR, 20, 0, 0, 1}, {kDT, 51, 0, 0, 2}}));
+}
+
+TEST_F(CDeviceFieldsTest, OperandCanBeLeftOutWithTheInstruction)
+{
+    SWzdRow row = kDevice;
+    row.withoutInstruction = kLeftOut;
+    const auto declare = [&](CWzdExchange* wx) { WDX_DeviceOperand(wx, row); };
+    InProbe(declare, [](CDialogRobot& robot) {
+        robot.SetText(IDC_SECOND_NUMBER, "nonsense");
+        EXPECT_NE(robot.ClickAndAnswer(IDOK), "");
+        robot.Check(2061);
+        for (const UINT id : {IDC_SECOND_DEVICE, IDC_SECOND_NUMBER, IDC_SECOND_RANGE})
+            EXPECT_FALSE(robot.Enabled(id)) << id;
+        robot.Check(2061, false);
+        EXPECT_TRUE(robot.Enabled(IDC_SECOND_NUMBER));
+        robot.Check(2061);
+        robot.Click(IDOK);
+        EXPECT_FALSE(robot.IsOpen());
+    });
+    EXPECT_EQ(ReadResults(m_wizard).operands, (std::vector<SOperandRow>{{0, 0}, {-1, -1}}));
+    InProbe(declare, [](CDialogRobot& robot) {
+        EXPECT_EQ(robot.Selection(IDC_SECOND_DEVICE), 0);
+        EXPECT_EQ(robot.Text(IDC_SECOND_NUMBER), "");
+    });
+}
+
+TEST_F(CDeviceFieldsTest, ADeviceCanBePreferredUntilOneIsStored)
+{
+    SWzdRow row = kDevice;
+    const auto selected = [&](short preferred) {
+        row.preferred = preferred;
+        CString text;
+        InProbe([&](CWzdExchange* wx) { WDX_DeviceOperand(wx, row); },
+                [&](CDialogRobot& robot) { text = robot.Text(IDC_SECOND_DEVICE); });
+        return text;
+    };
+    EXPECT_EQ(selected(kDT), "DT");
+    EXPECT_EQ(selected(kX), "WR") << "which is not listed";
+    m_wizard.AddOprdInfo(kK, 0);
+    m_wizard.AddOprdInfo(kWR, 11);
+    EXPECT_EQ(selected(kDT), "WR");
+}
+
 // ---- Contacts -------------------------------------------------------------------------------------------------------
 
 TEST_F(CDeviceFieldsTest, ContactCanDependOnTheInstruction)
@@ -189,7 +274,7 @@ TEST_F(CDeviceFieldsTest, ContactCanDependOnTheInstruction)
         InProbe([&](CWzdExchange* wx) { WDX_Contact(wx, Contact(row.withoutInstruction)); },
                 [&](CDialogRobot& robot) {
                     robot.Check(2061, row.onlyTable);
-                    robot.SetText(2052, row.text);
+                    m_probe.SetItemText(2052, row.text);
                     EXPECT_EQ(robot.ClickAndAnswer(IDOK).IsEmpty(), row.accepted);
                 });
         EXPECT_EQ(ReadResults(m_wizard).contacts, row.contacts);
@@ -218,4 +303,17 @@ TEST_F(CDeviceFieldsTest, FixedContactIsAppended)
     InProbe(declare, [](CDialogRobot& robot) { robot.Click(IDOK); });
     EXPECT_EQ(ReadResults(m_wizard).contacts,
               (std::vector<SContactRow>{{2, kX, 1}, {2, kSpecialR, 14419}, {2, kSpecialR, 14419}}));
+}
+
+TEST_F(CDeviceFieldsTest, FallbackContactNeedsADevice)
+{
+    m_wizard.ResetContents();
+    SFunWizardTest::SetLibrary(m_wizard, AfxLoadLibrary(AfxGetModuleFolder(nullptr) + "TestDialogs.DLL"));
+    const int result = InProbe([&](CWzdExchange* wx) { WDX_Contact(wx, Contact(kBestKnown)); },
+                               [&](CDialogRobot& robot) {
+                                   robot.Check(2061);
+                                   robot.Click(IDOK);
+                               });
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(ReadResults(m_wizard).contacts, std::vector<SContactRow>());
 }

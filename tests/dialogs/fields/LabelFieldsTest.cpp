@@ -27,6 +27,25 @@ TEST_F(CLabelFieldsTest, ShowTheTextOfTheMoment)
     });
 }
 
+TEST_F(CLabelFieldsTest, FillTheGapsOfTheirText)
+{
+    InProbe([](CWzdExchange* wx) { WDX_Label(wx, IDC_PROBE_FIRST_LABEL, IDS_CHANNEL, {12}); },
+            [](CDialogRobot& robot) { EXPECT_EQ(robot.Text(IDC_PROBE_FIRST_LABEL), "ch12"); });
+}
+
+TEST_F(CLabelFieldsTest, CanBeCommentsByThemselves)
+{
+    m_wizard.SetCmtRec(1);
+    InProbe(
+        [](CWzdExchange* wx) {
+            WDX_Comment(wx, {.combo = IDC_PROBE_OUTPUT});
+            WDX_Comment(wx, {.edit = IDC_PROBE_NUMBER});
+            WDX_Comment(wx, {.comment = {.label = IDC_PROBE_SECOND_LABEL}});
+        },
+        [](CDialogRobot& robot) { robot.Click(IDOK); });
+    EXPECT_EQ(ReadResults(m_wizard).comments, (std::vector<std::string>{"Output", "First number", "at first"}));
+}
+
 TEST_F(CLabelFieldsTest, NameRegistersOnceTheStartIsEntered)
 {
     SetDeviceRange(m_wizard, kDT, 10, 100);
@@ -75,9 +94,16 @@ TEST_F(CLabelFieldsTest, CountTheirRegistersInTheTable)
         using CProbeDlg::CProbeDlg;
         LONGLONG TableWords() override { return CWzdDlgBase::TableWords(); }
     } probe(&wizard);
-    probe.m_fields = [](CWzdExchange* wx) { WDX_RegisterSpan(wx, IDC_PROBE_OPTIONAL_RANGE, {10, kOneRegister, 21}); };
+    const auto start = [](CWzdExchange* wx) { WDX_TableStart(wx, {.edit = IDC_PROBE_START}); };
+    probe.m_fields = [&](CWzdExchange* wx) {
+        start(wx);
+        WDX_RegisterSpan(wx, IDC_PROBE_OPTIONAL_RANGE, {10, kOneRegister, 21});
+    };
     EXPECT_EQ(probe.TableWords(), 31);
-    probe.m_fields = [](CWzdExchange* wx) { WDX_Register(wx, IDC_PROBE_FIRST_LABEL, {20, kTwoRegisters}); };
+    probe.m_fields = [&](CWzdExchange* wx) {
+        start(wx);
+        WDX_Register(wx, IDC_PROBE_FIRST_LABEL, {20, kTwoRegisters});
+    };
     EXPECT_EQ(probe.TableWords(), 22);
     probe.m_fields = nullptr;
     EXPECT_EQ(probe.TableWords(), 1);

@@ -97,6 +97,8 @@ TEST_F(CNumberRowsTest, CommentsComeFromLabelsAndTexts)
 TEST_F(CNumberRowsTest, MissingLabelsGiveNoComment)
 {
     EXPECT_EQ(Stored(Commented({.label = IDC_PROBE_NOTHING}), "1").comments, std::vector<std::string>());
+    EXPECT_EQ(Stored(Commented({.label = IDC_PROBE_NOTHING, .secondLabel = IDC_PROBE_SECOND_LABEL}), "1").comments,
+              std::vector<std::string>());
     SWzdRow unlabelled = kNumber;
     unlabelled.edit = IDC_PROBE_UNLABELLED;
     EXPECT_EQ(Stored(unlabelled, "1").comments, std::vector<std::string>());
@@ -175,6 +177,49 @@ TEST_F(CNumberRowsTest, AnotherRangeCanBeShownThanTheOneThatCounts)
                 robot.Click(IDOK);
                 EXPECT_FALSE(robot.IsOpen());
             });
+}
+
+TEST_F(CNumberRowsTest, ARangeCanFollowWhatIsEnteredElsewhere)
+{
+    const auto declare = [](CWzdExchange* wx) {
+        LONGLONG highest = 9;
+        static_cast<void>(kSigned.Parse(wx->Dialog().ItemText(IDC_PROBE_OTHER), highest));
+        SWzdRow row = kNumber;
+        row.range = {1, highest};
+        row.follows = IDC_PROBE_OTHER;
+        row.rangeLabel = IDC_PROBE_NUMBER_RANGE;
+        WDX_Number(wx, row);
+    };
+    InProbe(declare, [](CDialogRobot& robot) {
+        EXPECT_EQ(robot.Text(IDC_PROBE_NUMBER_RANGE), "(1 - 9)");
+        robot.Type(IDC_PROBE_OTHER, "77");
+        robot.Focus(IDC_PROBE_SLOT);
+        EXPECT_EQ(robot.Text(IDC_PROBE_NUMBER_RANGE), "(1 - 77)");
+    });
+}
+
+TEST_F(CNumberRowsTest, WithoutALimitAnythingCanBeTyped)
+{
+    SWzdRow row = kNumber;
+    row.limit = 0;
+    InProbe([&](CWzdExchange* wx) { WDX_Number(wx, row); },
+            [](CDialogRobot& robot) {
+                robot.Type(IDC_PROBE_NUMBER, "12345678901234567890");
+                EXPECT_EQ(robot.Text(IDC_PROBE_NUMBER), "12345678901234567890");
+            });
+}
+
+TEST_F(CNumberRowsTest, AStartWithoutRangeIsStillReadFirst)
+{
+    const auto declare = [](CWzdExchange* wx) { DeclareStart(wx); };
+    InProbe(declare, [&](CDialogRobot& robot) {
+        SetDeviceRange(m_wizard, kDT, 1, 0);
+        robot.SetText(IDC_PROBE_START, "x");
+        EXPECT_EQ(robot.ClickAndAnswer(IDOK), "Please input a numerical value correctly.");
+        robot.SetText(IDC_PROBE_START, "1");
+        EXPECT_EQ(robot.ClickAndAnswer(IDOK), "The inputted data table starting address has become the outside of the "
+                                              "range.\nPlease input the right value.");
+    });
 }
 
 // ---- Entries that can be left out -----------------------------------------------------------------------------------

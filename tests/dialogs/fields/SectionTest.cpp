@@ -174,3 +174,52 @@ TEST_F(CSectionTest, DoesNotCountInsideOneThatDoesNot)
     };
     InProbe(m_probe.m_fields, [](CDialogRobot&) {});
 }
+
+TEST_F(CSectionTest, IsFilledAndRefreshedEvenWhenItDoesNotCount)
+{
+    CTableProbe probe(&m_wizard);
+    probe.m_fields = [](CWzdExchange* wx) {
+        WDX_TableStart(wx, {.edit = IDC_PROBE_START, .rangeLabel = IDC_PROBE_START_RANGE});
+        const CWzdSection section(wx, false);
+        WDX_ControlCode(wx, kOneRegister);
+        WDX_Code(wx, {.combo = IDC_PROBE_COMBO, .choices = kModes, .bits = {0, 4}});
+        WDX_Register(wx, IDC_PROBE_FIRST_LABEL, {20});
+        WDX_Number(wx, {.edit = IDC_PROBE_NUMBER, .entry = {30}, .limit = 3, .range = {0, 9}});
+    };
+    Open(probe, [](CDialogRobot& robot) {
+        EXPECT_EQ(robot.Items(IDC_PROBE_COMBO), Texts({"Duty 50%", "Fixed pulse width (approx80us)"}));
+        EXPECT_EQ(robot.Limit(IDC_PROBE_NUMBER), 3);
+        EXPECT_EQ(robot.Text(IDC_PROBE_START_RANGE), "(0 - 32764)") << "no registers";
+        robot.Type(IDC_PROBE_START, "100");
+        robot.Click(IDC_PROBE_CHECK);
+        EXPECT_EQ(robot.Text(IDC_PROBE_FIRST_LABEL), " DT 120");
+        robot.Click(IDCANCEL);
+    });
+}
+
+TEST_F(CSectionTest, StaysHiddenInsideOneThatDoesNotCount)
+{
+    CTableProbe probe(&m_wizard);
+    probe.m_fields = [](CWzdExchange* wx) {
+        const CWzdSection outer(wx, wx->Dialog().IsChecked(IDC_PROBE_CHECK));
+        const CWzdSection inner(wx, true, wx->Dialog().GetDlgItem(IDC_PROBE_OTHER), IDC_PROBE_OTHER);
+    };
+    Open(probe, [](CDialogRobot& robot) {
+        EXPECT_FALSE(robot.Visible(IDC_PROBE_OTHER));
+        robot.Click(IDC_PROBE_CHECK);
+        EXPECT_TRUE(robot.Visible(IDC_PROBE_OTHER));
+        robot.Click(IDCANCEL);
+    });
+}
+
+TEST_F(CSectionTest, LeavesTheDialogAloneWithoutItsLastControl)
+{
+    CTableProbe probe(&m_wizard);
+    probe.m_fields = [](CWzdExchange* wx) {
+        const CWzdSection section(wx, false, wx->Dialog().GetDlgItem(IDC_PROBE_OTHER), IDC_PROBE_NOTHING);
+    };
+    Open(probe, [](CDialogRobot& robot) {
+        EXPECT_TRUE(robot.Visible(IDC_PROBE_OTHER));
+        robot.Click(IDCANCEL);
+    });
+}
