@@ -25,10 +25,6 @@ class AFX_API CButton : public CWnd
 
     int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
     void SetCheck(int check) { SendMessage(BM_SETCHECK, static_cast<WPARAM>(check)); }
-    UINT GetState() const { return static_cast<UINT>(SendMessage(BM_GETSTATE)); }
-    void SetState(BOOL pressed) { SendMessage(BM_SETSTATE, static_cast<WPARAM>(pressed)); }
-    UINT GetButtonStyle() const { return GetStyle() & 0xFFFF; }
-    void SetButtonStyle(UINT style, BOOL redraw = TRUE) { SendMessage(BM_SETSTYLE, style, redraw); }
 };
 
 class AFX_API CEdit : public CWnd
@@ -42,8 +38,6 @@ class AFX_API CEdit : public CWnd
 
     /// 0 means no limit of ours.
     void LimitText(int characters = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(characters)); }
-    void SetLimitText(UINT characters) { SendMessage(EM_LIMITTEXT, characters); }
-    UINT GetLimitText() const { return static_cast<UINT>(SendMessage(EM_GETLIMITTEXT)); }
     /// (0, -1) selects everything. The caret is scrolled into view unless `noScroll`.
     void SetSel(int first, int last, BOOL noScroll = FALSE)
     {
@@ -59,19 +53,6 @@ class AFX_API CEdit : public CWnd
         first = static_cast<int>(from);
         last = static_cast<int>(to);
     }
-    void ReplaceSel(LPCSTR text, BOOL canUndo = FALSE)
-    {
-        SendMessage(EM_REPLACESEL, static_cast<WPARAM>(canUndo), reinterpret_cast<LPARAM>(text));
-    }
-    BOOL GetModify() const { return static_cast<BOOL>(SendMessage(EM_GETMODIFY)); }
-    void SetModify(BOOL modified = TRUE) { SendMessage(EM_SETMODIFY, static_cast<WPARAM>(modified)); }
-    BOOL SetReadOnly(BOOL readOnly = TRUE)
-    {
-        return static_cast<BOOL>(SendMessage(EM_SETREADONLY, static_cast<WPARAM>(readOnly)));
-    }
-    int GetLineCount() const { return static_cast<int>(SendMessage(EM_GETLINECOUNT)); }
-    void GetRect(LPRECT rect) const { SendMessage(EM_GETRECT, 0, reinterpret_cast<LPARAM>(rect)); }
-    void SetRect(LPCRECT rect) { SendMessage(EM_SETRECT, 0, reinterpret_cast<LPARAM>(rect)); }
     void Paste() { SendMessage(WM_PASTE); }
 };
 
@@ -89,8 +70,6 @@ class AFX_API CComboBox : public CWnd
     int GetCurSel() const { return Send(CB_GETCURSEL); }
     int SetCurSel(int index) { return Send(CB_SETCURSEL, index); }
     int AddString(LPCSTR text) { return Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)); }
-    int InsertString(int index, LPCSTR text) { return Send(CB_INSERTSTRING, index, reinterpret_cast<LPARAM>(text)); }
-    int DeleteString(UINT index) { return Send(CB_DELETESTRING, static_cast<int>(index)); }
     void ResetContent() { Send(CB_RESETCONTENT); }
     DWORD_PTR GetItemData(int index) const
     {
@@ -101,18 +80,6 @@ class AFX_API CComboBox : public CWnd
     int GetLBText(int index, LPSTR text) const { return Send(CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text)); }
     /// Empty when there is no such item.
     void GetLBText(int index, CString& text) const;
-    int FindStringExact(int after, LPCSTR text) const
-    {
-        return Send(CB_FINDSTRINGEXACT, after, reinterpret_cast<LPARAM>(text));
-    }
-    int SelectString(int after, LPCSTR text) { return Send(CB_SELECTSTRING, after, reinterpret_cast<LPARAM>(text)); }
-    BOOL LimitText(int characters) { return Send(CB_LIMITTEXT, characters); }
-    int GetDroppedWidth() const { return Send(CB_GETDROPPEDWIDTH); }
-    int SetDroppedWidth(UINT width) { return Send(CB_SETDROPPEDWIDTH, static_cast<int>(width)); }
-    BOOL GetDroppedState() const { return Send(CB_GETDROPPEDSTATE); }
-    void ShowDropDown(BOOL show = TRUE) { Send(CB_SHOWDROPDOWN, show); }
-    int GetItemHeight(int index) const { return Send(CB_GETITEMHEIGHT, index); }
-    int SetItemHeight(int index, UINT height) { return Send(CB_SETITEMHEIGHT, index, static_cast<LPARAM>(height)); }
 
 private:
     int Send(UINT message, int wParam = 0, LPARAM lParam = 0) const
@@ -135,8 +102,6 @@ class AFX_API CListBox : public CWnd
     int GetCurSel() const { return Send(LB_GETCURSEL); }
     int SetCurSel(int index) { return Send(LB_SETCURSEL, index); }
     int AddString(LPCSTR text) { return Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)); }
-    int InsertString(int index, LPCSTR text) { return Send(LB_INSERTSTRING, index, reinterpret_cast<LPARAM>(text)); }
-    int DeleteString(UINT index) { return Send(LB_DELETESTRING, static_cast<int>(index)); }
     void ResetContent() { Send(LB_RESETCONTENT); }
     DWORD_PTR GetItemData(int index) const
     {
@@ -147,15 +112,8 @@ class AFX_API CListBox : public CWnd
     int GetText(int index, LPSTR text) const { return Send(LB_GETTEXT, index, reinterpret_cast<LPARAM>(text)); }
     /// Empty when there is no such item.
     void GetText(int index, CString& text) const;
-    int FindStringExact(int after, LPCSTR text) const
-    {
-        return Send(LB_FINDSTRINGEXACT, after, reinterpret_cast<LPARAM>(text));
-    }
-    int GetTopIndex() const { return Send(LB_GETTOPINDEX); }
-    int SetTopIndex(int index) { return Send(LB_SETTOPINDEX, index); }
     /// In dialog units from the left edge.
     BOOL SetTabStops(int count, LPINT stops) { return Send(LB_SETTABSTOPS, count, reinterpret_cast<LPARAM>(stops)); }
-    void SetHorizontalExtent(int width) { Send(LB_SETHORIZONTALEXTENT, width); }
 
 private:
     int Send(UINT message, int wParam = 0, LPARAM lParam = 0) const
@@ -175,9 +133,7 @@ class AFX_API CScrollBar : public CWnd
 
     int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
     int SetScrollPos(int position, BOOL redraw = TRUE) { return ::SetScrollPos(m_hWnd, SB_CTL, position, redraw); }
-    void GetScrollRange(int* low, int* high) const { ::GetScrollRange(m_hWnd, SB_CTL, low, high); }
     void SetScrollRange(int low, int high, BOOL redraw = TRUE) { ::SetScrollRange(m_hWnd, SB_CTL, low, high, redraw); }
     BOOL SetScrollInfo(LPSCROLLINFO info, BOOL redraw = TRUE) { return CWnd::SetScrollInfo(SB_CTL, info, redraw); }
     BOOL GetScrollInfo(LPSCROLLINFO info, UINT mask = SIF_ALL) const { return CWnd::GetScrollInfo(SB_CTL, info, mask); }
-    BOOL EnableScrollBar(UINT arrows = ESB_ENABLE_BOTH) { return ::EnableScrollBar(m_hWnd, SB_CTL, arrows); }
 };

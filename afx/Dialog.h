@@ -31,14 +31,8 @@ class AFX_API CDialog : public CWnd
     /// dialog is never shown.
     void EndDialog(int result);
 
-    // Move the focus as the Tab key does, or to one control.
-    void NextDlgCtrl() { SendMessage(WM_NEXTDLGCTL, 0, 0); }
-    void PrevDlgCtrl() { SendMessage(WM_NEXTDLGCTL, 1, 0); }
+    /// Moves the focus as the Tab key does.
     void GotoDlgCtrl(CWnd* control) { SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control->m_hWnd), TRUE); }
-    /// The button that Enter presses.
-    void SetDefID(UINT id) { SendMessage(DM_SETDEFID, id); }
-    /// Its id in the low word when the high word is DC_HASDEFID, else 0.
-    DWORD GetDefID() const { return static_cast<DWORD>(SendMessage(DM_GETDEFID)); }
     /// Turns dialog units into pixels.
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
 

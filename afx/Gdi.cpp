@@ -10,7 +10,6 @@ IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
 IMPLEMENT_DYNAMIC(CPen, CGdiObject)
 IMPLEMENT_DYNAMIC(CDC, CObject)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
-IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
 namespace
@@ -115,10 +114,6 @@ void CDC::FillSolidRect(LPCRECT rect, COLORREF color)
 CClientDC::CClientDC(CWnd* window) : m_hWnd(HandleOf(window)) { AttachOrThrow(*this, ::GetDC(m_hWnd)); }
 
 CClientDC::~CClientDC() { ::ReleaseDC(m_hWnd, Detach()); }
-
-CWindowDC::CWindowDC(CWnd* window) : m_hWnd(HandleOf(window)) { AttachOrThrow(*this, ::GetWindowDC(m_hWnd)); }
-
-CWindowDC::~CWindowDC() { ::ReleaseDC(m_hWnd, Detach()); }
 
 CPaintDC::CPaintDC(CWnd* window) : m_hWnd(window->m_hWnd) { AttachOrThrow(*this, ::BeginPaint(m_hWnd, &m_ps)); }
 

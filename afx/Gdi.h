@@ -115,7 +115,6 @@ class AFX_API CDC : public CObject
     void FillSolidRect(LPCRECT rect, COLORREF color);
     void FrameRect(LPCRECT rect, CBrush* brush) { ::FrameRect(m_hDC, rect, *brush); }
     void DrawFocusRect(LPCRECT rect) { ::DrawFocusRect(m_hDC, rect); }
-    void DrawEdge(LPRECT rect, UINT edge, UINT flags) { ::DrawEdge(m_hDC, rect, edge, flags); }
     BOOL Rectangle(LPCRECT rect) { return ::Rectangle(m_hDC, rect->left, rect->top, rect->right, rect->bottom); }
     BOOL Ellipse(LPCRECT rect) { return ::Ellipse(m_hDC, rect->left, rect->top, rect->right, rect->bottom); }
     BOOL Polygon(const POINT* points, int count) { return ::Polygon(m_hDC, points, count); }
@@ -134,17 +133,6 @@ class AFX_API CClientDC : public CDC
 
     explicit CClientDC(CWnd* window);
     ~CClientDC() override;
-
-private:
-    HWND m_hWnd;
-};
-
-class AFX_API CWindowDC : public CDC
-{
-    DECLARE_DYNAMIC(CWindowDC)
-
-    explicit CWindowDC(CWnd* window);
-    ~CWindowDC() override;
 
 private:
     HWND m_hWnd;

@@ -79,19 +79,12 @@ protected:                                                                      
 
 /// A menu item, a key, or the click on a button.
 #define ON_COMMAND(id, member) ON_CONTROL(0, id, member)
-#define ON_COMMAND_RANGE(id, lastId, member) ON_CONTROL_RANGE(0, id, lastId, member)
 
 #define ON_BN_CLICKED(id, member) ON_CONTROL(BN_CLICKED, id, member)
-#define ON_BN_DOUBLECLICKED(id, member) ON_CONTROL(BN_DOUBLECLICKED, id, member)
-#define ON_STN_CLICKED(id, member) ON_CONTROL(STN_CLICKED, id, member)
 #define ON_CBN_SELCHANGE(id, member) ON_CONTROL(CBN_SELCHANGE, id, member)
-#define ON_CBN_SELENDOK(id, member) ON_CONTROL(CBN_SELENDOK, id, member)
-#define ON_CBN_DROPDOWN(id, member) ON_CONTROL(CBN_DROPDOWN, id, member)
 #define ON_LBN_SELCHANGE(id, member) ON_CONTROL(LBN_SELCHANGE, id, member)
 #define ON_LBN_DBLCLK(id, member) ON_CONTROL(LBN_DBLCLK, id, member)
 #define ON_EN_CHANGE(id, member) ON_CONTROL(EN_CHANGE, id, member)
-#define ON_EN_UPDATE(id, member) ON_CONTROL(EN_UPDATE, id, member)
-#define ON_EN_SETFOCUS(id, member) ON_CONTROL(EN_SETFOCUS, id, member)
 #define ON_EN_KILLFOCUS(id, member) ON_CONTROL(EN_KILLFOCUS, id, member)
 
 // ---- Messages of windows --------------------------------------------------------------------------------------------
@@ -103,16 +96,10 @@ protected:                                                                      
 #define AFX_WINDOW(parameter) CWnd::FromHandle(reinterpret_cast<HWND>(parameter))
 
 /// void OnX()
-#define ON_WM_CLOSE() AFX_MSG_ENTRY(WM_CLOSE, 0, 0, 0, self->OnClose(); return 0)
-#define ON_WM_DESTROY() AFX_MSG_ENTRY(WM_DESTROY, 0, 0, 0, self->OnDestroy(); return 0)
 #define ON_WM_PAINT() AFX_MSG_ENTRY(WM_PAINT, 0, 0, 0, self->OnPaint(); return 0)
 /// BOOL OnEraseBkgnd(CDC* dc)
 #define ON_WM_ERASEBKGND()                                                                                             \
     AFX_MSG_ENTRY(WM_ERASEBKGND, 0, 0, 0, return self->OnEraseBkgnd(CDC::FromHandle(reinterpret_cast<HDC>(m.wParam))))
-/// void OnSize(UINT type, int width, int height)
-#define ON_WM_SIZE()                                                                                                   \
-    AFX_MSG_ENTRY(WM_SIZE, 0, 0, 0, self->OnSize(static_cast<UINT>(m.wParam), LOWORD(m.lParam), HIWORD(m.lParam));     \
-                  return 0)
 /// void OnSetFocus(CWnd* loser) and void OnKillFocus(CWnd* winner), which may be null
 #define ON_WM_SETFOCUS() AFX_MSG_ENTRY(WM_SETFOCUS, 0, 0, 0, self->OnSetFocus(AFX_WINDOW(m.wParam)); return 0)
 #define ON_WM_KILLFOCUS() AFX_MSG_ENTRY(WM_KILLFOCUS, 0, 0, 0, self->OnKillFocus(AFX_WINDOW(m.wParam)); return 0)
@@ -163,7 +150,6 @@ protected:                                                                      
     AFX_MSG_ENTRY(message, 0, 0, 0,                                                                                    \
                   self->member(LOWORD(m.wParam), HIWORD(m.wParam), static_cast<CScrollBar*>(AFX_WINDOW(m.lParam)));    \
                   return 0)
-#define ON_WM_HSCROLL() AFX_SCROLL_ENTRY(WM_HSCROLL, OnHScroll)
 #define ON_WM_VSCROLL() AFX_SCROLL_ENTRY(WM_VSCROLL, OnVScroll)
 /// void OnDrawItem(int id, LPDRAWITEMSTRUCT item)
 #define ON_WM_DRAWITEM()                                                                                               \

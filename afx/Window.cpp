@@ -181,24 +181,6 @@ void CWnd::OnNcDestroy()
 
 // ---- Relatives ------------------------------------------------------------------------------------------------------
 
-CWnd* CWnd::GetTopLevelParent() const
-{
-    HWND top = m_hWnd;
-    while (HWND parent = ::GetParent(top))
-        top = parent;
-    return FromHandle(top);
-}
-
-CWnd* CWnd::GetNextDlgTabItem(CWnd* control, BOOL previous) const
-{
-    return FromHandle(::GetNextDlgTabItem(m_hWnd, control ? control->m_hWnd : nullptr, previous));
-}
-
-CWnd* CWnd::GetNextDlgGroupItem(CWnd* control, BOOL previous) const
-{
-    return FromHandle(::GetNextDlgGroupItem(m_hWnd, control ? control->m_hWnd : nullptr, previous));
-}
-
 CWnd* PASCAL CWnd::GetSafeOwner(CWnd* parent, HWND* disabledTop)
 {
     return FromHandle(AfxGetSafeOwner(parent ? parent->m_hWnd : nullptr, disabledTop));
@@ -256,11 +238,6 @@ int CWnd::GetDlgItemText(int id, CString& text) const
 {
     GetText(::GetDlgItem(m_hWnd, id), text);
     return text.GetLength();
-}
-
-UINT CWnd::GetDlgItemInt(int id, BOOL* translated, BOOL isSigned) const
-{
-    return ::GetDlgItemInt(m_hWnd, id, translated, isSigned);
 }
 
 int CWnd::GetCheckedRadioButton(int first, int last) const

@@ -70,15 +70,9 @@ class AFX_API CWnd : public CCmdTarget
     // Null when there is none.
 
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    CWnd* GetOwner() const { return GetParent(); }
-    CWnd* GetTopLevelParent() const;
     CWnd* GetWindow(UINT relation) const { return FromHandle(::GetWindow(m_hWnd, relation)); }
-    CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
-    CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
     BOOL IsChild(const CWnd* window) const { return ::IsChild(m_hWnd, window->m_hWnd); }
     CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
-    CWnd* GetNextDlgTabItem(CWnd* control, BOOL previous = FALSE) const;
-    CWnd* GetNextDlgGroupItem(CWnd* control, BOOL previous = FALSE) const;
     static CWnd* PASCAL GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
     static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
 
@@ -90,9 +84,7 @@ class AFX_API CWnd : public CCmdTarget
     // ---- State ------------------------------------------------------------------------------------------------------
 
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
-    int SetDlgCtrlID(int id) { return static_cast<int>(::SetWindowLongPtrA(m_hWnd, GWLP_ID, id)); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongA(m_hWnd, GWL_STYLE)); }
-    DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongA(m_hWnd, GWL_EXSTYLE)); }
     /// Changes style bits and, when `flags` is not 0, applies SetWindowPos with it. FALSE when nothing changed.
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
 
@@ -102,7 +94,6 @@ class AFX_API CWnd : public CCmdTarget
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
     CWnd* SetActiveWindow() { return FromHandle(::SetActiveWindow(m_hWnd)); }
-    BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
     CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
 
     // ---- Text -------------------------------------------------------------------------------------------------------
@@ -110,7 +101,6 @@ class AFX_API CWnd : public CCmdTarget
     void SetWindowText(LPCSTR text) { ::SetWindowTextA(m_hWnd, text); }
     int GetWindowText(LPSTR text, int size) const { return ::GetWindowTextA(m_hWnd, text, size); }
     void GetWindowText(CString& text) const;
-    int GetWindowTextLength() const { return ::GetWindowTextLengthA(m_hWnd); }
     void SetFont(CFont* font, BOOL redraw = TRUE);
     CFont* GetFont() const { return CFont::FromHandle(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT))); }
 
@@ -134,7 +124,6 @@ class AFX_API CWnd : public CCmdTarget
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
     void InvalidateRect(LPCRECT rect, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, rect, erase); }
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
-    void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, redraw); }
     /// To be given back by ReleaseDC.
     CDC* GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
     int ReleaseDC(CDC* dc) { return ::ReleaseDC(m_hWnd, dc->m_hDC); }
@@ -150,8 +139,6 @@ class AFX_API CWnd : public CCmdTarget
     int GetDlgItemText(int id, LPSTR text, int size) const;
     /// Returns the length; 0, and an empty text, when there is no such control.
     int GetDlgItemText(int id, CString& text) const;
-    void SetDlgItemInt(int id, UINT value, BOOL isSigned = TRUE) { ::SetDlgItemInt(m_hWnd, id, value, isSigned); }
-    UINT GetDlgItemInt(int id, BOOL* translated = nullptr, BOOL isSigned = TRUE) const;
     void CheckDlgButton(int id, UINT check) { ::CheckDlgButton(m_hWnd, id, check); }
     UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
     void CheckRadioButton(int first, int last, int checked) { ::CheckRadioButton(m_hWnd, first, last, checked); }
@@ -162,10 +149,6 @@ class AFX_API CWnd : public CCmdTarget
 
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    /// Sends a message to all children and, when `deep`, to their children; with `onlyPermanent` only to those with an
-    /// attached object.
-    void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL deep = TRUE,
-                                  BOOL onlyPermanent = FALSE);
     UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC callback);
     BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
     int MessageBox(LPCSTR text, LPCSTR caption = nullptr, UINT type = MB_OK);
@@ -202,11 +185,8 @@ protected:
     virtual void PostNcDestroy() {}
 
     // Handlers for message maps; each does what happens without it.
-    afx_msg void OnClose() { Default(); }
-    afx_msg void OnDestroy() { Default(); }
     afx_msg void OnPaint() { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return static_cast<BOOL>(Default()); }
-    afx_msg void OnSize(UINT, int, int) { Default(); }
     afx_msg void OnSetFocus(CWnd*) { Default(); }
     afx_msg void OnKillFocus(CWnd*) { Default(); }
     afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
@@ -223,7 +203,6 @@ protected:
     afx_msg void OnContextMenu(CWnd*, CPoint) { Default(); }
     afx_msg BOOL OnHelpInfo(HELPINFO*) { return static_cast<BOOL>(Default()); }
     afx_msg HBRUSH OnCtlColor(CDC*, CWnd*, UINT) { return reinterpret_cast<HBRUSH>(Default()); }
-    afx_msg void OnHScroll(UINT, UINT, CScrollBar*) { Default(); }
     afx_msg void OnVScroll(UINT, UINT, CScrollBar*) { Default(); }
     afx_msg void OnDrawItem(int, LPDRAWITEMSTRUCT) { Default(); }
     afx_msg void OnMeasureItem(int, LPMEASUREITEMSTRUCT) { Default(); }

@@ -69,17 +69,6 @@ bool PreTranslate(MSG& message)
     return false;
 }
 
-void SendToDescendants(HWND window, const MSG& message, BOOL deep, BOOL onlyPermanent)
-{
-    for (HWND child = ::GetTopWindow(window); child; child = ::GetWindow(child, GW_HWNDNEXT))
-    {
-        if (!onlyPermanent || CWnd::FromHandlePermanent(child))
-            ::SendMessageA(child, message.message, message.wParam, message.lParam);
-        if (deep)
-            SendToDescendants(child, message, deep, onlyPermanent);
-    }
-}
-
 void Dispatch(MSG& message)
 {
     bool isDone = true;
@@ -198,11 +187,6 @@ BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT CWnd::SendDlgItemMessage(int id, UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::SendDlgItemMessageA(m_hWnd, id, message, wParam, lParam);
-}
-
-void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL deep, BOOL onlyPermanent)
-{
-    SendToDescendants(m_hWnd, AfxMessage(nullptr, message, wParam, lParam), deep, onlyPermanent);
 }
 
 UINT_PTR CWnd::SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC callback)

@@ -12,18 +12,13 @@ struct ButtonState : ControlState
     bool pushed = false;
     bool focused = false;
     bool spaceHeld = false;
-    HANDLE image = nullptr;
 };
 
 UINT KindOf(const Window& button) { return button.style & BS_TYPEMASK; }
 
 bool IsPush(UINT kind) { return kind == BS_PUSHBUTTON || kind == BS_DEFPUSHBUTTON; }
 bool IsRadio(UINT kind) { return kind == BS_RADIOBUTTON || kind == BS_AUTORADIOBUTTON; }
-bool IsThreeState(UINT kind) { return kind == BS_3STATE || kind == BS_AUTO3STATE; }
-bool IsCheckable(UINT kind)
-{
-    return kind == BS_CHECKBOX || kind == BS_AUTOCHECKBOX || IsRadio(kind) || IsThreeState(kind);
-}
+bool IsCheckable(UINT kind) { return kind == BS_CHECKBOX || kind == BS_AUTOCHECKBOX || IsRadio(kind); }
 
 void SetCheck(Window& button, UINT check)
 {
@@ -31,7 +26,7 @@ void SetCheck(Window& button, UINT check)
     const UINT kind = KindOf(button);
     if (!IsCheckable(kind))
         return;
-    check = std::min<UINT>(check, IsThreeState(kind) ? BST_INDETERMINATE : BST_CHECKED);
+    check = std::min<UINT>(check, BST_CHECKED);
     if (IsRadio(kind))
     {
         // The checked button of a group is the one that the tab key stops at.
@@ -75,9 +70,6 @@ void ChangeByClick(Window& button)
     {
     case BS_AUTOCHECKBOX:
         SetCheck(button, state.check ? BST_UNCHECKED : BST_CHECKED);
-        break;
-    case BS_AUTO3STATE:
-        SetCheck(button, (state.check + 1) % 3);
         break;
     case BS_AUTORADIOBUTTON:
         CheckRadioInGroup(button);
@@ -149,7 +141,6 @@ LRESULT DialogCodeOf(const Window& button)
 {
     switch (KindOf(button))
     {
-    case BS_USERBUTTON:
     case BS_PUSHBUTTON:
         return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
     case BS_DEFPUSHBUTTON:
@@ -251,9 +242,10 @@ LRESULT HandleKey(Window& button, bool down, WPARAM key)
 
 LRESULT Create(Window& button)
 {
+    const UINT kind = KindOf(button);
+    if (!IsPush(kind) && !IsCheckable(kind) && kind != BS_GROUPBOX && kind != BS_OWNERDRAW)
+        return NotModelled("buttons of this kind", -1);
     button.control = std::make_unique<ButtonState>();
-    if (KindOf(button) == BS_USERBUTTON)
-        button.style = (button.style & ~BS_TYPEMASK) | BS_PUSHBUTTON;
     return 0;
 }
 } // namespace
@@ -296,9 +288,6 @@ LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
             EndPaint(handle, &paint);
         return 0;
     }
-    case WM_PRINTCLIENT:
-        PaintOn(button, reinterpret_cast<HDC>(wParam), ODA_DRAWENTIRE);
-        return 0;
 
     case WM_SETFOCUS:
         return HandleFocus(button, true);
@@ -348,19 +337,17 @@ LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
     case BM_GETSTATE:
         return static_cast<LRESULT>(state->check | (state->pushed ? BST_PUSHED : 0u) |
                                     (state->focused ? BST_FOCUS : 0u));
-    case BM_SETSTATE:
-        SetPushed(button, wParam != 0);
-        return 0;
     case BM_SETSTYLE:
         button.style = (button.style & ~BS_TYPEMASK) | (static_cast<UINT>(wParam) & BS_TYPEMASK);
         if (lParam)
             Invalidate(button);
         return 0;
-    case BM_SETIMAGE:
-        return reinterpret_cast<LRESULT>(std::exchange(state->image, reinterpret_cast<HANDLE>(lParam)));
-    case BM_GETIMAGE:
-        return reinterpret_cast<LRESULT>(state->image);
     default:
+        if (message >= BM_GETCHECK && message <= BM_SETIMAGE)
+        {
+            Fail("not modelled: button message 0x%04X", message);
+            return 0;
+        }
         return DefWindowProcA(handle, message, wParam, lParam);
     }
 }

@@ -19,11 +19,9 @@ struct Memory
 struct ClipboardState
 {
     HandleTable<Memory> movable{5};
-    std::map<const void*, std::unique_ptr<Memory>> fixed;
     std::map<UINT, HANDLE> contents;
     bool open = false;
     HWND opener = nullptr;
-    HWND owner = nullptr;
 };
 
 ClipboardState& State()
@@ -34,21 +32,13 @@ ClipboardState& State()
 
 Memory* MemoryOf(HGLOBAL handle)
 {
-    ClipboardState& state = State();
-    if (Memory* movable = state.movable.Find(handle))
-        return movable;
-    const auto it = state.fixed.find(handle);
-    if (it != state.fixed.end())
-        return it->second.get();
-    SetLastError(ERROR_INVALID_HANDLE);
-    return nullptr;
+    Memory* memory = State().movable.Find(handle);
+    if (!memory)
+        SetLastError(ERROR_INVALID_HANDLE);
+    return memory;
 }
 
-void Free(HGLOBAL handle)
-{
-    if (!State().movable.Remove(handle))
-        State().fixed.erase(handle);
-}
+void Free(HGLOBAL handle) { State().movable.Remove(handle); }
 
 void Empty()
 {
@@ -62,15 +52,14 @@ void ResetClipboard()
 {
     ClipboardState& state = State();
     state.movable.Clear();
-    state.fixed.clear();
     state.contents.clear();
     state.open = false;
-    state.opener = state.owner = nullptr;
+    state.opener = nullptr;
 }
 
 int CountGlobals()
 {
-    int count = static_cast<int>(State().fixed.size());
+    int count = 0;
     State().movable.ForEach([&](const Memory& memory) { count += !memory.owned; });
     return count;
 }
@@ -81,25 +70,11 @@ using namespace offscreen;
 HGLOBAL GlobalAlloc(UINT flags, SIZE_T size)
 {
     Inside inside;
-    ClipboardState& state = State();
+    if (flags != GMEM_MOVEABLE)
+        return NotModelled("GlobalAlloc of other than movable memory", HGLOBAL{});
     auto memory = std::make_unique<Memory>();
     memory->bytes.resize(std::max<SIZE_T>(size, 1));
-    if (flags & GMEM_MOVEABLE)
-        return state.movable.Add<HGLOBAL>(std::move(memory));
-    // Fixed memory is its own handle.
-    void* address = memory->bytes.data();
-    state.fixed[address] = std::move(memory);
-    return address;
-}
-
-HGLOBAL GlobalReAlloc(HGLOBAL handle, SIZE_T size, UINT)
-{
-    Inside inside;
-    Memory* memory = MemoryOf(handle);
-    if (!memory || memory->bytes.data() == handle)
-        return nullptr;
-    memory->bytes.resize(std::max<SIZE_T>(size, 1));
-    return handle;
+    return State().movable.Add<HGLOBAL>(std::move(memory));
 }
 
 LPVOID GlobalLock(HGLOBAL handle)
@@ -139,12 +114,6 @@ HGLOBAL GlobalFree(HGLOBAL handle)
     return nullptr;
 }
 
-HGLOBAL GlobalHandle(LPCVOID address)
-{
-    Inside inside;
-    return MemoryOf(const_cast<void*>(address)) ? const_cast<void*>(address) : nullptr;
-}
-
 BOOL OpenClipboard(HWND window)
 {
     Inside inside;
@@ -179,7 +148,6 @@ BOOL EmptyClipboard()
         return FALSE;
     }
     Empty();
-    state.owner = state.opener;
     return TRUE;
 }
 
@@ -206,4 +174,3 @@ HANDLE GetClipboardData(UINT format)
 }
 
 BOOL IsClipboardFormatAvailable(UINT format) { return State().contents.count(format) != 0; }
-HWND GetClipboardOwner() { return State().owner; }

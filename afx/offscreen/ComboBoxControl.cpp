@@ -9,17 +9,14 @@ namespace
 {
 struct ComboState : ControlState
 {
-    explicit ComboState(const ItemList::Traits& traits) : items(traits) {}
+    explicit ComboState(UINT ownerDrawnType) : items({ownerDrawnType, CBN_ERRSPACE}) {}
 
     ItemList items;
     bool dropped = false;
     int selectionBefore = -1; // When the list dropped down; Esc goes back to it.
-    bool extended = false;
     int itemHeight = 0;
     int fieldHeight = 0; // Of the selection field.
     int dropHeight = 0;  // The whole height that creation asked for, with the list.
-    int dropWidth = 0;
-    int extent = 0;
     bool resizing = false;
 };
 
@@ -28,7 +25,7 @@ constexpr int kPadding = 2; // Between it and the text.
 
 ComboState& Of(Window& combo) { return *StateOf<ComboState>(combo); }
 
-bool IsOwnerDrawn(const Window& combo) { return (combo.style & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0; }
+bool IsOwnerDrawn(const Window& combo) { return (combo.style & CBS_OWNERDRAWFIXED) != 0; }
 
 // The closed combo box is as high as its selection field, whatever height it is given.
 void AdjustHeight(Window& combo)
@@ -72,22 +69,18 @@ void MeasureItem(Window& combo)
 
 LRESULT Create(Window& combo)
 {
-    if ((combo.style & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST || (combo.style & CBS_OWNERDRAWVARIABLE))
-        return NotModelled("combo boxes with an edit, and such with items of several heights", -1);
-    ItemList::Traits traits{};
-    traits.ownerDrawnType = IsOwnerDrawn(combo) ? ODT_COMBOBOX : 0;
-    traits.hasStrings = !traits.ownerDrawnType || (combo.style & CBS_HASSTRINGS);
-    traits.sorted = (combo.style & CBS_SORT) != 0;
-    traits.errorSpaceNotification = CBN_ERRSPACE;
-    if (!traits.ownerDrawnType)
-        combo.style |= CBS_HASSTRINGS;
+    if ((combo.style & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST || (combo.style & (CBS_OWNERDRAWVARIABLE | CBS_SORT)))
+        return NotModelled("combo boxes with an edit, a sorted list or items of several heights", -1);
+    if (IsOwnerDrawn(combo) && !(combo.style & CBS_HASSTRINGS))
+        return NotModelled("owner-drawn combo boxes without texts", -1);
+    combo.style |= CBS_HASSTRINGS;
     // The frame is drawn by the control itself.
     combo.exStyle &= ~(WS_EX_CLIENTEDGE | WS_EX_WINDOWEDGE);
     combo.style &= ~(WS_BORDER | WS_HSCROLL);
-    combo.control = std::make_unique<ComboState>(traits);
+    combo.control = std::make_unique<ComboState>(IsOwnerDrawn(combo) ? ODT_COMBOBOX : 0);
     Of(combo).dropHeight = combo.rect.bottom - combo.rect.top;
     MeasureText(combo);
-    if (traits.ownerDrawnType)
+    if (IsOwnerDrawn(combo))
         MeasureItem(combo);
     AdjustHeight(combo);
     return 0;
@@ -179,8 +172,7 @@ LRESULT HandleKey(Window& combo, UINT message, WPARAM key)
         }
         return 0;
     case VK_F4:
-        if (!state.extended)
-            Toggle(combo);
+        Toggle(combo);
         return 0;
     case VK_LEFT:
     case VK_UP:
@@ -242,20 +234,6 @@ LRESULT CopySelectedText(Window& combo, WPARAM size, LPARAM target)
                     reinterpret_cast<LPSTR>(target), size);
 }
 
-LRESULT FillInfo(Window& combo, COMBOBOXINFO& info)
-{
-    const RECT client = ClientRectOf(combo);
-    info.rcItem = {kBorder + 1, kBorder + 1, client.right - kBorder - GetSystemMetrics(SM_CXVSCROLL),
-                   client.bottom - kBorder - 1};
-    info.rcButton = {client.right - kBorder - GetSystemMetrics(SM_CXVSCROLL), kBorder, client.right - kBorder,
-                     client.bottom - kBorder};
-    info.stateButton = Of(combo).dropped ? 8 : 0;
-    info.hwndCombo = combo.handle;
-    info.hwndItem = combo.handle;
-    info.hwndList = nullptr;
-    return TRUE;
-}
-
 LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lParam)
 {
     ComboState& state = Of(combo);
@@ -265,13 +243,6 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
     {
     case CB_ADDSTRING:
         return items.Add(combo, lParam);
-    case CB_INSERTSTRING:
-        return items.Insert(combo, start, lParam);
-    case CB_DELETESTRING: {
-        const LRESULT left = items.Remove(combo, wParam);
-        Invalidate(combo);
-        return left;
-    }
     case CB_RESETCONTENT:
         items.Clear(combo);
         Invalidate(combo);
@@ -293,14 +264,6 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
             return CB_ERR;
         items.SetData(start, lParam);
         return TRUE;
-    case CB_FINDSTRING:
-        return items.FindPrefix(start, lParam);
-    case CB_FINDSTRINGEXACT:
-        return items.FindExact(start, lParam);
-    case CB_SELECTSTRING: {
-        const int index = items.FindPrefix(start, lParam);
-        return index >= 0 ? SetSelection(combo, index) : CB_ERR;
-    }
     case CB_SHOWDROPDOWN:
         if (wParam && !state.dropped)
             DropDown(combo);
@@ -309,51 +272,8 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
         return TRUE;
     case CB_GETDROPPEDSTATE:
         return state.dropped;
-    case CB_GETDROPPEDCONTROLRECT: {
-        RECT rect = ScreenRectOf(combo);
-        rect.bottom = rect.top + std::max(state.dropHeight, combo.rect.bottom - combo.rect.top);
-        *reinterpret_cast<RECT*>(lParam) = rect;
-        return TRUE;
-    }
-    case CB_SETITEMHEIGHT:
-        if (start == -1)
-        {
-            state.fieldHeight = static_cast<int>(lParam);
-            AdjustHeight(combo);
-        }
-        else
-            state.itemHeight = static_cast<int>(lParam);
-        return CB_OKAY;
     case CB_GETITEMHEIGHT:
         return start == -1 ? state.fieldHeight : state.itemHeight;
-    case CB_SETEXTENDEDUI:
-        state.extended = wParam != 0;
-        return CB_OKAY;
-    case CB_GETEXTENDEDUI:
-        return state.extended;
-    case CB_SETDROPPEDWIDTH:
-        state.dropWidth = start;
-        [[fallthrough]];
-    case CB_GETDROPPEDWIDTH:
-        return std::max<int>(state.dropWidth, combo.rect.right - combo.rect.left);
-    case CB_SETHORIZONTALEXTENT:
-        state.extent = start;
-        return CB_OKAY;
-    case CB_GETHORIZONTALEXTENT:
-        return state.extent;
-    case CB_GETTOPINDEX:
-        return 0;
-    case CB_SETTOPINDEX:
-        return items.IsIndex(wParam) ? CB_OKAY : CB_ERR;
-    case CB_INITSTORAGE:
-        return items.Count() + static_cast<LRESULT>(wParam);
-    case CB_GETCOMBOBOXINFO:
-        return FillInfo(combo, *reinterpret_cast<COMBOBOXINFO*>(lParam));
-    case CB_LIMITTEXT:
-        return TRUE; // There is no edit to limit.
-    case CB_GETEDITSEL:
-    case CB_SETEDITSEL:
-        return CB_ERR;
     default:
         Fail("not modelled: combo box message 0x%04X", message);
         return CB_ERR;
@@ -463,8 +383,3 @@ LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM l
     }
 }
 } // namespace offscreen
-
-BOOL GetComboBoxInfo(HWND combo, PCOMBOBOXINFO info)
-{
-    return static_cast<BOOL>(SendMessageA(combo, CB_GETCOMBOBOXINFO, 0, reinterpret_cast<LPARAM>(info)));
-}

@@ -17,7 +17,7 @@ LRESULT SetText(Window& window, LPCSTR text)
 LRESULT HandleSystemKey(HWND window, UINT message, WPARAM wParam)
 {
     if (message == WM_SYSKEYDOWN && wParam == VK_F4 && KeyIsDown(VK_MENU))
-        PostMessageA(GetAncestor(window, GA_ROOT), WM_SYSCOMMAND, SC_CLOSE, 0);
+        PostMessageA(RootOf(Find(window))->handle, WM_SYSCOMMAND, SC_CLOSE, 0);
     return 0;
 }
 
@@ -176,8 +176,9 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         if (found->IsChild())
             return Send(ParentOf(*found), WM_MOUSEWHEEL, wParam, lParam);
         return 0;
-    case WM_NOTIFYFORMAT:
-        return 1; // NFR_ANSI
+    case WM_PRINT:
+    case WM_PRINTCLIENT:
+        return NotModelled("drawing a window elsewhere", 0);
     case WM_DRAWITEM:
     case WM_VKEYTOITEM:
     case WM_CHARTOITEM:

@@ -60,7 +60,6 @@ Counts Live()
     counts.menus = CountMenus();
     counts.modules = CountModules();
     counts.timers = CountTimers();
-    counts.hooks = CountHooks();
     counts.globals = CountGlobals();
     counts.keys = CountKeys();
     return counts;
@@ -133,5 +132,3 @@ int MulDiv(int number, int numerator, int denominator)
     const long long result = negative ? -magnitude : magnitude;
     return result > 0x7FFFFFFF || result < -0x7FFFFFFFLL - 1 ? -1 : static_cast<int>(result);
 }
-
-void OutputDebugStringA(LPCSTR text) { std::fputs(text ? text : "", stderr); }

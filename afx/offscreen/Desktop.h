@@ -17,12 +17,10 @@ struct Counts
     int fonts = 0;
     int brushes = 0;
     int pens = 0;
-    int bitmaps = 0;
     int dcs = 0;
     int menus = 0;
     int modules = 0; // Loaded libraries, each counted once however often it was loaded.
     int timers = 0;
-    int hooks = 0;
     int globals = 0; // Movable memory that the clipboard does not own.
     int keys = 0;    // Open registry keys.
 

@@ -2,9 +2,6 @@
 
 #include "afx/offscreen/Internal.h"
 
-#include <climits>
-#include <cstdlib>
-
 using namespace offscreen;
 
 LRESULT SendDlgItemMessageA(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam)
@@ -57,30 +54,4 @@ UINT GetDlgItemTextA(HWND dialog, int id, LPSTR text, int size)
     if (text && size > 0)
         text[0] = 0;
     return control ? static_cast<UINT>(GetWindowTextA(control, text, size)) : 0;
-}
-
-BOOL SetDlgItemInt(HWND dialog, int id, UINT value, BOOL isSigned)
-{
-    Inside inside;
-    const std::string text = isSigned ? std::to_string(static_cast<int>(value)) : std::to_string(value);
-    return SetDlgItemTextA(dialog, id, text.c_str());
-}
-
-UINT GetDlgItemInt(HWND dialog, int id, BOOL* translated, BOOL isSigned)
-{
-    Inside inside;
-    if (translated)
-        *translated = FALSE;
-    char text[30];
-    if (!GetDlgItemTextA(dialog, id, text, sizeof text))
-        return 0;
-    // The number ends where the digits do.
-    char* end = nullptr;
-    const long long value = std::strtoll(text, &end, 10);
-    const bool inRange = isSigned ? value >= INT_MIN && value <= INT_MAX : value >= 0 && value <= UINT_MAX;
-    if (end == text || !inRange)
-        return 0;
-    if (translated)
-        *translated = TRUE;
-    return static_cast<UINT>(value);
 }

@@ -11,14 +11,7 @@ bool IsDisabled(HWND control) { return control && !IsWindowEnabled(control); }
 // The windows of a dialog in the order in which mnemonics are looked for: after the one with the focus, then round.
 std::vector<HWND> WindowsAround(HWND dialog, HWND focus)
 {
-    std::vector<HWND> windows;
-    EnumChildWindows(
-        dialog,
-        [](HWND window, LPARAM param) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(param)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    std::vector<HWND> windows = DescendantsOf(*Find(dialog));
     const auto it = std::find(windows.begin(), windows.end(), focus);
     if (it != windows.end())
         std::rotate(windows.begin(), it + 1, windows.end());

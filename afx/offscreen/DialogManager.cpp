@@ -187,17 +187,15 @@ HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGP
         style &= ~WS_POPUP;
     const Place place = DialogPlace(tmpl, units, style, exStyle, owner);
 
-    HMENU menu = nullptr;
     if (!tmpl.menu.IsEmpty())
-        menu = tmpl.menu.ordinal >= 0 ? LoadMenuA(instance, MAKEINTRESOURCEA(tmpl.menu.ordinal))
-                                      : LoadMenuA(instance, tmpl.menu.text.c_str());
+        return NotModelled("dialogs with a menu bar", HWND{});
 
     const bool enableOwner = modal && DisableOwner(owner);
     std::string className = tmpl.className.ordinal >= 0 ? "" : tmpl.className.text;
     if (className.empty())
         className = "#32770";
     const HWND dialog = CreateWindowExA(exStyle, className.c_str(), tmpl.title.text.c_str(), style & ~WS_VISIBLE,
-                                        place.x, place.y, place.width, place.height, owner, menu, instance, nullptr);
+                                        place.x, place.y, place.width, place.height, owner, nullptr, instance, nullptr);
     Window* window = Find(dialog);
     if (!window)
     {
@@ -240,11 +238,10 @@ HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGP
 }
 namespace
 {
-HWND Create(HINSTANCE instance, const void* data, const void* end, HWND owner, DLGPROC procedure, LPARAM param,
-            bool modal)
+HWND Create(HINSTANCE instance, const void* data, HWND owner, DLGPROC procedure, LPARAM param, bool modal)
 {
     DesktopWindow();
-    return data ? CreateDialogFrom(ReadTemplate(data, end), instance, owner, procedure, param, modal) : nullptr;
+    return data ? CreateDialogFrom(ReadTemplate(data), instance, owner, procedure, param, modal) : nullptr;
 }
 } // namespace
 
@@ -273,7 +270,7 @@ INT_PTR RunModal(HWND dialog, HWND owner)
             PostQuitMessage(static_cast<int>(msg.wParam));
             break;
         }
-        if (!Find(dialog) || CallMsgFilterA(&msg, MSGF_DIALOGBOX) || IsDialogMessageA(dialog, &msg))
+        if (!Find(dialog) || IsDialogMessageA(dialog, &msg))
             continue;
         TranslateMessage(&msg);
         DispatchMessageA(&msg);
@@ -295,14 +292,7 @@ HWND CreateDialogIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplat
                                 LPARAM param)
 {
     Inside inside;
-    return Create(instance, dialogTemplate, nullptr, owner, procedure, param, false);
-}
-
-HWND CreateDialogParamA(HINSTANCE instance, LPCSTR name, HWND owner, DLGPROC procedure, LPARAM param)
-{
-    Inside inside;
-    const Bytes bytes = FindResourceBytes(instance, name, RT_DIALOG);
-    return bytes.data ? Create(instance, bytes.data, bytes.data + bytes.size, owner, procedure, param, false) : nullptr;
+    return Create(instance, dialogTemplate, owner, procedure, param, false);
 }
 
 INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
@@ -314,16 +304,7 @@ INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplat
         SetLastError(ERROR_INVALID_WINDOW_HANDLE);
         return 0;
     }
-    const HWND dialog = Create(instance, dialogTemplate, nullptr, owner, procedure, param, true);
-    return dialog ? RunModal(dialog, owner) : -1;
-}
-
-INT_PTR DialogBoxParamA(HINSTANCE instance, LPCSTR name, HWND owner, DLGPROC procedure, LPARAM param)
-{
-    Inside inside;
-    const Bytes bytes = FindResourceBytes(instance, name, RT_DIALOG);
-    const HWND dialog =
-        bytes.data ? Create(instance, bytes.data, bytes.data + bytes.size, owner, procedure, param, true) : nullptr;
+    const HWND dialog = Create(instance, dialogTemplate, owner, procedure, param, true);
     return dialog ? RunModal(dialog, owner) : -1;
 }
 

@@ -6,17 +6,11 @@ namespace offscreen
 {
 namespace
 {
-// Reads a template's words. Past the end everything is zero, so that a damaged template makes a poor dialog, not a
-// crash.
+// Reads a template's words.
 class Reader
 {
 public:
-    Reader(const void* data, const void* end)
-        : m_start(static_cast<const BYTE*>(data)), m_position(m_start), m_end(static_cast<const BYTE*>(end))
-    {
-    }
-
-    bool AtEnd() const { return m_end && m_position >= m_end; }
+    explicit Reader(const void* data) : m_start(static_cast<const BYTE*>(data)), m_position(m_start) {}
 
     WORD Word() { return Number<WORD>(); }
     DWORD Double() { return Number<DWORD>(); }
@@ -25,7 +19,7 @@ public:
     BYTE Byte() { return Number<BYTE>(); }
 
     void Align() { m_position = m_start + ((m_position - m_start + 3) & ~std::ptrdiff_t{3}); }
-    void Skip(std::size_t bytes) { m_position += m_end ? std::min<std::size_t>(bytes, Left()) : bytes; }
+    void Skip(std::size_t bytes) { m_position += bytes; }
     const BYTE* Position() const { return m_position; }
 
     std::string Text()
@@ -51,17 +45,10 @@ public:
     }
 
 private:
-    std::size_t Left() const { return m_position < m_end ? static_cast<std::size_t>(m_end - m_position) : 0; }
-
     template <class T>
     T Number()
     {
         T value{};
-        if (m_end && Left() < sizeof(T))
-        {
-            m_position = m_end;
-            return value;
-        }
         std::memcpy(&value, m_position, sizeof(T));
         m_position += sizeof(T);
         return value;
@@ -69,7 +56,6 @@ private:
 
     const BYTE* m_start;
     const BYTE* m_position;
-    const BYTE* m_end;
 };
 
 void ReadPlace(Reader& reader, short& x, short& y, short& width, short& height)
@@ -100,7 +86,7 @@ TemplateControl ReadControl(Reader& reader, bool extended)
     reader.Align();
     if (extended)
     {
-        control.helpId = reader.Double();
+        reader.Double(); // Help id
         control.exStyle = reader.Double();
         control.style = reader.Double();
     }
@@ -124,9 +110,9 @@ TemplateControl ReadControl(Reader& reader, bool extended)
 }
 } // namespace
 
-Template ReadTemplate(const void* data, const void* end)
+Template ReadTemplate(const void* data)
 {
-    Reader reader(data, end);
+    Reader reader(data);
     Template result;
     WORD version = reader.Word();
     const WORD signature = reader.Word();
@@ -150,8 +136,8 @@ Template ReadTemplate(const void* data, const void* end)
     result.title.text = reader.Text();
     if (result.style & DS_SETFONT)
         result.font = ReadFont(reader, extended);
-    result.controls.reserve(std::min<std::size_t>(count, 512));
-    for (WORD i = 0; i < count && !reader.AtEnd(); ++i)
+    result.controls.reserve(count);
+    for (WORD i = 0; i < count; ++i)
         result.controls.push_back(ReadControl(reader, extended));
     return result;
 }

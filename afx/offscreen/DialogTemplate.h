@@ -18,7 +18,6 @@ struct TemplateControl
 {
     DWORD style = 0;
     DWORD exStyle = 0;
-    DWORD helpId = 0;
     short x = 0;
     short y = 0;
     short width = 0;
@@ -54,8 +53,7 @@ struct Template
     std::vector<TemplateControl> controls;
 };
 
-// `end` is the end of the readable memory when it is known, else null.
-Template ReadTemplate(const void* data, const void* end);
+Template ReadTemplate(const void* data);
 
 // Creates a dialog; `modal` disables the owner until EndDialog or the end of the modal loop.
 HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param,

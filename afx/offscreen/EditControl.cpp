@@ -2,8 +2,6 @@
 
 #include "afx/offscreen/EditState.h"
 
-#include <cstring>
-
 namespace offscreen
 {
 using namespace edit;
@@ -32,41 +30,6 @@ LRESULT DialogCodeOf(Window& edit, const MSG* key)
     return code | DLGC_WANTALLKEYS;
 }
 
-LRESULT CopyLine(Window& edit, int line, LPARAM target)
-{
-    auto* buffer = reinterpret_cast<char*>(target);
-    WORD size = 0;
-    std::memcpy(&size, buffer, sizeof size);
-    std::string_view text = edit.text;
-    if (IsMultiLine(edit))
-    {
-        const EditLines& lines = LinesOf(edit);
-        if (line < 0 || line >= lines.Count())
-            return 0;
-        text =
-            text.substr(static_cast<std::size_t>(lines.StartOf(line)), static_cast<std::size_t>(lines.LengthOf(line)));
-    }
-    const std::string_view part = text.substr(0, size);
-    std::memcpy(buffer, part.data(), part.size()); // Not terminated, except that there is room for it.
-    if (part.size() < size)
-        buffer[part.size()] = 0;
-    return static_cast<LRESULT>(part.size());
-}
-
-LRESULT LineLength(Window& edit, int position)
-{
-    if (!IsMultiLine(edit))
-        return LengthOf(edit);
-    const EditLines& lines = LinesOf(edit);
-    const EditState& state = Of(edit);
-    if (position != -1)
-        return position <= LengthOf(edit) ? lines.LengthOf(lines.LineOf(position)) : 0;
-    // What would remain of the lines that the selection touches.
-    const int first = lines.LineOf(state.Start());
-    const int last = lines.LineOf(state.End());
-    return state.Start() - lines.StartOf(first) + lines.StartOf(last) + lines.LengthOf(last) - state.End();
-}
-
 LRESULT LineIndex(Window& edit, int line)
 {
     if (line == -1)
@@ -74,38 +37,6 @@ LRESULT LineIndex(Window& edit, int line)
     if (line < 0 || line >= LineCount(edit))
         return -1;
     return IsMultiLine(edit) ? LinesOf(edit).StartOf(line) : 0;
-}
-
-LRESULT ScrollLines(Window& edit, int lines)
-{
-    EditState& state = Of(edit);
-    if (!IsMultiLine(edit))
-        return FALSE;
-    state.scrolled = std::clamp(state.scrolled + lines, 0, std::max(LineCount(edit) - 1, 0));
-    Invalidate(edit);
-    return TRUE;
-}
-
-LRESULT SetReadOnly(Window& edit, bool readOnly)
-{
-    if (readOnly)
-        edit.style |= ES_READONLY;
-    else
-        edit.style &= ~ES_READONLY;
-    Invalidate(edit);
-    return TRUE;
-}
-
-LRESULT SetMargins(Window& edit, WPARAM which, LPARAM margins)
-{
-    EditState& state = Of(edit);
-    if (which & EC_LEFTMARGIN)
-        state.leftMargin = LOWORD(margins);
-    if (which & EC_RIGHTMARGIN)
-        state.rightMargin = HIWORD(margins);
-    UpdateFormat(edit);
-    Invalidate(edit);
-    return 0;
 }
 
 LRESULT HandleEditMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lParam)
@@ -118,18 +49,10 @@ LRESULT HandleEditMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lPar
     case EM_SETSEL:
         SetSelection(edit, static_cast<int>(wParam), static_cast<int>(lParam));
         return 1;
-    case EM_REPLACESEL:
-        ReplaceSelection(edit, lParam ? reinterpret_cast<LPCSTR>(lParam) : "", wParam != 0);
-        return 1;
     case EM_SCROLLCARET:
         ScrollToCaret(edit);
         Invalidate(edit);
         return 1;
-    case EM_GETMODIFY:
-        return state.modified;
-    case EM_SETMODIFY:
-        state.modified = wParam != 0;
-        return 0;
     case EM_LIMITTEXT: {
         UINT limit = static_cast<UINT>(wParam);
         if (limit == 0)
@@ -143,58 +66,11 @@ LRESULT HandleEditMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lPar
         return LineCount(edit);
     case EM_LINEINDEX:
         return LineIndex(edit, static_cast<int>(wParam));
-    case EM_LINELENGTH:
-        return LineLength(edit, static_cast<int>(wParam));
-    case EM_LINEFROMCHAR:
-        return LineOf(edit, static_cast<int>(wParam) == -1 ? state.Start() : static_cast<int>(wParam));
-    case EM_GETLINE:
-        return CopyLine(edit, static_cast<int>(wParam), lParam);
     case EM_GETFIRSTVISIBLELINE:
         return state.scrolled;
-    case EM_LINESCROLL:
-        return ScrollLines(edit, static_cast<int>(lParam));
-    case EM_SETREADONLY:
-        return SetReadOnly(edit, wParam != 0);
-    case EM_CANUNDO:
-        return state.undo.possible;
-    case EM_UNDO:
-        return UndoChange(edit);
-    case EM_EMPTYUNDOBUFFER:
-        state.undo = {};
-        return 0;
     case EM_GETRECT:
         *reinterpret_cast<RECT*>(lParam) = state.format;
         return 0;
-    case EM_SETRECT:
-    case EM_SETRECTNP:
-        if (IsMultiLine(edit) && lParam)
-        {
-            state.format = *reinterpret_cast<const RECT*>(lParam);
-            state.linesValid = false;
-        }
-        return 0;
-    case EM_SETMARGINS:
-        return SetMargins(edit, wParam, lParam);
-    case EM_GETMARGINS:
-        return MAKELONG(state.leftMargin, state.rightMargin);
-    case EM_SETPASSWORDCHAR:
-        state.passwordChar = static_cast<char>(wParam);
-        Invalidate(edit);
-        return 0;
-    case EM_GETPASSWORDCHAR:
-        return static_cast<unsigned char>(state.passwordChar);
-    case EM_SETTABSTOPS:
-        return IsMultiLine(edit);
-    case EM_POSFROMCHAR: {
-        if (wParam >= edit.text.size())
-            return -1;
-        const POINT point = PositionOf(edit, static_cast<int>(wParam));
-        return MAKELONG(point.x, point.y);
-    }
-    case EM_CHARFROMPOS: {
-        const int index = IndexAt(edit, POINT{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
-        return MAKELONG(index, LineOf(edit, index));
-    }
     default:
         Fail("not modelled: edit message 0x%04X", message);
         return 0;
@@ -203,10 +79,9 @@ LRESULT HandleEditMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lPar
 
 LRESULT Create(Window& edit)
 {
-    auto state = std::make_unique<EditState>();
-    if (edit.style & ES_PASSWORD)
-        state->passwordChar = '*';
-    edit.control = std::move(state);
+    if (edit.style & (ES_PASSWORD | ES_LOWERCASE))
+        return NotModelled("edits for passwords or in lower case", -1);
+    edit.control = std::make_unique<EditState>();
     edit.text = InCase(edit, edit.text);
     // Windows that scroll vertically or horizontally by a bar do so by themselves too.
     if (IsMultiLine(edit))
@@ -313,7 +188,6 @@ LRESULT CALLBACK EditProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPara
     case WM_ERASEBKGND:
         return TRUE;
     case WM_PAINT:
-    case WM_PRINTCLIENT:
         return Paint(edit, wParam);
     default:
         return DefWindowProcA(handle, message, wParam, lParam);

@@ -19,7 +19,7 @@ void DeleteBackwards(Window& edit)
             --before;
         state.anchor = static_cast<int>(before);
     }
-    ReplaceSelection(edit, {}, true);
+    ReplaceSelection(edit, {});
 }
 
 void DeleteForwards(Window& edit)
@@ -34,7 +34,7 @@ void DeleteForwards(Window& edit)
         state.anchor = state.caret;
         state.caret += isBreak ? 2 : CharacterLength(edit.text, at);
     }
-    ReplaceSelection(edit, {}, true);
+    ReplaceSelection(edit, {});
 }
 
 void TypeCharacter(Window& edit, char c)
@@ -58,7 +58,7 @@ void TypeCharacter(Window& edit, char c)
         MessageBeep(0);
         return;
     }
-    ReplaceSelection(edit, text, true, Change::Typed);
+    ReplaceSelection(edit, text, Change::Typed);
 }
 } // namespace
 
@@ -72,11 +72,11 @@ void HandleChar(Window& edit, char c)
     case '\n':
         if (!IsMultiLine(edit) || readOnly || (state.inDialog && !(edit.style & ES_WANTRETURN)))
             return;
-        ReplaceSelection(edit, "\r\n", true);
+        ReplaceSelection(edit, "\r\n");
         return;
     case '\t':
         if (IsMultiLine(edit) && !readOnly && !state.inDialog)
-            ReplaceSelection(edit, "\t", true);
+            ReplaceSelection(edit, "\t");
         return;
     case '\b':
         if (!readOnly && !KeyIsDown(VK_CONTROL))

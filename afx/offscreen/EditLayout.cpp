@@ -13,8 +13,6 @@ void UpdateFormat(Window& edit)
         InflateRect(&format, -1, format.bottom - format.top >= lineHeight + 2 ? -1 : 0);
     else if (edit.style & WS_BORDER)
         InflateRect(&format, -2, format.bottom - format.top >= lineHeight + 4 ? -2 : 0);
-    format.left += state.leftMargin;
-    format.right -= state.rightMargin;
     format.right = std::max(format.right, format.left);
     if (IsMultiLine(edit))
         format.bottom = format.top + std::max((format.bottom - format.top) / lineHeight, 1) * lineHeight;
@@ -85,21 +83,6 @@ void ScrollToCaret(Window& edit)
         width -= WidthBetween(edit, state.scrolled, next);
         state.scrolled = next;
     }
-}
-
-POINT PositionOf(Window& edit, int index)
-{
-    const EditState& state = Of(edit);
-    if (!IsMultiLine(edit))
-    {
-        const int x = index >= state.scrolled ? WidthBetween(edit, state.scrolled, index)
-                                              : -WidthBetween(edit, index, state.scrolled);
-        return {state.format.left + x, state.format.top};
-    }
-    const EditLines& lines = LinesOf(edit);
-    const int line = lines.LineOf(index);
-    return {state.format.left + WidthBetween(edit, lines.StartOf(line), index),
-            state.format.top + (line - state.scrolled) * MetricsOf(edit.font).height};
 }
 
 int IndexAt(Window& edit, POINT point)

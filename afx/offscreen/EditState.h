@@ -21,13 +21,9 @@ struct EditState : ControlState
     int anchor = 0; // The end of the selection that stays.
     int caret = 0;  // The end that moves.
     UINT limit = kInitialLimit;
-    bool modified = false;
     bool focused = false;
     bool inDialog = false; // Keys have come through a dialog's keyboard handling.
     char lead = 0;         // First byte of a double-byte character whose second byte is to come.
-    char passwordChar = 0;
-    int leftMargin = 0;
-    int rightMargin = 0;
     RECT format{};
     int scrolled = 0; // First visible character, or line in a multi-line edit.
     bool typing = false;
@@ -45,14 +41,13 @@ inline bool IsReadOnly(const Window& edit) { return (edit.style & ES_READONLY) !
 inline int LengthOf(const Window& edit) { return static_cast<int>(edit.text.size()); }
 
 // EditLayout.cpp: where the characters are.
-void UpdateFormat(Window& edit); // After a change of the size, the font or the margins
+void UpdateFormat(Window& edit); // After a change of the size or the font
 const EditLines& LinesOf(Window& edit);
 int LineCount(Window& edit);
 int LineOf(Window& edit, int position);
 int VisibleLines(Window& edit);
 int FormatWidth(const Window& edit);
 void ScrollToCaret(Window& edit);
-POINT PositionOf(Window& edit, int index);
 int IndexAt(Window& edit, POINT point);
 
 // EditText.cpp: the text and the selection.
@@ -63,10 +58,10 @@ enum class Change
 };
 
 int OnCharacter(const Window& edit, int position);             // Back to the start of the character
-std::string InCase(const Window& edit, std::string_view text); // In upper or lower case, as the edit wants it
+std::string InCase(const Window& edit, std::string_view text); // In upper case when the edit wants it
 void SetSelection(Window& edit, int start, int end);
 // Replaces the selection as the user would, within the limit, and tells the parent.
-void ReplaceSelection(Window& edit, std::string_view text, bool canUndo, Change change = Change::Replaced);
+void ReplaceSelection(Window& edit, std::string_view text, Change change = Change::Replaced);
 void SetWholeText(Window& edit, LPCSTR text);
 void NotifyChange(Window& edit);
 bool UndoChange(Window& edit);

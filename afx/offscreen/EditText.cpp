@@ -56,11 +56,7 @@ std::string_view WholeCharacters(std::string_view text, std::size_t size)
 
 std::string InCase(const Window& edit, std::string_view text)
 {
-    if (edit.style & ES_UPPERCASE)
-        return UpperCase(text);
-    if (edit.style & ES_LOWERCASE)
-        return LowerCase(text);
-    return std::string(text);
+    return edit.style & ES_UPPERCASE ? UpperCase(text) : std::string(text);
 }
 
 namespace
@@ -95,7 +91,7 @@ void NotifyChange(Window& edit)
     }
 }
 
-void ReplaceSelection(Window& edit, std::string_view text, bool canUndo, Change change)
+void ReplaceSelection(Window& edit, std::string_view text, Change change)
 {
     EditState& state = Of(edit);
     const int start = state.Start();
@@ -127,14 +123,10 @@ void ReplaceSelection(Window& edit, std::string_view text, bool canUndo, Change 
             ScrollToCaret(edit);
         return;
     }
-    if (canUndo)
-        RememberForUndo(state, edit.text, change);
-    else
-        state.undo = {};
+    RememberForUndo(state, edit.text, change);
     edit.text = rest;
     edit.text.insert(static_cast<std::size_t>(start), inserted);
     state.anchor = state.caret = start + static_cast<int>(inserted.size());
-    state.modified = true;
     state.linesValid = false;
     ScrollToCaret(edit);
     NotifyChange(edit);
@@ -146,7 +138,6 @@ void SetWholeText(Window& edit, LPCSTR text)
     edit.text = InCase(edit, text ? text : "");
     state.anchor = state.caret = 0;
     state.scrolled = 0;
-    state.modified = false;
     state.undo = {};
     state.typing = false;
     state.lead = 0;
@@ -177,7 +168,7 @@ bool UndoChange(Window& edit)
 void Copy(const Window& edit)
 {
     const EditState& state = Of(const_cast<Window&>(edit));
-    if (state.Start() == state.End() || (edit.style & ES_PASSWORD) || !OpenClipboard(edit.handle))
+    if (state.Start() == state.End() || !OpenClipboard(edit.handle))
         return;
     const auto size = static_cast<std::size_t>(state.End() - state.Start());
     const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size + 1);
@@ -205,13 +196,13 @@ void Paste(Window& edit)
     if (!IsMultiLine(edit)) // Only the first line finds room.
         text.resize(std::min(text.find_first_of("\r\n"), text.size()));
     if (!text.empty())
-        ReplaceSelection(edit, text, true);
+        ReplaceSelection(edit, text);
 }
 
 void Clear(Window& edit)
 {
     if (!IsReadOnly(edit))
-        ReplaceSelection(edit, {}, true);
+        ReplaceSelection(edit, {});
 }
 
 void Cut(Window& edit)

@@ -38,6 +38,18 @@ void ChangeFocus(HWND window)
         Send(window, WM_SETFOCUS, reinterpret_cast<WPARAM>(previous));
 }
 
+namespace
+{
+// The window at the end of the chain of owners.
+Window* RootOwnerOf(Window* window)
+{
+    Window* root = RootOf(window);
+    while (Window* owner = Find(root->owner))
+        root = RootOf(owner);
+    return root;
+}
+} // namespace
+
 bool Activate(HWND window, bool byMouse, bool moveFocus)
 {
     InputState& input = Input();
@@ -48,13 +60,6 @@ bool Activate(HWND window, bool byMouse, bool moveFocus)
             ChangeFocus(window);
         return true;
     }
-
-    CBTACTIVATESTRUCT data{byMouse, previous};
-    LRESULT refused = 0;
-    if (window &&
-        RunHooks(WH_CBT, HCBT_ACTIVATE, reinterpret_cast<WPARAM>(window), reinterpret_cast<LPARAM>(&data), &refused) &&
-        refused)
-        return false;
 
     if (Find(previous))
     {
@@ -68,9 +73,7 @@ bool Activate(HWND window, bool byMouse, bool moveFocus)
     {
         RaiseToTop(*found);
         // The window at the end of the chain of owners remembers who was active last among its popups.
-        const HWND rootOwner = GetAncestor(window, GA_ROOTOWNER);
-        if (Window* root = Find(rootOwner))
-            root->lastActivePopup = window;
+        RootOwnerOf(found)->lastActivePopup = window;
         if (Window* owner = Find(found->owner))
             owner->lastActivePopup = window;
         Send(window, WM_NCACTIVATE, TRUE, reinterpret_cast<LPARAM>(previous));
@@ -78,7 +81,7 @@ bool Activate(HWND window, bool byMouse, bool moveFocus)
     }
     if (moveFocus && input.active == window)
     {
-        const bool focusIsInside = input.focus && window && GetAncestor(input.focus, GA_ROOT) == window;
+        const bool focusIsInside = window && RootOf(Find(input.focus)) == Find(window);
         if (!focusIsInside)
             ChangeFocus(window);
     }
@@ -161,16 +164,6 @@ HWND SetActiveWindow(HWND window)
 }
 
 HWND GetActiveWindow() { return Input().active; }
-HWND GetForegroundWindow() { return Input().active; }
-
-BOOL SetForegroundWindow(HWND window)
-{
-    Inside inside;
-    Window* found = Lookup(window);
-    return found && Activate(RootOf(found)->handle, false, true);
-}
-
-BOOL BringWindowToTop(HWND window) { return SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE); }
 
 BOOL ShowWindow(HWND window, int command)
 {
@@ -260,8 +253,6 @@ SHORT GetKeyState(int key)
     return static_cast<SHORT>((state & 0x80 ? 0x8000 : 0) | (state & 1));
 }
 
-SHORT GetAsyncKeyState(int key) { return static_cast<SHORT>(GetKeyState(key) & 0x8000); }
-
 BOOL GetKeyboardState(PBYTE keys)
 {
     std::memcpy(keys, Input().keys, sizeof Input().keys);
@@ -274,24 +265,6 @@ BOOL SetKeyboardState(LPBYTE keys)
     return TRUE;
 }
 
-BOOL GetCursorPos(LPPOINT point)
-{
-    *point = Input().cursor;
-    return TRUE;
-}
-
-BOOL SetCursorPos(int x, int y)
-{
-    Input().cursor = {x, y};
-    return TRUE;
-}
-
-HCURSOR SetCursor(HCURSOR cursor)
-{
-    static HCURSOR current = nullptr;
-    return std::exchange(current, cursor);
-}
-
 // The system's cursors and icons have no looks here; a handle that is not null is all that anybody needs.
 HCURSOR LoadCursorA(HINSTANCE, LPCSTR name)
 {
@@ -302,44 +275,3 @@ HICON LoadIconA(HINSTANCE, LPCSTR name)
 {
     return reinterpret_cast<HICON>(static_cast<ULONG_PTR>(0x20000) + LOWORD(name));
 }
-
-namespace
-{
-struct Caret
-{
-    HWND window = nullptr;
-    POINT position{};
-};
-Caret g_caret;
-} // namespace
-
-BOOL CreateCaret(HWND window, HBITMAP, int, int)
-{
-    Inside inside;
-    if (!Lookup(window))
-        return FALSE;
-    g_caret = {window, {}};
-    return TRUE;
-}
-
-BOOL DestroyCaret()
-{
-    const bool existed = g_caret.window != nullptr;
-    g_caret = {};
-    return existed;
-}
-
-BOOL SetCaretPos(int x, int y)
-{
-    g_caret.position = {x, y};
-    return TRUE;
-}
-
-BOOL GetCaretPos(LPPOINT point)
-{
-    *point = g_caret.position;
-    return TRUE;
-}
-
-BOOL ShowCaret(HWND window) { return g_caret.window && (!window || window == g_caret.window); }
-BOOL HideCaret(HWND window) { return g_caret.window && (!window || window == g_caret.window); }

@@ -1,4 +1,4 @@
-// Device contexts, fonts, brushes, pens and bitmaps. Nothing is drawn anywhere; what can be asked back is kept, and
+// Device contexts, fonts, brushes and pens. Nothing is drawn anywhere; what can be asked back is kept, and
 // text is noted down when a test wants to see it.
 
 #include "afx/offscreen/GdiState.h"
@@ -25,11 +25,10 @@ HBRUSH MakeBrush(COLORREF color, UINT style = BS_SOLID)
     return Make<HBRUSH>(object);
 }
 
-HPEN MakePen(int style, int width, COLORREF color)
+HPEN MakePen()
 {
     GdiObject object;
     object.kind = OBJ_PEN;
-    object.pen = {static_cast<UINT>(style), {width, 0}, color};
     return Make<HPEN>(object);
 }
 
@@ -58,36 +57,20 @@ HGDIOBJ MakeStock(int index)
     {
     case WHITE_BRUSH:
         return MakeBrush(RGB(255, 255, 255));
-    case LTGRAY_BRUSH:
-        return MakeBrush(RGB(192, 192, 192));
-    case GRAY_BRUSH:
-        return MakeBrush(RGB(128, 128, 128));
-    case DKGRAY_BRUSH:
-        return MakeBrush(RGB(64, 64, 64));
     case BLACK_BRUSH:
         return MakeBrush(RGB(0, 0, 0));
     case NULL_BRUSH:
         return MakeBrush(0, BS_NULL);
-    case WHITE_PEN:
-        return MakePen(PS_SOLID, 0, RGB(255, 255, 255));
     case BLACK_PEN:
-        return MakePen(PS_SOLID, 0, RGB(0, 0, 0));
+        return MakePen();
     case NULL_PEN:
-        return MakePen(PS_NULL, 0, 0);
-    case OEM_FIXED_FONT:
-    case ANSI_FIXED_FONT:
-        return MakeStockFont("Courier", 12, FW_NORMAL);
-    case ANSI_VAR_FONT:
-        return MakeStockFont("MS Sans Serif", 12, FW_NORMAL);
+        return MakePen();
     case SYSTEM_FONT:
-    case DEVICE_DEFAULT_FONT:
         return MakeStockFont("System", 16, FW_BOLD);
-    case SYSTEM_FIXED_FONT:
-        return MakeStockFont("Courier", 16, FW_NORMAL);
     case DEFAULT_GUI_FONT:
         return MakeStockFont("MS Shell Dlg", -11, FW_NORMAL);
     default:
-        return nullptr;
+        return NotModelled("GetStockObject with this index", HGDIOBJ{});
     }
 }
 
@@ -129,8 +112,6 @@ HGDIOBJ* SlotFor(DcSettings& dc, DWORD kind)
         return &dc.brush;
     case OBJ_PEN:
         return &dc.pen;
-    case OBJ_BITMAP:
-        return &dc.bitmap;
     default:
         return nullptr;
     }
@@ -203,7 +184,6 @@ void CountGdi(Counts& counts)
         counts.fonts += object.kind == OBJ_FONT;
         counts.brushes += object.kind == OBJ_BRUSH;
         counts.pens += object.kind == OBJ_PEN;
-        counts.bitmaps += object.kind == OBJ_BITMAP;
     });
     counts.dcs = Gdi().dcs.Count();
 }
@@ -242,8 +222,6 @@ HDC GetDC(HWND window)
     return OpenDc(window, false);
 }
 
-HDC GetWindowDC(HWND window) { return GetDC(window); }
-
 int ReleaseDC(HWND, HDC dc)
 {
     Inside inside;
@@ -251,12 +229,6 @@ int ReleaseDC(HWND, HDC dc)
         return 0;
     CloseDc(dc);
     return 1;
-}
-
-HWND WindowFromDC(HDC dc)
-{
-    const Dc* found = DcOf(dc);
-    return found ? found->window : nullptr;
 }
 
 HDC CreateCompatibleDC(HDC)
@@ -302,14 +274,6 @@ int GetDeviceCaps(HDC dc, int index)
     case LOGPIXELSX:
     case LOGPIXELSY:
         return 96;
-    case HORZRES:
-        return GetSystemMetrics(SM_CXSCREEN);
-    case VERTRES:
-        return GetSystemMetrics(SM_CYSCREEN);
-    case BITSPIXEL:
-        return 32;
-    case PLANES:
-        return 1;
     default:
         return NotModelled("GetDeviceCaps with this index", 0);
     }
@@ -317,17 +281,13 @@ int GetDeviceCaps(HDC dc, int index)
 
 // Pixels are the only unit.
 BOOL DPtoLP(HDC dc, LPPOINT, int) { return DcOf(dc) != nullptr; }
-BOOL LPtoDP(HDC dc, LPPOINT, int) { return DcOf(dc) != nullptr; }
 
 COLORREF SetTextColor(HDC dc, COLORREF color) { return Swap(dc, &DcSettings::textColor, color, CLR_INVALID); }
 COLORREF SetBkColor(HDC dc, COLORREF color) { return Swap(dc, &DcSettings::backgroundColor, color, CLR_INVALID); }
 int SetBkMode(HDC dc, int mode) { return Swap(dc, &DcSettings::backgroundMode, mode, 0); }
-UINT SetTextAlign(HDC dc, UINT align) { return Swap(dc, &DcSettings::align, align, GDI_ERROR); }
 
 COLORREF GetTextColor(HDC dc) { return DcOf(dc) ? DcOf(dc)->textColor : CLR_INVALID; }
 COLORREF GetBkColor(HDC dc) { return DcOf(dc) ? DcOf(dc)->backgroundColor : CLR_INVALID; }
-int GetBkMode(HDC dc) { return DcOf(dc) ? DcOf(dc)->backgroundMode : 0; }
-UINT GetTextAlign(HDC dc) { return DcOf(dc) ? DcOf(dc)->align : GDI_ERROR; }
 
 // ------------------------------------------------------------------------------------------------------------ objects
 
@@ -337,19 +297,7 @@ HGDIOBJ SelectObject(HDC dc, HGDIOBJ object)
     Dc* found = DcOf(dc);
     const GdiObject* selected = ObjectOf(object);
     HGDIOBJ* slot = found && selected ? SlotFor(*found, selected->kind) : nullptr;
-    if (!slot)
-        return nullptr;
-    const HGDIOBJ before = std::exchange(*slot, object);
-    // Every memory context starts with a bitmap of one pixel; here that one has no handle of its own.
-    return !before && selected->kind == OBJ_BITMAP ? reinterpret_cast<HGDIOBJ>(std::uintptr_t{1}) : before;
-}
-
-HGDIOBJ GetCurrentObject(HDC dc, UINT kind)
-{
-    Inside inside;
-    Dc* found = DcOf(dc);
-    const HGDIOBJ* slot = found ? SlotFor(*found, kind) : nullptr;
-    return slot ? *slot : nullptr;
+    return slot ? std::exchange(*slot, object) : nullptr;
 }
 
 BOOL DeleteObject(HGDIOBJ object)
@@ -394,12 +342,8 @@ int GetObjectA(HANDLE object, int size, LPVOID buffer)
     case OBJ_BRUSH:
         source = &found->brush, available = sizeof found->brush;
         break;
-    case OBJ_PEN:
-        source = &found->pen, available = sizeof found->pen;
-        break;
     default:
-        source = &found->bitmap, available = sizeof found->bitmap;
-        break;
+        return NotModelled("GetObject of a pen", 0);
     }
     if (!buffer)
         return available;
@@ -416,50 +360,16 @@ HFONT CreateFontIndirectA(const LOGFONTA* font)
     return font ? MakeFont(*font) : nullptr;
 }
 
-HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic, DWORD underline,
-                  DWORD strikeOut, DWORD charSet, DWORD outPrecision, DWORD clipPrecision, DWORD quality,
-                  DWORD pitchAndFamily, LPCSTR faceName)
-{
-    Inside inside;
-    LOGFONTA font{};
-    font.lfHeight = height;
-    font.lfWidth = width;
-    font.lfEscapement = escapement;
-    font.lfOrientation = orientation;
-    font.lfWeight = weight;
-    font.lfItalic = static_cast<BYTE>(italic);
-    font.lfUnderline = static_cast<BYTE>(underline);
-    font.lfStrikeOut = static_cast<BYTE>(strikeOut);
-    font.lfCharSet = static_cast<BYTE>(charSet);
-    font.lfOutPrecision = static_cast<BYTE>(outPrecision);
-    font.lfClipPrecision = static_cast<BYTE>(clipPrecision);
-    font.lfQuality = static_cast<BYTE>(quality);
-    font.lfPitchAndFamily = static_cast<BYTE>(pitchAndFamily);
-    CopyText(faceName ? faceName : "", font.lfFaceName, sizeof font.lfFaceName);
-    return MakeFont(font);
-}
-
 HBRUSH CreateSolidBrush(COLORREF color)
 {
     Inside inside;
     return MakeBrush(color);
 }
 
-HPEN CreatePen(int style, int width, COLORREF color)
+HPEN CreatePen(int, int, COLORREF)
 {
     Inside inside;
-    return MakePen(style, width, color);
-}
-
-HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height)
-{
-    Inside inside;
-    if (!DcOf(dc))
-        return nullptr;
-    GdiObject object;
-    object.kind = OBJ_BITMAP;
-    object.bitmap = {0, std::max(width, 1), std::max(height, 1), std::max(width, 1) * 4, 1, 32, nullptr};
-    return Make<HBITMAP>(object);
+    return MakePen();
 }
 
 DWORD GetSysColor(int index)

@@ -12,8 +12,6 @@ struct GdiObject
     bool stock = false;
     LOGFONTA font{};
     LOGBRUSH brush{};
-    LOGPEN pen{};
-    BITMAP bitmap{};
     const FontMetrics* metrics = nullptr;
 };
 
@@ -22,11 +20,9 @@ struct DcSettings
     COLORREF textColor = RGB(0, 0, 0);
     COLORREF backgroundColor = RGB(255, 255, 255);
     int backgroundMode = OPAQUE;
-    UINT align = TA_LEFT | TA_TOP;
     HGDIOBJ font = nullptr;
     HGDIOBJ brush = nullptr;
     HGDIOBJ pen = nullptr;
-    HGDIOBJ bitmap = nullptr;
     POINT position{};
 };
 

@@ -36,18 +36,6 @@ BOOL GetTextMetricsA(HDC dc, LPTEXTMETRICA metrics)
     return TRUE;
 }
 
-int GetTextFaceA(HDC dc, int size, LPSTR name)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return 0;
-    const std::string_view face = LogFontOf(static_cast<HFONT>(found->font)).lfFaceName;
-    if (!name)
-        return static_cast<int>(face.size()) + 1;
-    return CopyText(face, name, static_cast<std::size_t>(std::max(size, 0))) + 1;
-}
-
 BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, LPSIZE size)
 {
     Inside inside;
@@ -58,46 +46,6 @@ BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, LPSIZE size)
     *size = {TextWidth(metrics, View(text, length)), metrics.height};
     if (length == 0)
         size->cy = metrics.height;
-    return TRUE;
-}
-
-BOOL GetTextExtentPointA(HDC dc, LPCSTR text, int length, LPSIZE size)
-{
-    return GetTextExtentPoint32A(dc, text, length, size);
-}
-
-BOOL GetTextExtentExPointA(HDC dc, LPCSTR text, int length, int maxExtent, LPINT fit, LPINT extents, LPSIZE size)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found || length < 0)
-        return FALSE;
-    const FontMetrics& metrics = MetricsOf(static_cast<HFONT>(found->font));
-    int fitting = 0;
-    for (int i = 0; i < length; ++i)
-    {
-        const int extent = TextWidth(metrics, View(text, i + 1));
-        if (fit && extent > maxExtent)
-            break;
-        if (extents)
-            extents[i] = extent;
-        fitting = i + 1;
-    }
-    if (fit)
-        *fit = fitting;
-    *size = {TextWidth(metrics, View(text, length)), metrics.height};
-    return TRUE;
-}
-
-BOOL GetCharWidth32A(HDC dc, UINT first, UINT last, LPINT widths)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return FALSE;
-    const FontMetrics& metrics = MetricsOf(static_cast<HFONT>(found->font));
-    for (UINT c = first; c <= last; ++c)
-        *widths++ = c < 256 ? metrics.widths[c] : metrics.doubleByteWidth;
     return TRUE;
 }
 
@@ -185,50 +133,4 @@ int DrawTextA(HDC dc, LPCSTR text, int length, LPRECT rect, UINT format)
         y += lineHeight;
     }
     return y - rect->top;
-}
-
-namespace
-{
-// Width of a text whose tabs go to the given stops, as TabbedTextOut counts them.
-int TabbedWidth(const FontMetrics& metrics, std::string_view text, int count, const INT* tabs)
-{
-    const int standard = count == 1 && tabs ? tabs[0] : 8 * metrics.averageWidth;
-    int x = 0;
-    while (!text.empty())
-    {
-        const std::size_t end = std::min(text.find('\t'), text.size());
-        x += TextWidth(metrics, text.substr(0, end));
-        if (end == text.size())
-            break;
-        int next = (x / std::max(standard, 1) + 1) * standard;
-        if (count > 1 && tabs)
-        {
-            const INT* stop = std::find_if(tabs, tabs + count, [=](INT tab) { return tab > x; });
-            next = stop != tabs + count ? *stop : x + TextWidth(metrics, " ");
-        }
-        x = next;
-        text.remove_prefix(end + 1);
-    }
-    return x;
-}
-} // namespace
-
-LONG TabbedTextOutA(HDC dc, int x, int y, LPCSTR text, int length, int count, const INT* tabs, int)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return 0;
-    NoteText(*found, x, y, View(text, length));
-    return static_cast<LONG>(GetTabbedTextExtentA(dc, text, length, count, tabs));
-}
-
-DWORD GetTabbedTextExtentA(HDC dc, LPCSTR text, int length, int count, const INT* tabs)
-{
-    Inside inside;
-    const Dc* found = DcOf(dc);
-    if (!found)
-        return 0;
-    const FontMetrics& metrics = MetricsOf(static_cast<HFONT>(found->font));
-    return static_cast<DWORD>(MAKELONG(TabbedWidth(metrics, View(text, length), count, tabs), metrics.height));
 }

@@ -38,11 +38,7 @@ void Reorder(Window& window, HWND after)
     if (!window.parent)
         return;
     Window& parent = *window.parent;
-    Window* behind = nullptr;
-    if (after == HWND_BOTTOM)
-        behind = parent.lastChild;
-    else if (after != HWND_TOP && after != HWND_TOPMOST && after != HWND_NOTOPMOST)
-        behind = Find(after);
+    Window* behind = after == HWND_BOTTOM ? parent.lastChild : Find(after);
     if (behind == &window || (behind && behind->parent != &parent))
         return;
 
@@ -181,44 +177,6 @@ BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint)
                         SWP_NOZORDER | SWP_NOACTIVATE | (repaint ? 0u : static_cast<UINT>(SWP_NOREDRAW)));
 }
 
-namespace
-{
-struct Deferred
-{
-    std::vector<WINDOWPOS> positions;
-};
-} // namespace
-
-HDWP BeginDeferWindowPos(int)
-{
-    Inside inside;
-    return reinterpret_cast<HDWP>(new Deferred);
-}
-
-HDWP DeferWindowPos(HDWP positions, HWND window, HWND after, int x, int y, int width, int height, UINT flags)
-{
-    Inside inside;
-    auto* deferred = reinterpret_cast<Deferred*>(positions);
-    if (!deferred || !Lookup(window))
-    {
-        delete deferred;
-        return nullptr;
-    }
-    deferred->positions.push_back({window, after, x, y, width, height, flags});
-    return positions;
-}
-
-BOOL EndDeferWindowPos(HDWP positions)
-{
-    Inside inside;
-    const std::unique_ptr<Deferred> deferred(reinterpret_cast<Deferred*>(positions));
-    if (!deferred)
-        return FALSE;
-    for (const WINDOWPOS& p : deferred->positions)
-        SetWindowPos(p.hwnd, p.hwndInsertAfter, p.x, p.y, p.cx, p.cy, p.flags);
-    return TRUE;
-}
-
 BOOL GetWindowRect(HWND window, LPRECT rect)
 {
     Inside inside;
@@ -282,51 +240,14 @@ int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count)
     return MAKELONG(dx, dy);
 }
 
-BOOL AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle)
-{
-    RECT margins{};
-    FrameOf(style, exStyle, margins);
-    rect->left -= margins.left;
-    rect->top -= margins.top + (menu ? GetSystemMetrics(SM_CYMENU) : 0);
-    rect->right += margins.right;
-    rect->bottom += margins.bottom;
-    return TRUE;
-}
-
-BOOL AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu) { return AdjustWindowRectEx(rect, style, menu, 0); }
-
 int GetSystemMetrics(int index)
 {
     Inside inside;
     switch (index)
     {
-    case SM_CXSCREEN:
-        return DesktopWindow().rect.right;
-    case SM_CYSCREEN:
-        return DesktopWindow().rect.bottom;
     case SM_CXVSCROLL:
-    case SM_CYHSCROLL:
     case SM_CYVSCROLL:
         return kScrollBar;
-    case SM_CYCAPTION:
-    case SM_CYMENU:
-        return kCaption;
-    case SM_CXBORDER:
-    case SM_CYBORDER:
-        return kBorder;
-    case SM_CXDLGFRAME:
-    case SM_CYDLGFRAME:
-        return kDialogFrame;
-    case SM_CXFRAME:
-    case SM_CYFRAME:
-    case SM_CXDOUBLECLK:
-    case SM_CYDOUBLECLK:
-        return 4;
-    case SM_DBCSENABLED:
-        return GetACP() >= 932 && GetACP() <= 950;
-    case SM_CXEDGE:
-    case SM_CYEDGE:
-        return kEdge;
     default:
         return NotModelled("GetSystemMetrics with this index", 0);
     }
@@ -341,39 +262,6 @@ BOOL SystemParametersInfoA(UINT action, UINT, LPVOID value, UINT)
     return TRUE;
 }
 
-HWND WindowFromPoint(POINT point)
-{
-    Inside inside;
-    const Window* window = &DesktopWindow();
-    for (const Window* child = window->firstChild; child;)
-    {
-        const RECT rect = ScreenRectOf(*child);
-        if ((child->style & WS_VISIBLE) && PtInRect(&rect, point))
-        {
-            window = child;
-            child = child->firstChild;
-        }
-        else
-            child = child->next;
-    }
-    return window->handle;
-}
-
-HWND ChildWindowFromPoint(HWND parent, POINT point)
-{
-    Inside inside;
-    const Window* found = Lookup(parent);
-    if (!found)
-        return nullptr;
-    const RECT client = ClientRectOf(*found);
-    if (!PtInRect(&client, point))
-        return nullptr;
-    for (const Window* child = found->firstChild; child; child = child->next)
-        if (PtInRect(&child->rect, point))
-            return child->handle;
-    return parent;
-}
-
 // ------------------------------------------------------------------------------------------------ rectangle functions
 
 BOOL SetRect(LPRECT rect, int left, int top, int right, int bottom)
@@ -385,12 +273,6 @@ BOOL SetRect(LPRECT rect, int left, int top, int right, int bottom)
 BOOL SetRectEmpty(LPRECT rect)
 {
     *rect = {};
-    return TRUE;
-}
-
-BOOL CopyRect(LPRECT target, const RECT* source)
-{
-    *target = *source;
     return TRUE;
 }
 
@@ -416,25 +298,4 @@ BOOL IsRectEmpty(const RECT* rect) { return rect->left >= rect->right || rect->t
 BOOL EqualRect(const RECT* a, const RECT* b)
 {
     return a->left == b->left && a->top == b->top && a->right == b->right && a->bottom == b->bottom;
-}
-
-BOOL IntersectRect(LPRECT target, const RECT* a, const RECT* b)
-{
-    const RECT result = {std::max(a->left, b->left), std::max(a->top, b->top), std::min(a->right, b->right),
-                         std::min(a->bottom, b->bottom)};
-    const bool empty = IsRectEmpty(a) || IsRectEmpty(b) || IsRectEmpty(&result);
-    *target = empty ? RECT{} : result;
-    return !empty;
-}
-
-BOOL UnionRect(LPRECT target, const RECT* a, const RECT* b)
-{
-    if (IsRectEmpty(a) || IsRectEmpty(b))
-    {
-        *target = IsRectEmpty(a) ? (IsRectEmpty(b) ? RECT{} : *b) : *a;
-        return !IsRectEmpty(target);
-    }
-    *target = {std::min(a->left, b->left), std::min(a->top, b->top), std::max(a->right, b->right),
-               std::max(a->bottom, b->bottom)};
-    return TRUE;
 }

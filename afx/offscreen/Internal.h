@@ -64,13 +64,8 @@ struct WindowClass
 {
     std::string name;
     ATOM atom = 0;
-    UINT style = 0;
     WNDPROC procedure = nullptr;
-    int classExtra = 0;
     int windowExtra = 0;
-    HINSTANCE instance = nullptr;
-    HICON icon = nullptr;
-    HCURSOR cursor = nullptr;
     HBRUSH background = nullptr;
     int windows = 0;
     bool builtIn = false;
@@ -88,7 +83,6 @@ struct ScrollState
     int high = 100;
     UINT page = 0;
     int position = 0;
-    bool enabled = true;
 };
 
 struct Window
@@ -96,7 +90,6 @@ struct Window
     HWND handle = nullptr;
     WindowClass* windowClass = nullptr;
     WNDPROC procedure = nullptr;
-    HINSTANCE instance = nullptr;
     DWORD style = 0;
     DWORD exStyle = 0;
     LONG_PTR id = 0; // Control id of a child, menu of another.
@@ -115,7 +108,6 @@ struct Window
 
     std::unique_ptr<ControlState> control;
     std::unique_ptr<ControlState> dialog;
-    std::vector<std::pair<std::string, HANDLE>> properties;
     ScrollState scroll[2]; // SB_HORZ, SB_VERT
 
     HFONT font = nullptr;
@@ -136,6 +128,7 @@ void Unlink(Window& window);
 // Puts the window among its parent's children, behind `after`, or on top when that is null.
 void Link(Window& window, Window* after);
 std::vector<HWND> ChildrenOf(const Window& window);
+std::vector<HWND> DescendantsOf(const Window& window); // Each before its own children.
 
 class Pin
 {
@@ -172,7 +165,7 @@ RECT ScreenRectOf(const Window& window);
 void FrameOf(DWORD style, DWORD exStyle, RECT& margins); // Thickness of the frame on each side.
 
 WindowClass* FindClass(LPCSTR name);
-void RegisterBuiltIn(const char* name, WNDPROC procedure, UINT style, int windowExtra, int atom = 0);
+void RegisterBuiltIn(const char* name, WNDPROC procedure, int windowExtra = 0, int atom = 0);
 void RegisterStandardClasses();
 
 // Window procedures of the standard classes.
@@ -198,7 +191,6 @@ struct InputState
     HWND active = nullptr;
     HWND capture = nullptr;
     BYTE keys[256] = {};
-    POINT cursor{};
 };
 InputState& Input();
 
@@ -218,16 +210,13 @@ HBRUSH AskParentForColors(const Window& control, UINT message, HDC dc);
 // Sends WM_DRAWITEM to the parent of an owner-drawn control.
 void DrawItem(const Window& control, DRAWITEMSTRUCT& item);
 
-// -------------------------------------------------------------------------------------------------- messages and hooks
+// ----------------------------------------------------------------------------------------------------------- messages
 
-// Runs hooks of a kind; returns false (and leaves `result` alone) when there is none.
-bool RunHooks(int kind, int code, WPARAM wParam, LPARAM lParam, LRESULT* result = nullptr);
 void ForgetMessages(HWND window);
 // Reports that GetMessage would wait forever and makes it return WM_QUIT from now on.
 void ReportHang(const char* where);
 void ResetMessages();
 int CountTimers();
-int CountHooks();
 
 // ------------------------------------------------------------------------------------------------------------ dialogs
 

@@ -4,16 +4,14 @@
 
 namespace offscreen
 {
-// The items of a list box or combo box. Without strings (owner-drawn, no HASSTRINGS) an item is its data alone.
+// The items of a list box or combo box.
 class ItemList
 {
 public:
     // What differs between the two controls.
     struct Traits
     {
-        UINT ownerDrawnType; // ODT_LISTBOX or ODT_COMBOBOX when owner-drawn, else 0
-        bool hasStrings;
-        bool sorted;
+        UINT ownerDrawnType;        // ODT_COMBOBOX when owner-drawn, else 0
         int errorSpaceNotification; // LBN_ERRSPACE or CBN_ERRSPACE
     };
 
@@ -28,19 +26,16 @@ public:
     LPARAM Data(int index) const { return m_items[static_cast<std::size_t>(index)].data; }
     void SetData(int index, LPARAM data) { m_items[static_cast<std::size_t>(index)].data = data; }
 
-    // The results are those of the messages: an index or count, or LB_ERR, LB_ERRSPACE.
-    int Add(Window& control, LPARAM textOrData);
-    int Insert(Window& control, int index, LPARAM textOrData);
-    int Remove(Window& control, WPARAM index);
+    // The results are those of the messages: an index, or LB_ERR, LB_ERRSPACE.
+    int Add(Window& control, LPARAM text);
     void Clear(Window& control);
 
-    // Copies a text (or the data of an item without one) and returns its length.
+    // Copies a text and returns its length.
     LRESULT CopyItem(WPARAM index, LPARAM target) const;
     LRESULT TextLength(WPARAM index) const;
 
-    // Searches after `start` and then from the beginning.
-    int FindPrefix(int start, LPARAM text) const;
-    int FindExact(int start, LPARAM text) const;
+    // The next item after the selection, and then from the beginning, whose text starts with a character; LB_ERR for
+    // none.
     int FindNext(char first) const;
 
 private:
@@ -50,9 +45,6 @@ private:
         LPARAM data = 0;
     };
 
-    template <class Predicate>
-    int FindAfter(int start, Predicate matches) const;
-    int SortedPosition(Window& control, LPARAM textOrData) const;
     void TellDeleted(Window& control, int index) const;
 
     Traits m_traits;

@@ -8,18 +8,13 @@ namespace
 {
 struct ListBoxState : ControlState
 {
-    explicit ListBoxState(const ItemList::Traits& traits) : items(traits) {}
-
-    ItemList items;
+    ItemList items{{0, LBN_ERRSPACE}};
     int top = 0;
     int itemHeight = 0;
-    int extent = 0;
     std::vector<int> tabs; // In dialog units.
     bool pressed = false;
     bool mayScroll = false; // Created with WS_VSCROLL; the style is set while the bar is there.
 };
-
-bool IsOwnerDrawn(const Window& list) { return (list.style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0; }
 
 ListBoxState& Of(Window& list) { return *StateOf<ListBoxState>(list); }
 
@@ -71,13 +66,6 @@ void Notify(const Window& list, int code)
         NotifyParent(list, code);
 }
 
-RECT ItemRect(Window& list, int index)
-{
-    const ListBoxState& state = Of(list);
-    const int top = (index - state.top) * state.itemHeight;
-    return {0, top, ClientRectOf(list).right, top + state.itemHeight};
-}
-
 // The item at a point of the client area, -1 beside the items.
 int ItemAt(Window& list, int y)
 {
@@ -90,7 +78,7 @@ int ItemAt(Window& list, int y)
 void AdjustHeight(Window& list)
 {
     const ListBoxState& state = Of(list);
-    if ((list.style & (LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWVARIABLE)) || state.itemHeight <= 0)
+    if ((list.style & LBS_NOINTEGRALHEIGHT) || state.itemHeight <= 0)
         return;
     const int height = ClientRectOf(list).bottom;
     const int rest = height % state.itemHeight;
@@ -101,26 +89,8 @@ void AdjustHeight(Window& list)
 
 void PaintOn(Window& list, HDC dc)
 {
-    ListBoxState& state = Of(list);
     SelectObject(dc, list.font);
     AskParentForColors(list, WM_CTLCOLORLISTBOX, dc);
-    if (!IsOwnerDrawn(list))
-        return;
-    const int last = std::min(state.items.Count(), state.top + VisibleItems(list, state));
-    for (int index = state.top; index < last && !list.dead; ++index)
-    {
-        DRAWITEMSTRUCT item{};
-        item.CtlType = ODT_LISTBOX;
-        item.itemID = static_cast<UINT>(index);
-        item.itemAction = ODA_DRAWENTIRE;
-        item.itemState = (index == state.items.Selection() ? ODS_SELECTED : 0u) |
-                         (list.handle == GetFocus() && index == state.items.Selection() ? ODS_FOCUS : 0u) |
-                         (list.style & WS_DISABLED ? ODS_DISABLED : 0u);
-        item.hDC = dc;
-        item.rcItem = ItemRect(list, index);
-        item.itemData = static_cast<ULONG_PTR>(state.items.Data(index));
-        DrawItem(list, item);
-    }
 }
 
 // Selects as the user does; notifies when `index` is an item.
@@ -210,40 +180,16 @@ LRESULT HandleMouse(Window& list, UINT message, LPARAM lParam)
     }
 }
 
-void SetItemHeight(Window& list)
-{
-    ListBoxState& state = Of(list);
-    if (!(list.style & LBS_OWNERDRAWFIXED) || state.itemHeight == 0)
-        state.itemHeight = MetricsOf(list.font).height;
-}
-
-void Measure(Window& list)
-{
-    MEASUREITEMSTRUCT measure{};
-    measure.CtlType = ODT_LISTBOX;
-    measure.CtlID = static_cast<UINT>(list.id);
-    measure.itemID = static_cast<UINT>(-1);
-    measure.itemHeight = static_cast<UINT>(Of(list).itemHeight);
-    Send(ParentOf(list), WM_MEASUREITEM, measure.CtlID, reinterpret_cast<LPARAM>(&measure));
-    if (measure.itemHeight)
-        Of(list).itemHeight = static_cast<int>(measure.itemHeight);
-}
+void SetItemHeight(Window& list) { Of(list).itemHeight = MetricsOf(list.font).height; }
 
 LRESULT Create(Window& list)
 {
-    constexpr DWORD kNot = LBS_MULTIPLESEL | LBS_EXTENDEDSEL | LBS_MULTICOLUMN | LBS_NODATA | LBS_WANTKEYBOARDINPUT |
-                           LBS_OWNERDRAWVARIABLE;
+    constexpr DWORD kNot = LBS_SORT | LBS_MULTIPLESEL | LBS_EXTENDEDSEL | LBS_MULTICOLUMN | LBS_NODATA |
+                           LBS_WANTKEYBOARDINPUT | LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE;
     if (list.style & kNot)
-        return NotModelled("list boxes with several selections or columns, no data or variable items", -1);
-    ItemList::Traits traits{};
-    traits.ownerDrawnType = IsOwnerDrawn(list) ? ODT_LISTBOX : 0;
-    traits.hasStrings = !traits.ownerDrawnType || (list.style & LBS_HASSTRINGS);
-    traits.sorted = (list.style & LBS_SORT) != 0;
-    traits.errorSpaceNotification = LBN_ERRSPACE;
-    list.control = std::make_unique<ListBoxState>(traits);
+        return NotModelled("list boxes that sort or draw their items or have several selections or columns", -1);
+    list.control = std::make_unique<ListBoxState>();
     SetItemHeight(list);
-    if (traits.ownerDrawnType)
-        Measure(list);
     AdjustHeight(list);
     Of(list).mayScroll = (list.style & WS_VSCROLL) != 0;
     UpdateScrollBar(list);
@@ -278,22 +224,13 @@ LRESULT HandleListMessage(Window& list, UINT message, WPARAM wParam, LPARAM lPar
 {
     ListBoxState& state = Of(list);
     ItemList& items = state.items;
-    const int start = static_cast<int>(wParam);
     switch (message)
     {
-    case LB_ADDSTRING:
-    case LB_INSERTSTRING: {
-        const LRESULT index =
-            message == LB_ADDSTRING ? items.Add(list, lParam) : items.Insert(list, static_cast<int>(wParam), lParam);
+    case LB_ADDSTRING: {
+        const LRESULT index = items.Add(list, lParam);
         UpdateScrollBar(list);
         Invalidate(list);
         return index;
-    }
-    case LB_DELETESTRING: {
-        const LRESULT left = items.Remove(list, wParam);
-        SetTop(list, state.top);
-        Invalidate(list);
-        return left;
     }
     case LB_RESETCONTENT:
         items.Clear(list);
@@ -305,10 +242,7 @@ LRESULT HandleListMessage(Window& list, UINT message, WPARAM wParam, LPARAM lPar
     case LB_SETCURSEL:
         return SetSelection(list, static_cast<int>(wParam));
     case LB_GETCURSEL:
-    case LB_GETCARETINDEX:
         return items.Selection();
-    case LB_GETSEL:
-        return items.IsIndex(wParam) ? static_cast<int>(wParam) == items.Selection() : LB_ERR;
     case LB_GETTEXT:
         return items.CopyItem(wParam, lParam);
     case LB_GETTEXTLEN:
@@ -320,48 +254,12 @@ LRESULT HandleListMessage(Window& list, UINT message, WPARAM wParam, LPARAM lPar
             return LB_ERR;
         items.SetData(static_cast<int>(wParam), lParam);
         return TRUE;
-    case LB_FINDSTRING:
-        return items.FindPrefix(start, lParam);
-    case LB_FINDSTRINGEXACT:
-        return items.FindExact(start, lParam);
-    case LB_SELECTSTRING: {
-        const int index = items.FindPrefix(start, lParam);
-        return index >= 0 ? SetSelection(list, index) : LB_ERR;
-    }
     case LB_GETTOPINDEX:
         return state.top;
-    case LB_SETTOPINDEX:
-        if (!items.IsIndex(wParam))
-            return LB_ERR;
-        SetTop(list, static_cast<int>(wParam));
-        return LB_OKAY;
     case LB_SETTABSTOPS:
         return SetTabs(list, wParam, reinterpret_cast<const int*>(lParam));
     case LB_GETITEMHEIGHT:
         return state.itemHeight;
-    case LB_SETITEMHEIGHT:
-        state.itemHeight = static_cast<int>(lParam);
-        return LB_OKAY;
-    case LB_GETITEMRECT:
-        *reinterpret_cast<RECT*>(lParam) = ItemRect(list, start);
-        return items.IsIndex(wParam) ? LB_OKAY : LB_ERR;
-    case LB_ITEMFROMPOINT: {
-        const int index = ItemAt(list, GET_Y_LPARAM(lParam));
-        return index >= 0 ? MAKELONG(index, 0) : MAKELONG(items.Count() - 1, 1);
-    }
-    case LB_SETHORIZONTALEXTENT:
-        state.extent = static_cast<int>(wParam);
-        return LB_OKAY;
-    case LB_GETHORIZONTALEXTENT:
-        return state.extent;
-    case LB_SETCARETINDEX:
-        return items.IsIndex(wParam) ? LB_OKAY : LB_ERR;
-    case LB_INITSTORAGE:
-        return items.Count() + static_cast<LRESULT>(wParam);
-    case LB_SETSEL:
-    case LB_GETSELCOUNT:
-    case LB_GETSELITEMS:
-        return LB_ERR; // Only lists with several selections answer these.
     default:
         Fail("not modelled: list box message 0x%04X", message);
         return LB_ERR;

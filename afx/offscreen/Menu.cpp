@@ -2,8 +2,6 @@
 
 #include "afx/offscreen/Internal.h"
 
-#include <cstring>
-
 namespace offscreen
 {
 namespace
@@ -11,7 +9,7 @@ namespace
 struct MenuItem
 {
     UINT flags = 0;
-    UINT_PTR id = 0; // Or the handle of the submenu
+    UINT_PTR id = 0;
     std::string text;
 };
 
@@ -22,12 +20,12 @@ struct Menu
 
 constexpr char kMenuClass[] = "#32768"; // The window of an open menu
 constexpr UINT MN_GETHMENU = 0x01E1;
+constexpr UINT kModelledFlags = MF_STRING | MF_SEPARATOR | MF_GRAYED | MF_DISABLED;
 
 struct MenuState
 {
     HandleTable<Menu> menus{4};
     bool tracking = false;
-    bool ended = false;
 };
 
 MenuState& State()
@@ -44,8 +42,6 @@ Menu* MenuOf(HMENU handle)
     return menu;
 }
 
-HMENU Make() { return State().menus.Add<HMENU>(std::make_unique<Menu>()); }
-
 MenuItem* ItemOf(HMENU handle, UINT id, UINT flags)
 {
     Menu* menu = MenuOf(handle);
@@ -54,72 +50,10 @@ MenuItem* ItemOf(HMENU handle, UINT id, UINT flags)
     if (flags & MF_BYPOSITION)
         return id < menu->items.size() ? &menu->items[id] : nullptr;
     for (MenuItem& item : menu->items)
-    {
-        if (!(item.flags & MF_POPUP) && item.id == id && !(item.flags & MF_SEPARATOR))
+        if (item.id == id && !(item.flags & MF_SEPARATOR))
             return &item;
-        if (item.flags & MF_POPUP)
-            if (MenuItem* found = ItemOf(reinterpret_cast<HMENU>(item.id), id, MF_BYCOMMAND))
-                return found;
-    }
     return nullptr;
 }
-
-MenuItem MakeItem(UINT flags, UINT_PTR id, LPCSTR text)
-{
-    const bool hasText = text && !(flags & (MF_SEPARATOR | MF_BITMAP | MF_OWNERDRAW));
-    return {flags & ~static_cast<UINT>(MF_BYPOSITION), id, hasText ? text : ""};
-}
-
-// ---------------------------------------------------------------------------------------------------------- templates
-
-class MenuReader
-{
-public:
-    explicit MenuReader(Bytes bytes) : m_bytes(bytes) {}
-
-    WORD Word()
-    {
-        WORD value = 0;
-        if (m_bytes.size < sizeof value)
-        {
-            m_bytes.size = 0;
-            m_failed = true;
-            return 0;
-        }
-        std::memcpy(&value, m_bytes.data, sizeof value);
-        m_bytes.data += sizeof value;
-        m_bytes.size -= sizeof value;
-        return value;
-    }
-
-    HMENU Read(int depth = 0)
-    {
-        constexpr WORD kLast = 0x0080;
-        const HMENU menu = Make();
-        WORD flags = 0;
-        do
-        {
-            flags = Word();
-            const bool popup = (flags & MF_POPUP) != 0;
-            const UINT_PTR id = popup ? 0 : Word();
-            std::u16string text;
-            while (const WORD c = Word())
-                text.push_back(static_cast<char16_t>(c));
-            if (m_failed || (popup && depth > 8))
-                break;
-            UINT itemFlags = flags & ~static_cast<UINT>(kLast);
-            if (!popup && id == 0 && text.empty())
-                itemFlags |= MF_SEPARATOR;
-            const UINT_PTR target = popup ? reinterpret_cast<UINT_PTR>(Read(depth + 1)) : id;
-            AppendMenuA(menu, itemFlags, target, ToAnsi(text).c_str());
-        } while (!(flags & kLast) && !m_failed);
-        return menu;
-    }
-
-private:
-    Bytes m_bytes;
-    bool m_failed = false;
-};
 
 // ----------------------------------------------------------------------------------------------------------- tracking
 
@@ -164,22 +98,19 @@ bool LeavesMenu(const MSG& msg)
 // Runs until an item is chosen (its id) or the menu is left (0).
 UINT_PTR Track(HMENU handle, HWND owner, HWND window)
 {
-    MenuState& state = State();
     int position = -1;
     MSG msg{};
-    while (!state.ended && Find(owner))
+    while (Find(owner))
     {
         if (!PeekMessageA(&msg, nullptr, 0, 0, PM_NOREMOVE))
             Send(owner, WM_ENTERIDLE, MSGF_MENU, reinterpret_cast<LPARAM>(window));
-        if (state.ended)
-            break;
         if (!GetMessageA(&msg, nullptr, 0, 0))
         {
             PostQuitMessage(static_cast<int>(msg.wParam));
             break;
         }
         const Menu* menu = MenuOf(handle);
-        if (!menu || CallMsgFilterA(&msg, MSGF_MENU))
+        if (!menu)
             continue;
         if (LeavesMenu(msg))
             break;
@@ -201,8 +132,6 @@ UINT_PTR Track(HMENU handle, HWND owner, HWND window)
         if (!menu || chosen < 0 || chosen >= static_cast<int>(menu->items.size()))
             continue;
         const MenuItem& item = menu->items[static_cast<std::size_t>(chosen)];
-        if (item.flags & MF_POPUP)
-            return NotModelled("submenus of a popup menu", UINT_PTR{0});
         if (CanChoose(item))
             return item.id;
     }
@@ -213,7 +142,7 @@ UINT_PTR Track(HMENU handle, HWND owner, HWND window)
 void ResetMenus()
 {
     State().menus.Clear();
-    State().tracking = State().ended = false;
+    State().tracking = false;
 }
 
 int CountMenus() { return State().menus.Count(); }
@@ -221,77 +150,32 @@ int CountMenus() { return State().menus.Count(); }
 
 using namespace offscreen;
 
-HMENU CreateMenu()
+HMENU CreatePopupMenu()
 {
     Inside inside;
-    return Make();
+    return State().menus.Add<HMENU>(std::make_unique<Menu>());
 }
-
-HMENU CreatePopupMenu() { return CreateMenu(); }
 
 BOOL DestroyMenu(HMENU handle)
 {
     Inside inside;
-    const std::unique_ptr<Menu> menu = State().menus.Remove(handle);
-    if (!menu)
-    {
-        SetLastError(ERROR_INVALID_MENU_HANDLE);
-        return FALSE;
-    }
-    for (const MenuItem& item : menu->items)
-        if (item.flags & MF_POPUP)
-            DestroyMenu(reinterpret_cast<HMENU>(item.id));
-    return TRUE;
+    if (State().menus.Remove(handle))
+        return TRUE;
+    SetLastError(ERROR_INVALID_MENU_HANDLE);
+    return FALSE;
 }
 
 BOOL IsMenu(HMENU handle) { return State().menus.Find(handle) != nullptr; }
 
 BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
 {
-    return InsertMenuA(handle, static_cast<UINT>(-1), flags | MF_BYPOSITION, id, text);
-}
-
-BOOL InsertMenuA(HMENU handle, UINT position, UINT flags, UINT_PTR id, LPCSTR text)
-{
     Inside inside;
     Menu* menu = MenuOf(handle);
     if (!menu)
         return FALSE;
-    std::size_t at = std::min<std::size_t>(position, menu->items.size());
-    if (!(flags & MF_BYPOSITION))
-    {
-        const auto it = std::find_if(menu->items.begin(), menu->items.end(),
-                                     [=](const MenuItem& item) { return item.id == position; });
-        if (it == menu->items.end())
-            return FALSE;
-        at = static_cast<std::size_t>(it - menu->items.begin());
-    }
-    menu->items.insert(menu->items.begin() + static_cast<std::ptrdiff_t>(at), MakeItem(flags, id, text));
-    return TRUE;
-}
-
-BOOL ModifyMenuA(HMENU handle, UINT position, UINT flags, UINT_PTR id, LPCSTR text)
-{
-    Inside inside;
-    MenuItem* item = ItemOf(handle, position, flags);
-    if (!item)
-        return FALSE;
-    *item = MakeItem(flags, id, text);
-    return TRUE;
-}
-
-BOOL DeleteMenu(HMENU handle, UINT position, UINT flags)
-{
-    Inside inside;
-    Menu* menu = MenuOf(handle);
-    const MenuItem* item = ItemOf(handle, position, flags);
-    if (!menu || !item)
-        return FALSE;
-    if (item < menu->items.data() || item >= menu->items.data() + menu->items.size())
-        return NotModelled("DeleteMenu in a submenu", FALSE);
-    if (item->flags & MF_POPUP)
-        DestroyMenu(reinterpret_cast<HMENU>(item->id));
-    menu->items.erase(menu->items.begin() + (item - menu->items.data()));
+    if (flags & ~kModelledFlags)
+        return NotModelled("menu items with these flags", FALSE);
+    menu->items.push_back({flags, id, text && !(flags & MF_SEPARATOR) ? text : ""});
     return TRUE;
 }
 
@@ -307,17 +191,6 @@ BOOL EnableMenuItem(HMENU handle, UINT id, UINT flags)
     return static_cast<BOOL>(before);
 }
 
-DWORD CheckMenuItem(HMENU handle, UINT id, UINT flags)
-{
-    Inside inside;
-    MenuItem* item = ItemOf(handle, id, flags);
-    if (!item)
-        return static_cast<DWORD>(-1);
-    const UINT before = item->flags & MF_CHECKED;
-    item->flags = (item->flags & ~MF_CHECKED) | (flags & MF_CHECKED);
-    return before;
-}
-
 int GetMenuItemCount(HMENU handle)
 {
     Inside inside;
@@ -329,7 +202,7 @@ UINT GetMenuItemID(HMENU handle, int position)
 {
     Inside inside;
     const MenuItem* item = ItemOf(handle, static_cast<UINT>(position), MF_BYPOSITION);
-    return !item || (item->flags & MF_POPUP) ? static_cast<UINT>(-1) : static_cast<UINT>(item->id);
+    return item ? static_cast<UINT>(item->id) : static_cast<UINT>(-1);
 }
 
 UINT GetMenuState(HMENU handle, UINT id, UINT flags)
@@ -350,28 +223,6 @@ int GetMenuStringA(HMENU handle, UINT id, LPSTR text, int size, UINT flags)
     return CopyText(item->text, text, static_cast<std::size_t>(size));
 }
 
-HMENU GetSubMenu(HMENU handle, int position)
-{
-    Inside inside;
-    const MenuItem* item = ItemOf(handle, static_cast<UINT>(position), MF_BYPOSITION);
-    return item && (item->flags & MF_POPUP) ? reinterpret_cast<HMENU>(item->id) : nullptr;
-}
-
-HMENU LoadMenuA(HINSTANCE instance, LPCSTR name)
-{
-    Inside inside;
-    const Bytes bytes = FindResourceBytes(instance, name, RT_MENU);
-    if (!bytes.data)
-        return nullptr;
-    MenuReader reader(bytes);
-    const WORD version = reader.Word();
-    if (version != 0)
-        return NotModelled("extended menu templates", HMENU{});
-    for (WORD skip = reader.Word(); skip >= 2; skip = static_cast<WORD>(skip - 2))
-        reader.Word();
-    return reader.Read();
-}
-
 BOOL TrackPopupMenu(HMENU handle, UINT flags, int x, int y, int, HWND owner, const RECT*)
 {
     Inside inside;
@@ -379,9 +230,8 @@ BOOL TrackPopupMenu(HMENU handle, UINT flags, int x, int y, int, HWND owner, con
     if (!MenuOf(handle) || !Lookup(owner) || state.tracking)
         return FALSE;
     if (!FindClass(kMenuClass))
-        RegisterBuiltIn(kMenuClass, MenuWindowProc, CS_DBLCLKS, 0, 0x8000);
+        RegisterBuiltIn(kMenuClass, MenuWindowProc, 0, 0x8000);
     state.tracking = true;
-    state.ended = false;
     const bool notify = !(flags & TPM_NONOTIFY);
     if (notify)
     {
@@ -409,11 +259,4 @@ BOOL TrackPopupMenu(HMENU handle, UINT flags, int x, int y, int, HWND owner, con
     if (chosen && notify)
         PostMessageA(owner, WM_COMMAND, MAKEWPARAM(chosen, 0), 0);
     return TRUE;
-}
-
-BOOL EndMenu()
-{
-    MenuState& state = State();
-    state.ended = state.tracking;
-    return state.tracking;
 }

@@ -123,25 +123,12 @@ int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type)
     if (owner && !Lookup(owner))
         return 0;
     const std::vector<Button> buttons = ButtonsOf(type);
-    if (buttons.empty() || (type & MB_HELP))
-        return NotModelled("MessageBox with these buttons", 0);
+    if (buttons.empty() || (type & (MB_HELP | MB_TASKMODAL)))
+        return NotModelled("MessageBox with this type", 0);
     MessageBeep(type & MB_ICONMASK);
 
-    std::vector<HWND> disabled;
-    if (!owner && (type & MB_TASKMODAL))
-    {
-        for (const Window* window = DesktopWindow().firstChild; window; window = window->next)
-            if ((window->style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE)
-                disabled.push_back(window->handle);
-        for (HWND window : disabled)
-            EnableWindow(window, FALSE);
-    }
     const UINT defaultButton = std::min<UINT>((type & MB_DEFMASK) >> 8, static_cast<UINT>(buttons.size()) - 1);
     const HWND box = CreateDialogFrom(BoxTemplate(text, caption, type, buttons), nullptr, owner, BoxProc,
                                       MAKELPARAM(buttons[defaultButton].id, type & MB_ICONMASK), true);
-    const INT_PTR result = box ? RunModal(box, owner) : 0;
-    for (HWND window : disabled)
-        if (Find(window))
-            EnableWindow(window, TRUE);
-    return static_cast<int>(result);
+    return box ? static_cast<int>(RunModal(box, owner)) : 0;
 }

@@ -1,9 +1,8 @@
-// Sending, posting and fetching messages, timers and hooks.
+// Sending, posting and fetching messages, and timers.
 
 #include "afx/offscreen/Internal.h"
 
 #include <chrono>
-#include <list>
 
 namespace offscreen
 {
@@ -18,13 +17,6 @@ struct Timer
     TIMERPROC callback;
 };
 
-struct Hook
-{
-    int kind;
-    HOOKPROC procedure;
-    HHOOK handle;
-};
-
 struct MessageState
 {
     std::deque<MSG> queue;
@@ -33,12 +25,7 @@ struct MessageState
     bool hanging = false;
     std::vector<Timer> timers;
     UINT_PTR nextTimer = 0x7FFF;
-    std::list<Hook> hooks; // The newest first.
-    std::uintptr_t nextHook = 0;
-    std::vector<HHOOK> running; // Innermost last.
     DWORD skippedTime = 0;
-    DWORD lastTime = 0;
-    std::vector<std::string> registered;
 };
 
 MessageState& State()
@@ -63,7 +50,6 @@ MSG MakeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     msg.wParam = wParam;
     msg.lParam = lParam;
     msg.time = Now();
-    msg.pt = Input().cursor;
     return msg;
 }
 
@@ -142,12 +128,8 @@ bool TakeTimer(MSG& msg, HWND window, UINT first, UINT last, bool skipWaiting, b
 
 bool Take(MSG& msg, HWND window, UINT first, UINT last, bool remove, bool waiting)
 {
-    if (!TakePosted(msg, window, first, last, remove) && !TakeQuit(msg, remove) &&
-        !TakePaint(msg, window, first, last) && !TakeTimer(msg, window, first, last, waiting, remove))
-        return false;
-    State().lastTime = msg.time;
-    RunHooks(WH_GETMESSAGE, HC_ACTION, remove ? PM_REMOVE : PM_NOREMOVE, reinterpret_cast<LPARAM>(&msg));
-    return true;
+    return TakePosted(msg, window, first, last, remove) || TakeQuit(msg, remove) ||
+           TakePaint(msg, window, first, last) || TakeTimer(msg, window, first, last, waiting, remove);
 }
 
 bool Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -228,39 +210,7 @@ LRESULT CallProc(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LP
 LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const Window* found = Find(window);
-    if (!found)
-        return 0;
-    if (!State().hooks.empty())
-    {
-        CWPSTRUCT data{lParam, wParam, message, window};
-        RunHooks(WH_CALLWNDPROC, HC_ACTION, 0, reinterpret_cast<LPARAM>(&data));
-        found = Find(window);
-        if (!found)
-            return 0;
-    }
-    return CallProc(found->procedure, window, message, wParam, lParam);
-}
-
-bool RunHooks(int kind, int code, WPARAM wParam, LPARAM lParam, LRESULT* result)
-{
-    MessageState& state = State();
-    for (const Hook& hook : state.hooks)
-    {
-        if (hook.kind != kind)
-            continue;
-        const HOOKPROC procedure = hook.procedure;
-        state.running.push_back(hook.handle);
-        LRESULT answer = 0;
-        {
-            Outside outside;
-            answer = procedure(code, wParam, lParam);
-        }
-        state.running.pop_back();
-        if (result)
-            *result = answer;
-        return true;
-    }
-    return false;
+    return found ? CallProc(found->procedure, window, message, wParam, lParam) : 0;
 }
 
 void ForgetMessages(HWND window)
@@ -282,7 +232,6 @@ void ReportHang(const char* where)
 void ResetMessages() { State() = MessageState{}; }
 
 int CountTimers() { return static_cast<int>(State().timers.size()); }
-int CountHooks() { return static_cast<int>(State().hooks.size()); }
 std::size_t QueuedMessages() { return State().queue.size(); }
 } // namespace offscreen
 
@@ -312,12 +261,6 @@ BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     return Post(window, message, wParam, lParam);
 }
 
-BOOL PostThreadMessageA(DWORD threadId, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    Inside inside;
-    return threadId == GetCurrentThreadId() && Post(nullptr, message, wParam, lParam);
-}
-
 void PostQuitMessage(int exitCode)
 {
     State().quitting = true;
@@ -342,15 +285,6 @@ BOOL PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove
     return Take(*message, window, first, last, (remove & PM_REMOVE) != 0, false);
 }
 
-BOOL WaitMessage()
-{
-    Inside inside;
-    MSG msg{};
-    if (!Take(msg, nullptr, 0, 0, false, true))
-        ReportHang("WaitMessage");
-    return TRUE;
-}
-
 BOOL TranslateMessage(const MSG* message)
 {
     Inside inside;
@@ -369,7 +303,7 @@ LRESULT DispatchMessageA(const MSG* message)
     {
         const auto callback = reinterpret_cast<TIMERPROC>(message->lParam);
         Outside outside;
-        callback(message->hwnd, WM_TIMER, message->wParam, GetTickCount());
+        callback(message->hwnd, WM_TIMER, message->wParam, Now());
         return 0;
     }
     if (!message->hwnd)
@@ -384,29 +318,6 @@ LRESULT DispatchMessageA(const MSG* message)
     if (message->message == WM_PAINT && !found->dead && found->needsPaint)
         ForgetPaint(*found);
     return result;
-}
-
-BOOL CallMsgFilterA(LPMSG message, int code)
-{
-    Inside inside;
-    LRESULT result = 0;
-    return RunHooks(WH_MSGFILTER, code, 0, reinterpret_cast<LPARAM>(message), &result) && result != 0;
-}
-
-BOOL InSendMessage() { return FALSE; }
-BOOL ReplyMessage(LRESULT) { return FALSE; }
-LPARAM GetMessageExtraInfo() { return 0; }
-DWORD GetMessagePos() { return static_cast<DWORD>(MAKELONG(Input().cursor.x, Input().cursor.y)); }
-LONG GetMessageTime() { return static_cast<LONG>(State().lastTime); }
-
-UINT RegisterWindowMessageA(LPCSTR name)
-{
-    Inside inside;
-    auto& registered = State().registered;
-    auto it = std::find(registered.begin(), registered.end(), name);
-    if (it == registered.end())
-        it = registered.insert(registered.end(), name);
-    return static_cast<UINT>(0xC000 + (it - registered.begin()));
 }
 
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callback)
@@ -437,55 +348,3 @@ BOOL KillTimer(HWND window, UINT_PTR id)
                   [=](const MSG& msg) { return msg.message == WM_TIMER && msg.hwnd == window && msg.wParam == id; });
     return gone > 0;
 }
-
-HHOOK SetWindowsHookExA(int kind, HOOKPROC procedure, HINSTANCE, DWORD threadId)
-{
-    Inside inside;
-    if (kind != WH_CBT && kind != WH_GETMESSAGE && kind != WH_MSGFILTER && kind != WH_CALLWNDPROC)
-        return NotModelled("SetWindowsHookEx of this kind", HHOOK{});
-    if (threadId && threadId != GetCurrentThreadId())
-        return nullptr;
-    MessageState& state = State();
-    const auto handle = reinterpret_cast<HHOOK>(0x700000 + ++state.nextHook);
-    state.hooks.push_front({kind, procedure, handle});
-    return handle;
-}
-
-BOOL UnhookWindowsHookEx(HHOOK hook)
-{
-    Inside inside;
-    auto& hooks = State().hooks;
-    const auto it = std::find_if(hooks.begin(), hooks.end(), [=](const Hook& h) { return h.handle == hook; });
-    if (it == hooks.end())
-        return FALSE;
-    hooks.erase(it);
-    return TRUE;
-}
-
-LRESULT CallNextHookEx(HHOOK, int code, WPARAM wParam, LPARAM lParam)
-{
-    Inside inside;
-    MessageState& state = State();
-    if (state.running.empty())
-        return 0;
-    const HHOOK current = state.running.back();
-    auto it = std::find_if(state.hooks.begin(), state.hooks.end(), [=](const Hook& h) { return h.handle == current; });
-    if (it == state.hooks.end())
-        return 0;
-    const int kind = it->kind;
-    it = std::find_if(std::next(it), state.hooks.end(), [=](const Hook& h) { return h.kind == kind; });
-    if (it == state.hooks.end())
-        return 0;
-    const HOOKPROC procedure = it->procedure;
-    state.running.push_back(it->handle);
-    LRESULT result = 0;
-    {
-        Outside outside;
-        result = procedure(code, wParam, lParam);
-    }
-    state.running.pop_back();
-    return result;
-}
-
-DWORD GetTickCount() { return Now(); }
-UINT GetDoubleClickTime() { return 500; }

@@ -140,37 +140,6 @@ BOOL UpdateWindow(HWND window)
     return TRUE;
 }
 
-BOOL RedrawWindow(HWND window, const RECT*, HRGN, UINT flags)
-{
-    Inside inside;
-    Window* found = window ? Lookup(window) : &DesktopWindow();
-    if (!found)
-        return FALSE;
-    const bool children = (flags & RDW_ALLCHILDREN) || (!(flags & RDW_NOCHILDREN) && !(found->style & WS_CLIPCHILDREN));
-    if (flags & (RDW_INVALIDATE | RDW_INTERNALPAINT))
-    {
-        if (children)
-            InvalidateTree(*found);
-        else
-            Invalidate(*found);
-    }
-    if (flags & RDW_VALIDATE)
-        ForgetPaint(*found);
-    if (flags & RDW_UPDATENOW)
-        PaintTree(*found, !(flags & RDW_NOCHILDREN));
-    return TRUE;
-}
-
-BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL)
-{
-    Inside inside;
-    const Window* found = Lookup(window);
-    const bool dirty = found && found->needsPaint;
-    if (rect)
-        *rect = dirty ? ClientRectOf(*found) : RECT{};
-    return dirty;
-}
-
 HDC BeginPaint(HWND window, LPPAINTSTRUCT paint)
 {
     Inside inside;

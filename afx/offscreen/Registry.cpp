@@ -86,8 +86,6 @@ LSTATUS RegOpenKeyExA(HKEY key, LPCSTR subKey, DWORD, REGSAM, PHKEY result)
     return ERROR_SUCCESS;
 }
 
-LSTATUS RegOpenKeyA(HKEY key, LPCSTR subKey, PHKEY result) { return RegOpenKeyExA(key, subKey, 0, KEY_READ, result); }
-
 LSTATUS RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD, LPDWORD type, LPBYTE data, LPDWORD size)
 {
     Inside inside;
@@ -113,20 +111,6 @@ LSTATUS RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD, LPDWORD type, LPBYTE da
         return ERROR_MORE_DATA;
     std::memcpy(data, text.c_str(), needed);
     return ERROR_SUCCESS;
-}
-
-LSTATUS RegQueryValueA(HKEY key, LPCSTR subKey, LPSTR data, LONG* size)
-{
-    HKEY opened = nullptr;
-    LSTATUS status = RegOpenKeyExA(key, subKey, 0, KEY_READ, &opened);
-    if (status != ERROR_SUCCESS)
-        return status;
-    DWORD room = size ? static_cast<DWORD>(*size) : 0;
-    status = RegQueryValueExA(opened, nullptr, nullptr, nullptr, reinterpret_cast<LPBYTE>(data), &room);
-    if (size)
-        *size = static_cast<LONG>(room);
-    RegCloseKey(opened);
-    return status;
 }
 
 LSTATUS RegCloseKey(HKEY key)

@@ -243,8 +243,6 @@ HMODULE LoadLibraryA(LPCSTR path)
     return LoadFile(path);
 }
 
-HMODULE LoadLibraryExA(LPCSTR path, HANDLE, DWORD) { return LoadLibraryA(path); }
-
 BOOL FreeLibrary(HMODULE handle)
 {
     Inside inside;
@@ -304,8 +302,6 @@ HRSRC FindResourceA(HMODULE handle, LPCSTR name, LPCSTR type)
     return reinterpret_cast<HRSRC>(const_cast<BYTE*>(entry));
 }
 
-HRSRC FindResourceExA(HMODULE module, LPCSTR type, LPCSTR name, WORD) { return FindResourceA(module, name, type); }
-
 HGLOBAL LoadResource(HMODULE handle, HRSRC resource)
 {
     Inside inside;
@@ -316,16 +312,6 @@ HGLOBAL LoadResource(HMODULE handle, HRSRC resource)
 }
 
 LPVOID LockResource(HGLOBAL data) { return data; }
-BOOL FreeResource(HGLOBAL) { return FALSE; } // Nothing to free; the real one answers so too.
-
-DWORD SizeofResource(HMODULE handle, HRSRC resource)
-{
-    Inside inside;
-    const Module* module = ModuleOf(handle);
-    if (!module || !resource)
-        return 0;
-    return static_cast<DWORD>(module->image.DataOf(reinterpret_cast<const BYTE*>(resource)).size);
-}
 
 int LoadStringA(HINSTANCE instance, UINT id, LPSTR text, int size)
 {

@@ -125,6 +125,17 @@ void HandleClick(Window& bar, LPARAM lParam)
         ScrollParent(bar, SB_ENDSCROLL);
 }
 
+// Shows or hides the bar at an edge of a window, which thereby gets another client area.
+void ShowBar(Window& window, int bar, bool show)
+{
+    const DWORD bit = bar == SB_VERT ? WS_VSCROLL : WS_HSCROLL;
+    if (((window.style & bit) != 0) == show)
+        return;
+    window.style ^= bit;
+    const RECT client = ClientRectOf(window);
+    Send(window.handle, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.right, client.bottom));
+}
+
 SCROLLINFO Info(UINT mask, int low, int high, int position)
 {
     SCROLLINFO info{};
@@ -178,25 +189,12 @@ LRESULT CALLBACK ScrollBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM 
         EndPaint(handle, &paint);
         return 0;
     }
-    case SBM_SETPOS:
-        return SetScrollPos(handle, SB_CTL, static_cast<int>(wParam), static_cast<BOOL>(lParam));
-    case SBM_GETPOS:
-        return GetScrollPos(handle, SB_CTL);
-    case SBM_SETRANGE:
-    case SBM_SETRANGEREDRAW: {
-        const int before = GetScrollPos(handle, SB_CTL);
-        SetScrollRange(handle, SB_CTL, static_cast<int>(wParam), static_cast<int>(lParam), FALSE);
-        return before != GetScrollPos(handle, SB_CTL) ? before : 0;
-    }
-    case SBM_GETRANGE:
-        return GetScrollRange(handle, SB_CTL, reinterpret_cast<LPINT>(wParam), reinterpret_cast<LPINT>(lParam));
-    case SBM_SETSCROLLINFO:
-        return SetScrollInfo(handle, SB_CTL, reinterpret_cast<LPCSCROLLINFO>(lParam), static_cast<BOOL>(wParam));
-    case SBM_GETSCROLLINFO:
-        return GetScrollInfo(handle, SB_CTL, reinterpret_cast<LPSCROLLINFO>(lParam));
-    case SBM_ENABLE_ARROWS:
-        return EnableScrollBar(handle, SB_CTL, static_cast<UINT>(wParam));
     default:
+        if (message >= SBM_SETPOS && message <= SBM_GETSCROLLINFO)
+        {
+            Fail("not modelled: scroll bar message 0x%04X", message);
+            return 0;
+        }
         return DefWindowProcA(handle, message, wParam, lParam);
     }
 }
@@ -216,7 +214,7 @@ int SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw)
         Invalidate(*found);
     // A bar at the edge of a window is there only while there is something to scroll.
     if (bar != SB_CTL && (info->fMask & (SIF_RANGE | SIF_PAGE)) && !(info->fMask & SIF_DISABLENOSCROLL))
-        ShowScrollBar(window, bar, LargestPosition(*scroll) > scroll->low);
+        ShowBar(*found, bar, LargestPosition(*scroll) > scroll->low);
     return position;
 }
 
@@ -249,52 +247,4 @@ BOOL SetScrollRange(HWND window, int bar, int low, int high, BOOL redraw)
     const SCROLLINFO info = Info(SIF_RANGE, low, high, 0);
     SetScrollInfo(window, bar, &info, redraw);
     return IsWindow(window);
-}
-
-BOOL GetScrollRange(HWND window, int bar, LPINT low, LPINT high)
-{
-    Inside inside;
-    Window* found = Lookup(window);
-    const ScrollState* scroll = found ? ScrollOf(*found, bar) : nullptr;
-    *low = scroll ? scroll->low : 0;
-    *high = scroll ? scroll->high : 0;
-    return scroll != nullptr;
-}
-
-BOOL EnableScrollBar(HWND window, UINT bar, UINT arrows)
-{
-    Inside inside;
-    Window* found = Lookup(window);
-    ScrollState* scroll = found ? ScrollOf(*found, static_cast<int>(bar)) : nullptr;
-    if (!scroll)
-        return FALSE;
-    const bool enable = arrows != ESB_DISABLE_BOTH;
-    if (scroll->enabled == enable)
-        return FALSE;
-    scroll->enabled = enable;
-    if (bar == SB_CTL)
-        EnableWindow(window, enable);
-    return TRUE;
-}
-
-BOOL ShowScrollBar(HWND window, int bar, BOOL show)
-{
-    Inside inside;
-    Window* found = Lookup(window);
-    if (!found)
-        return FALSE;
-    if (bar == SB_CTL)
-    {
-        ShowWindow(window, show ? SW_SHOW : SW_HIDE);
-        return TRUE;
-    }
-    const DWORD bits = (bar != SB_VERT ? WS_HSCROLL : 0) | (bar != SB_HORZ ? WS_VSCROLL : 0);
-    const DWORD before = found->style;
-    found->style = show ? before | bits : before & ~bits;
-    if (found->style != before)
-    {
-        const RECT client = ClientRectOf(*found);
-        Send(window, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.right, client.bottom));
-    }
-    return TRUE;
 }

@@ -1,4 +1,4 @@
-// The standard class "Static": texts, frames, rectangles, images.
+// The standard class "Static": texts, icons, and what the dialog draws itself.
 
 #include "afx/offscreen/Internal.h"
 
@@ -8,7 +8,7 @@ namespace
 {
 struct StaticState : ControlState
 {
-    HANDLE image = nullptr;
+    HANDLE icon = nullptr;
 };
 
 void PaintOn(Window& control, HDC dc)
@@ -29,17 +29,15 @@ void PaintOn(Window& control, HDC dc)
     AskParentForColors(control, WM_CTLCOLORSTATIC, dc);
 }
 
-bool HasText(const Window& control)
+bool IsIcon(const Window& control) { return (control.style & SS_TYPEMASK) == SS_ICON; }
+
+LRESULT Create(Window& control)
 {
-    switch (control.style & SS_TYPEMASK)
-    {
-    case SS_ICON:
-    case SS_BITMAP:
-    case SS_ENHMETAFILE:
-        return false;
-    default:
-        return true;
-    }
+    const DWORD kind = control.style & SS_TYPEMASK;
+    if (kind == SS_BITMAP || kind == SS_ENHMETAFILE)
+        return NotModelled("pictures other than icons", -1);
+    control.control = std::make_unique<StaticState>();
+    return 0;
 }
 } // namespace
 
@@ -56,12 +54,11 @@ LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
     switch (message)
     {
     case WM_CREATE:
-        control.control = std::make_unique<StaticState>();
-        return 0;
+        return Create(control);
     case WM_GETDLGCODE:
         return DLGC_STATIC;
     case WM_SETFONT:
-        if (!HasText(control))
+        if (IsIcon(control))
             return 0;
         control.font = reinterpret_cast<HFONT>(wParam);
         if (LOWORD(lParam))
@@ -84,9 +81,6 @@ LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
             EndPaint(handle, &paint);
         return 0;
     }
-    case WM_PRINTCLIENT:
-        PaintOn(control, reinterpret_cast<HDC>(wParam));
-        return 0;
     case WM_NCHITTEST:
         return control.style & SS_NOTIFY ? HTCLIENT : HTTRANSPARENT;
     case WM_LBUTTONDOWN:
@@ -97,15 +91,13 @@ LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
         if (control.style & SS_NOTIFY)
             NotifyParent(control, STN_DBLCLK);
         return 0;
-    case STM_SETIMAGE:
     case STM_SETICON:
-        if (!state)
-            return 0;
-        return reinterpret_cast<LRESULT>(
-            std::exchange(state->image, reinterpret_cast<HANDLE>(message == STM_SETICON ? wParam : lParam)));
-    case STM_GETIMAGE:
+        return state ? reinterpret_cast<LRESULT>(std::exchange(state->icon, reinterpret_cast<HANDLE>(wParam))) : 0;
     case STM_GETICON:
-        return state ? reinterpret_cast<LRESULT>(state->image) : 0;
+        return state ? reinterpret_cast<LRESULT>(state->icon) : 0;
+    case STM_SETIMAGE:
+    case STM_GETIMAGE:
+        return NotModelled("pictures other than icons", 0);
     default:
         return DefWindowProcA(handle, message, wParam, lParam);
     }

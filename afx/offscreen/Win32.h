@@ -10,19 +10,9 @@
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the system's names
 
-#ifndef __int64
-#define __int64 long long
-#endif
-
 #define WINAPI
 #define CALLBACK
-#define APIENTRY
 #define PASCAL
-#define CONST const
-#define FAR
-#define NEAR
-#define WINUSERAPI
-#define DECLSPEC_IMPORT
 
 #ifndef TRUE
 #define TRUE 1
@@ -40,18 +30,14 @@ typedef std::uint8_t BYTE;
 typedef std::uint16_t WORD;
 typedef std::uint32_t DWORD;
 typedef char CHAR;
-typedef unsigned char UCHAR;
 typedef std::int16_t SHORT;
-typedef std::uint16_t USHORT;
 typedef int INT;
 typedef unsigned int UINT;
 typedef std::int32_t LONG;
 typedef std::uint32_t ULONG;
 typedef long long LONGLONG;
 typedef unsigned long long ULONGLONG;
-typedef float FLOAT;
 typedef char16_t WCHAR;
-typedef void VOID;
 
 typedef std::intptr_t INT_PTR;
 typedef std::uintptr_t UINT_PTR;
@@ -65,43 +51,21 @@ typedef LONG_PTR LPARAM;
 typedef LONG_PTR LRESULT;
 typedef WORD ATOM;
 typedef DWORD COLORREF;
-typedef LONG HRESULT;
-typedef WORD LANGID;
-typedef DWORD LCID;
 typedef DWORD ACCESS_MASK;
 typedef ACCESS_MASK REGSAM;
 typedef LONG LSTATUS;
 
 typedef CHAR* LPSTR;
-typedef CHAR* PSTR;
 typedef const CHAR* LPCSTR;
-typedef const CHAR* PCSTR;
-typedef WCHAR* LPWSTR;
-typedef const WCHAR* LPCWSTR;
-typedef CHAR TCHAR;
-typedef LPSTR LPTSTR;
-typedef LPCSTR LPCTSTR;
 typedef BYTE* LPBYTE;
 typedef BYTE* PBYTE;
-typedef WORD* LPWORD;
-typedef WORD* PWORD;
 typedef DWORD* LPDWORD;
-typedef DWORD* PDWORD;
-typedef BOOL* LPBOOL;
-typedef BOOL* PBOOL;
 typedef INT* LPINT;
-typedef LONG* LPLONG;
-typedef UINT* PUINT;
 typedef void* LPVOID;
-typedef void* PVOID;
-typedef const void* LPCVOID;
-typedef COLORREF* LPCOLORREF;
 
 typedef void* HANDLE;
-typedef HANDLE* LPHANDLE;
 typedef void* HGDIOBJ;
 typedef HANDLE HGLOBAL;
-typedef HANDLE HLOCAL;
 
 #define DECLARE_HANDLE(name)                                                                                           \
     struct name##__                                                                                                    \
@@ -116,15 +80,10 @@ DECLARE_HANDLE(HDC);
 DECLARE_HANDLE(HFONT);
 DECLARE_HANDLE(HBRUSH);
 DECLARE_HANDLE(HPEN);
-DECLARE_HANDLE(HBITMAP);
-DECLARE_HANDLE(HRGN);
 DECLARE_HANDLE(HMENU);
 DECLARE_HANDLE(HICON);
-DECLARE_HANDLE(HACCEL);
 DECLARE_HANDLE(HRSRC);
 DECLARE_HANDLE(HKEY);
-DECLARE_HANDLE(HHOOK);
-DECLARE_HANDLE(HDWP);
 typedef HINSTANCE HMODULE;
 typedef HICON HCURSOR;
 typedef HKEY* PHKEY;
@@ -134,7 +93,6 @@ typedef LRESULT(CALLBACK* WNDPROC)(HWND, UINT, WPARAM, LPARAM);
 typedef INT_PTR(CALLBACK* DLGPROC)(HWND, UINT, WPARAM, LPARAM);
 typedef void(CALLBACK* TIMERPROC)(HWND, UINT, UINT_PTR, DWORD);
 typedef BOOL(CALLBACK* WNDENUMPROC)(HWND, LPARAM);
-typedef LRESULT(CALLBACK* HOOKPROC)(int code, WPARAM, LPARAM);
 
 struct RECT
 {
@@ -144,7 +102,6 @@ struct RECT
     LONG bottom;
 };
 typedef RECT* LPRECT;
-typedef RECT* PRECT;
 typedef const RECT* LPCRECT;
 
 struct POINT
@@ -153,7 +110,6 @@ struct POINT
     LONG y;
 };
 typedef POINT* LPPOINT;
-typedef POINT* PPOINT;
 
 struct SIZE
 {
@@ -161,7 +117,6 @@ struct SIZE
     LONG cy;
 };
 typedef SIZE* LPSIZE;
-typedef SIZE* PSIZE;
 
 struct MSG
 {
@@ -173,7 +128,6 @@ struct MSG
     POINT pt;
 };
 typedef MSG* LPMSG;
-typedef MSG* PMSG;
 
 struct LOGFONTA
 {
@@ -193,8 +147,6 @@ struct LOGFONTA
     CHAR lfFaceName[32];
 };
 typedef LOGFONTA LOGFONT;
-typedef LOGFONTA* LPLOGFONTA;
-typedef LOGFONTA* LPLOGFONT;
 
 struct TEXTMETRICA
 {
@@ -219,33 +171,13 @@ struct TEXTMETRICA
     BYTE tmPitchAndFamily;
     BYTE tmCharSet;
 };
-typedef TEXTMETRICA TEXTMETRIC;
 typedef TEXTMETRICA* LPTEXTMETRICA;
-typedef TEXTMETRICA* LPTEXTMETRIC;
 
 struct LOGBRUSH
 {
     UINT lbStyle;
     COLORREF lbColor;
     ULONG_PTR lbHatch;
-};
-
-struct LOGPEN
-{
-    UINT lopnStyle;
-    POINT lopnWidth;
-    COLORREF lopnColor;
-};
-
-struct BITMAP
-{
-    LONG bmType;
-    LONG bmWidth;
-    LONG bmHeight;
-    LONG bmWidthBytes;
-    WORD bmPlanes;
-    WORD bmBitsPixel;
-    LPVOID bmBits;
 };
 
 struct PAINTSTRUCT
@@ -272,25 +204,6 @@ struct WNDCLASSA
     LPCSTR lpszMenuName;
     LPCSTR lpszClassName;
 };
-typedef WNDCLASSA WNDCLASS;
-typedef WNDCLASSA* LPWNDCLASSA;
-
-struct WNDCLASSEXA
-{
-    UINT cbSize;
-    UINT style;
-    WNDPROC lpfnWndProc;
-    int cbClsExtra;
-    int cbWndExtra;
-    HINSTANCE hInstance;
-    HICON hIcon;
-    HCURSOR hCursor;
-    HBRUSH hbrBackground;
-    LPCSTR lpszMenuName;
-    LPCSTR lpszClassName;
-    HICON hIconSm;
-};
-typedef WNDCLASSEXA WNDCLASSEX;
 
 struct CREATESTRUCTA
 {
@@ -307,32 +220,6 @@ struct CREATESTRUCTA
     LPCSTR lpszClass;
     DWORD dwExStyle;
 };
-typedef CREATESTRUCTA CREATESTRUCT;
-typedef CREATESTRUCTA* LPCREATESTRUCTA;
-typedef CREATESTRUCTA* LPCREATESTRUCT;
-
-struct CBT_CREATEWNDA
-{
-    CREATESTRUCTA* lpcs;
-    HWND hwndInsertAfter;
-};
-typedef CBT_CREATEWNDA CBT_CREATEWND;
-typedef CBT_CREATEWNDA* LPCBT_CREATEWND;
-
-struct CBTACTIVATESTRUCT
-{
-    BOOL fMouse;
-    HWND hWndActive;
-};
-typedef CBTACTIVATESTRUCT* LPCBTACTIVATESTRUCT;
-
-struct CWPSTRUCT
-{
-    LPARAM lParam;
-    WPARAM wParam;
-    UINT message;
-    HWND hwnd;
-};
 
 #pragma pack(push, 2)
 struct DLGTEMPLATE
@@ -345,20 +232,8 @@ struct DLGTEMPLATE
     short cx;
     short cy;
 };
-struct DLGITEMTEMPLATE
-{
-    DWORD style;
-    DWORD dwExtendedStyle;
-    short x;
-    short y;
-    short cx;
-    short cy;
-    WORD id;
-};
 #pragma pack(pop)
-typedef DLGTEMPLATE* LPDLGTEMPLATE;
 typedef const DLGTEMPLATE* LPCDLGTEMPLATE;
-typedef const DLGTEMPLATE* LPCDLGTEMPLATEA;
 
 struct SCROLLINFO
 {
@@ -406,28 +281,6 @@ struct DELETEITEMSTRUCT
     HWND hwndItem;
     ULONG_PTR itemData;
 };
-typedef DELETEITEMSTRUCT* LPDELETEITEMSTRUCT;
-
-struct COMPAREITEMSTRUCT
-{
-    UINT CtlType;
-    UINT CtlID;
-    HWND hwndItem;
-    UINT itemID1;
-    ULONG_PTR itemData1;
-    UINT itemID2;
-    ULONG_PTR itemData2;
-    DWORD dwLocaleId;
-};
-typedef COMPAREITEMSTRUCT* LPCOMPAREITEMSTRUCT;
-
-struct NMHDR
-{
-    HWND hwndFrom;
-    UINT_PTR idFrom;
-    UINT code;
-};
-typedef NMHDR* LPNMHDR;
 
 struct WINDOWPOS
 {
@@ -439,29 +292,6 @@ struct WINDOWPOS
     int cy;
     UINT flags;
 };
-typedef WINDOWPOS* LPWINDOWPOS;
-
-struct MINMAXINFO
-{
-    POINT ptReserved;
-    POINT ptMaxSize;
-    POINT ptMaxPosition;
-    POINT ptMinTrackSize;
-    POINT ptMaxTrackSize;
-};
-typedef MINMAXINFO* LPMINMAXINFO;
-
-struct COMBOBOXINFO
-{
-    DWORD cbSize;
-    RECT rcItem;
-    RECT rcButton;
-    DWORD stateButton;
-    HWND hwndCombo;
-    HWND hwndItem;
-    HWND hwndList;
-};
-typedef COMBOBOXINFO* PCOMBOBOXINFO;
 
 struct HELPINFO
 {
@@ -472,41 +302,23 @@ struct HELPINFO
     DWORD_PTR dwContextId;
     POINT MousePos;
 };
-typedef HELPINFO* LPHELPINFO;
 
 // ------------------------------------------------------------------------------------------------------ small macros
 
-#define MAKEWORD(low, high) ((WORD)(((BYTE)((DWORD_PTR)(low)&0xff)) | ((WORD)((BYTE)((DWORD_PTR)(high)&0xff))) << 8))
 #define MAKELONG(low, high)                                                                                            \
     ((LONG)(((WORD)((DWORD_PTR)(low)&0xffff)) | ((DWORD)((WORD)((DWORD_PTR)(high)&0xffff))) << 16))
 #define LOWORD(l) ((WORD)((DWORD_PTR)(l)&0xffff))
 #define HIWORD(l) ((WORD)((DWORD_PTR)(l) >> 16))
-#define LOBYTE(w) ((BYTE)((DWORD_PTR)(w)&0xff))
-#define HIBYTE(w) ((BYTE)((DWORD_PTR)(w) >> 8))
 #define GET_X_LPARAM(lp) ((int)(short)LOWORD(lp))
 #define GET_Y_LPARAM(lp) ((int)(short)HIWORD(lp))
 #define MAKEWPARAM(l, h) ((WPARAM)(DWORD)MAKELONG(l, h))
 #define MAKELPARAM(l, h) ((LPARAM)(DWORD)MAKELONG(l, h))
-#define MAKELRESULT(l, h) ((LRESULT)(DWORD)MAKELONG(l, h))
 #define MAKEINTRESOURCEA(i) ((LPSTR)((ULONG_PTR)((WORD)(i))))
-#define MAKEINTRESOURCEW(i) ((LPWSTR)((ULONG_PTR)((WORD)(i))))
 #define MAKEINTRESOURCE MAKEINTRESOURCEA
 #define IS_INTRESOURCE(r) ((((ULONG_PTR)(r)) >> 16) == 0)
-#define MAKEINTATOM(i) ((LPSTR)((ULONG_PTR)((WORD)(i))))
-#define MAKELANGID(p, s) ((((WORD)(s)) << 10) | (WORD)(p))
 #define RGB(r, g, b) ((COLORREF)(((BYTE)(r) | ((WORD)((BYTE)(g)) << 8)) | (((DWORD)(BYTE)(b)) << 16)))
-#define GetRValue(rgb) ((BYTE)(rgb))
-#define GetGValue(rgb) ((BYTE)(((WORD)(rgb)) >> 8))
-#define GetBValue(rgb) ((BYTE)((rgb) >> 16))
-#define UNREFERENCED_PARAMETER(p) (void)(p)
-#define TEXT(quote) quote
-#define INVALID_HANDLE_VALUE ((HANDLE)(LONG_PTR)-1)
 #define MAX_PATH 260
-#define _MAX_PATH 260
 #define LF_FACESIZE 32
-
-#define MAXWORD 0xffff
-#define MAXDWORD 0xffffffff
 
 // ------------------------------------------------------------------------------------------------ window messages
 
@@ -531,18 +343,9 @@ typedef HELPINFO* LPHELPINFO;
 #define WM_QUERYENDSESSION 0x0011
 #define WM_QUIT 0x0012
 #define WM_ERASEBKGND 0x0014
-#define WM_SYSCOLORCHANGE 0x0015
-#define WM_ENDSESSION 0x0016
 #define WM_SHOWWINDOW 0x0018
-#define WM_SETTINGCHANGE 0x001A
-#define WM_ACTIVATEAPP 0x001C
-#define WM_FONTCHANGE 0x001D
 #define WM_CANCELMODE 0x001F
-#define WM_SETCURSOR 0x0020
 #define WM_MOUSEACTIVATE 0x0021
-#define WM_CHILDACTIVATE 0x0022
-#define WM_GETMINMAXINFO 0x0024
-#define WM_ICONERASEBKGND 0x0027
 #define WM_NEXTDLGCTL 0x0028
 #define WM_DRAWITEM 0x002B
 #define WM_MEASUREITEM 0x002C
@@ -554,33 +357,20 @@ typedef HELPINFO* LPHELPINFO;
 #define WM_COMPAREITEM 0x0039
 #define WM_WINDOWPOSCHANGING 0x0046
 #define WM_WINDOWPOSCHANGED 0x0047
-#define WM_NOTIFY 0x004E
-#define WM_INPUTLANGCHANGE 0x0051
 #define WM_HELP 0x0053
-#define WM_NOTIFYFORMAT 0x0055
 #define WM_CONTEXTMENU 0x007B
-#define WM_STYLECHANGING 0x007C
-#define WM_STYLECHANGED 0x007D
-#define WM_GETICON 0x007F
-#define WM_SETICON 0x0080
 #define WM_NCCREATE 0x0081
 #define WM_NCDESTROY 0x0082
-#define WM_NCCALCSIZE 0x0083
 #define WM_NCHITTEST 0x0084
-#define WM_NCPAINT 0x0085
 #define WM_NCACTIVATE 0x0086
 #define WM_GETDLGCODE 0x0087
-#define WM_NCMOUSEMOVE 0x00A0
-#define WM_NCLBUTTONDOWN 0x00A1
 #define WM_KEYFIRST 0x0100
 #define WM_KEYDOWN 0x0100
 #define WM_KEYUP 0x0101
 #define WM_CHAR 0x0102
-#define WM_DEADCHAR 0x0103
 #define WM_SYSKEYDOWN 0x0104
 #define WM_SYSKEYUP 0x0105
 #define WM_SYSCHAR 0x0106
-#define WM_SYSDEADCHAR 0x0107
 #define WM_KEYLAST 0x0109
 #define WM_INITDIALOG 0x0110
 #define WM_COMMAND 0x0111
@@ -591,13 +381,8 @@ typedef HELPINFO* LPHELPINFO;
 #define WM_INITMENU 0x0116
 #define WM_INITMENUPOPUP 0x0117
 #define WM_MENUSELECT 0x011F
-#define WM_MENUCHAR 0x0120
 #define WM_ENTERIDLE 0x0121
 #define WM_UNINITMENUPOPUP 0x0125
-#define WM_MENUCOMMAND 0x0126
-#define WM_CHANGEUISTATE 0x0127
-#define WM_UPDATEUISTATE 0x0128
-#define WM_QUERYUISTATE 0x0129
 #define WM_CTLCOLORMSGBOX 0x0132
 #define WM_CTLCOLOREDIT 0x0133
 #define WM_CTLCOLORLISTBOX 0x0134
@@ -612,10 +397,6 @@ typedef HELPINFO* LPHELPINFO;
 #define WM_LBUTTONDBLCLK 0x0203
 #define WM_RBUTTONDOWN 0x0204
 #define WM_RBUTTONUP 0x0205
-#define WM_RBUTTONDBLCLK 0x0206
-#define WM_MBUTTONDOWN 0x0207
-#define WM_MBUTTONUP 0x0208
-#define WM_MBUTTONDBLCLK 0x0209
 #define WM_MOUSEWHEEL 0x020A
 #define WM_MOUSELAST 0x020E
 #define WM_PARENTNOTIFY 0x0210
@@ -634,33 +415,15 @@ typedef HELPINFO* LPHELPINFO;
 #define WHEEL_DELTA 120
 #define DM_GETDEFID (WM_USER + 0)
 #define DM_SETDEFID (WM_USER + 1)
-#define DM_REPOSITION (WM_USER + 2)
 #define DC_HASDEFID 0x534B
 
 #define SIZE_RESTORED 0
-#define SIZE_MINIMIZED 1
-#define SIZE_MAXIMIZED 2
-#define SW_PARENTCLOSING 1
-#define SW_PARENTOPENING 3
 #define MSGF_DIALOGBOX 0
-#define MSGF_MESSAGEBOX 1
 #define MSGF_MENU 2
-
-#define UIS_SET 1
-#define UIS_CLEAR 2
-#define UIS_INITIALIZE 3
-#define UISF_HIDEFOCUS 0x1
-#define UISF_HIDEACCEL 0x2
 
 // ------------------------------------------------------------------------------------------------ window styles
 
-#define CS_VREDRAW 0x0001
-#define CS_HREDRAW 0x0002
 #define CS_DBLCLKS 0x0008
-#define CS_OWNDC 0x0020
-#define CS_PARENTDC 0x0080
-#define CS_SAVEBITS 0x0800
-#define CS_GLOBALCLASS 0x4000
 
 #define WS_OVERLAPPED 0x00000000U
 #define WS_POPUP 0x80000000U
@@ -670,7 +433,6 @@ typedef HELPINFO* LPHELPINFO;
 #define WS_DISABLED 0x08000000U
 #define WS_CLIPSIBLINGS 0x04000000U
 #define WS_CLIPCHILDREN 0x02000000U
-#define WS_MAXIMIZE 0x01000000U
 #define WS_CAPTION 0x00C00000U
 #define WS_BORDER 0x00800000U
 #define WS_DLGFRAME 0x00400000U
@@ -683,92 +445,50 @@ typedef HELPINFO* LPHELPINFO;
 #define WS_MINIMIZEBOX 0x00020000U
 #define WS_MAXIMIZEBOX 0x00010000U
 #define WS_OVERLAPPEDWINDOW (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
-#define WS_POPUPWINDOW (WS_POPUP | WS_BORDER | WS_SYSMENU)
-#define WS_CHILDWINDOW WS_CHILD
 
 #define WS_EX_DLGMODALFRAME 0x00000001U
 #define WS_EX_NOPARENTNOTIFY 0x00000004U
-#define WS_EX_TOPMOST 0x00000008U
-#define WS_EX_TRANSPARENT 0x00000020U
 #define WS_EX_TOOLWINDOW 0x00000080U
 #define WS_EX_WINDOWEDGE 0x00000100U
 #define WS_EX_CLIENTEDGE 0x00000200U
-#define WS_EX_CONTEXTHELP 0x00000400U
-#define WS_EX_RIGHT 0x00001000U
-#define WS_EX_RTLREADING 0x00002000U
-#define WS_EX_LEFTSCROLLBAR 0x00004000U
 #define WS_EX_CONTROLPARENT 0x00010000U
 #define WS_EX_STATICEDGE 0x00020000U
-#define WS_EX_APPWINDOW 0x00040000U
-#define WS_EX_LAYERED 0x00080000U
 #define WS_EX_NOACTIVATE 0x08000000U
 
 #define DS_ABSALIGN 0x0001
-#define DS_SYSMODAL 0x0002
-#define DS_LOCALEDIT 0x0020
 #define DS_SETFONT 0x0040
 #define DS_MODALFRAME 0x0080
 #define DS_NOIDLEMSG 0x0100
-#define DS_SETFOREGROUND 0x0200
 #define DS_3DLOOK 0x0004
-#define DS_FIXEDSYS 0x0008
 #define DS_NOFAILCREATE 0x0010
 #define DS_CONTROL 0x0400
 #define DS_CENTER 0x0800
 #define DS_CENTERMOUSE 0x1000
-#define DS_CONTEXTHELP 0x2000
-#define DS_SHELLFONT (DS_SETFONT | DS_FIXEDSYS)
 
 #define CW_USEDEFAULT ((int)0x80000000)
-#define HWND_DESKTOP ((HWND)0)
 #define HWND_TOP ((HWND)0)
 #define HWND_BOTTOM ((HWND)(LONG_PTR)1)
-#define HWND_TOPMOST ((HWND)(LONG_PTR)-1)
-#define HWND_NOTOPMOST ((HWND)(LONG_PTR)-2)
 #define HWND_MESSAGE ((HWND)(LONG_PTR)-3)
 #define HWND_BROADCAST ((HWND)(LONG_PTR)0xffff)
-#define WC_DIALOG (MAKEINTATOM(0x8002))
 
-#define GW_HWNDFIRST 0
-#define GW_HWNDLAST 1
 #define GW_HWNDNEXT 2
 #define GW_HWNDPREV 3
 #define GW_OWNER 4
 #define GW_CHILD 5
-#define GW_ENABLEDPOPUP 6
 
-#define GA_PARENT 1
-#define GA_ROOT 2
-#define GA_ROOTOWNER 3
-
-#define GWL_WNDPROC (-4)
-#define GWL_HINSTANCE (-6)
-#define GWL_HWNDPARENT (-8)
 #define GWL_STYLE (-16)
 #define GWL_EXSTYLE (-20)
-#define GWL_USERDATA (-21)
-#define GWL_ID (-12)
 #define GWLP_WNDPROC (-4)
-#define GWLP_HINSTANCE (-6)
 #define GWLP_HWNDPARENT (-8)
 #define GWLP_USERDATA (-21)
 #define GWLP_ID (-12)
 #define DWLP_MSGRESULT 0
 #define DWLP_DLGPROC (DWLP_MSGRESULT + sizeof(LRESULT))
 #define DWLP_USER (DWLP_DLGPROC + sizeof(DLGPROC))
-#define DWL_MSGRESULT DWLP_MSGRESULT
-#define DWL_DLGPROC DWLP_DLGPROC
-#define DWL_USER DWLP_USER
 #define DLGWINDOWEXTRA 48
-
-#define GCL_STYLE (-26)
-#define GCLP_HBRBACKGROUND (-10)
-#define GCLP_HCURSOR (-12)
-#define GCLP_WNDPROC (-24)
 
 #define SW_HIDE 0
 #define SW_SHOWNORMAL 1
-#define SW_NORMAL 1
 #define SW_SHOWMINIMIZED 2
 #define SW_SHOWMAXIMIZED 3
 #define SW_SHOWNOACTIVATE 4
@@ -776,8 +496,6 @@ typedef HELPINFO* LPHELPINFO;
 #define SW_MINIMIZE 6
 #define SW_SHOWMINNOACTIVE 7
 #define SW_SHOWNA 8
-#define SW_RESTORE 9
-#define SW_SHOWDEFAULT 10
 
 #define SWP_NOSIZE 0x0001
 #define SWP_NOMOVE 0x0002
@@ -787,20 +505,7 @@ typedef HELPINFO* LPHELPINFO;
 #define SWP_FRAMECHANGED 0x0020
 #define SWP_SHOWWINDOW 0x0040
 #define SWP_HIDEWINDOW 0x0080
-#define SWP_NOCOPYBITS 0x0100
-#define SWP_NOOWNERZORDER 0x0200
 #define SWP_NOSENDCHANGING 0x0400
-
-#define RDW_INVALIDATE 0x0001
-#define RDW_INTERNALPAINT 0x0002
-#define RDW_ERASE 0x0004
-#define RDW_VALIDATE 0x0008
-#define RDW_NOERASE 0x0020
-#define RDW_NOCHILDREN 0x0040
-#define RDW_ALLCHILDREN 0x0080
-#define RDW_UPDATENOW 0x0100
-#define RDW_ERASENOW 0x0200
-#define RDW_FRAME 0x0400
 
 #define DLGC_WANTARROWS 0x0001
 #define DLGC_WANTTAB 0x0002
@@ -814,37 +519,20 @@ typedef HELPINFO* LPHELPINFO;
 #define DLGC_STATIC 0x0100
 #define DLGC_BUTTON 0x2000
 
-#define HTERROR (-2)
 #define HTTRANSPARENT (-1)
-#define HTNOWHERE 0
 #define HTCLIENT 1
-#define HTCAPTION 2
-#define HTVSCROLL 7
 
 #define MA_ACTIVATE 1
-#define MA_ACTIVATEANDEAT 2
-#define MA_NOACTIVATE 3
-#define MA_NOACTIVATEANDEAT 4
 
 #define PM_NOREMOVE 0x0000
 #define PM_REMOVE 0x0001
-#define PM_NOYIELD 0x0002
 
 #define MK_LBUTTON 0x0001
-#define MK_RBUTTON 0x0002
 #define MK_SHIFT 0x0004
 #define MK_CONTROL 0x0008
 
 #define SC_CLOSE 0xF060
 #define SC_KEYMENU 0xF100
-#define SC_MOVE 0xF010
-#define SC_SIZE 0xF000
-#define SC_MINIMIZE 0xF020
-#define SC_MAXIMIZE 0xF030
-#define SC_RESTORE 0xF120
-
-#define ICON_SMALL 0
-#define ICON_BIG 1
 
 // ------------------------------------------------------------------------------------------------------ controls
 
@@ -853,37 +541,15 @@ typedef HELPINFO* LPHELPINFO;
 #define BS_CHECKBOX 0x00000002U
 #define BS_AUTOCHECKBOX 0x00000003U
 #define BS_RADIOBUTTON 0x00000004U
-#define BS_3STATE 0x00000005U
-#define BS_AUTO3STATE 0x00000006U
 #define BS_GROUPBOX 0x00000007U
-#define BS_USERBUTTON 0x00000008U
 #define BS_AUTORADIOBUTTON 0x00000009U
 #define BS_OWNERDRAW 0x0000000BU
 #define BS_TYPEMASK 0x0000000FU
-#define BS_LEFTTEXT 0x00000020U
-#define BS_TEXT 0x00000000U
-#define BS_ICON 0x00000040U
-#define BS_BITMAP 0x00000080U
-#define BS_LEFT 0x00000100U
-#define BS_RIGHT 0x00000200U
-#define BS_CENTER 0x00000300U
-#define BS_TOP 0x00000400U
-#define BS_BOTTOM 0x00000800U
-#define BS_VCENTER 0x00000C00U
 #define BS_PUSHLIKE 0x00001000U
-#define BS_MULTILINE 0x00002000U
 #define BS_NOTIFY 0x00004000U
-#define BS_FLAT 0x00008000U
 
 #define BN_CLICKED 0
-#define BN_PAINT 1
-#define BN_HILITE 2
-#define BN_UNHILITE 3
-#define BN_DISABLE 4
 #define BN_DOUBLECLICKED 5
-#define BN_DBLCLK 5
-#define BN_PUSHED 2
-#define BN_UNPUSHED 3
 #define BN_SETFOCUS 6
 #define BN_KILLFOCUS 7
 
@@ -893,44 +559,20 @@ typedef HELPINFO* LPHELPINFO;
 #define BM_SETSTATE 0x00F3
 #define BM_SETSTYLE 0x00F4
 #define BM_CLICK 0x00F5
-#define BM_GETIMAGE 0x00F6
 #define BM_SETIMAGE 0x00F7
 #define BST_UNCHECKED 0x0000
 #define BST_CHECKED 0x0001
-#define BST_INDETERMINATE 0x0002
 #define BST_PUSHED 0x0004
 #define BST_FOCUS 0x0008
-#define IMAGE_BITMAP 0
-#define IMAGE_ICON 1
-#define IMAGE_CURSOR 2
 
 #define SS_LEFT 0x00000000U
-#define SS_CENTER 0x00000001U
-#define SS_RIGHT 0x00000002U
 #define SS_ICON 0x00000003U
-#define SS_BLACKRECT 0x00000004U
-#define SS_GRAYRECT 0x00000005U
-#define SS_WHITERECT 0x00000006U
-#define SS_BLACKFRAME 0x00000007U
-#define SS_GRAYFRAME 0x00000008U
-#define SS_WHITEFRAME 0x00000009U
-#define SS_USERITEM 0x0000000AU
-#define SS_SIMPLE 0x0000000BU
-#define SS_LEFTNOWORDWRAP 0x0000000CU
 #define SS_OWNERDRAW 0x0000000DU
 #define SS_BITMAP 0x0000000EU
 #define SS_ENHMETAFILE 0x0000000FU
-#define SS_ETCHEDHORZ 0x00000010U
-#define SS_ETCHEDVERT 0x00000011U
-#define SS_ETCHEDFRAME 0x00000012U
 #define SS_TYPEMASK 0x0000001FU
 #define SS_NOPREFIX 0x00000080U
 #define SS_NOTIFY 0x00000100U
-#define SS_CENTERIMAGE 0x00000200U
-#define SS_RIGHTJUST 0x00000400U
-#define SS_REALSIZEIMAGE 0x00000800U
-#define SS_SUNKEN 0x00001000U
-#define SS_ENDELLIPSIS 0x00004000U
 
 #define STM_SETICON 0x0170
 #define STM_GETICON 0x0171
@@ -950,8 +592,6 @@ typedef HELPINFO* LPHELPINFO;
 #define ES_PASSWORD 0x0020U
 #define ES_AUTOVSCROLL 0x0040U
 #define ES_AUTOHSCROLL 0x0080U
-#define ES_NOHIDESEL 0x0100U
-#define ES_OEMCONVERT 0x0400U
 #define ES_READONLY 0x0800U
 #define ES_WANTRETURN 0x1000U
 #define ES_NUMBER 0x2000U
@@ -960,58 +600,30 @@ typedef HELPINFO* LPHELPINFO;
 #define EN_KILLFOCUS 0x0200
 #define EN_CHANGE 0x0300
 #define EN_UPDATE 0x0400
-#define EN_ERRSPACE 0x0500
 #define EN_MAXTEXT 0x0501
-#define EN_HSCROLL 0x0601
-#define EN_VSCROLL 0x0602
 
 #define EM_GETSEL 0x00B0
 #define EM_SETSEL 0x00B1
 #define EM_GETRECT 0x00B2
 #define EM_SETRECT 0x00B3
-#define EM_SETRECTNP 0x00B4
-#define EM_SCROLL 0x00B5
-#define EM_LINESCROLL 0x00B6
 #define EM_SCROLLCARET 0x00B7
 #define EM_GETMODIFY 0x00B8
 #define EM_SETMODIFY 0x00B9
 #define EM_GETLINECOUNT 0x00BA
 #define EM_LINEINDEX 0x00BB
-#define EM_SETHANDLE 0x00BC
 #define EM_GETHANDLE 0x00BD
-#define EM_GETTHUMB 0x00BE
-#define EM_LINELENGTH 0x00C1
 #define EM_REPLACESEL 0x00C2
-#define EM_GETLINE 0x00C4
 #define EM_LIMITTEXT 0x00C5
-#define EM_SETLIMITTEXT EM_LIMITTEXT
-#define EM_CANUNDO 0x00C6
-#define EM_UNDO 0x00C7
-#define EM_FMTLINES 0x00C8
-#define EM_LINEFROMCHAR 0x00C9
-#define EM_SETTABSTOPS 0x00CB
-#define EM_SETPASSWORDCHAR 0x00CC
-#define EM_EMPTYUNDOBUFFER 0x00CD
 #define EM_GETFIRSTVISIBLELINE 0x00CE
 #define EM_SETREADONLY 0x00CF
-#define EM_SETWORDBREAKPROC 0x00D0
-#define EM_GETWORDBREAKPROC 0x00D1
-#define EM_GETPASSWORDCHAR 0x00D2
-#define EM_SETMARGINS 0x00D3
-#define EM_GETMARGINS 0x00D4
 #define EM_GETLIMITTEXT 0x00D5
-#define EM_POSFROMCHAR 0x00D6
 #define EM_CHARFROMPOS 0x00D7
-#define EC_LEFTMARGIN 0x0001
-#define EC_RIGHTMARGIN 0x0002
 
 #define LBS_NOTIFY 0x0001U
 #define LBS_SORT 0x0002U
-#define LBS_NOREDRAW 0x0004U
 #define LBS_MULTIPLESEL 0x0008U
 #define LBS_OWNERDRAWFIXED 0x0010U
 #define LBS_OWNERDRAWVARIABLE 0x0020U
-#define LBS_HASSTRINGS 0x0040U
 #define LBS_USETABSTOPS 0x0080U
 #define LBS_NOINTEGRALHEIGHT 0x0100U
 #define LBS_MULTICOLUMN 0x0200U
@@ -1019,14 +631,10 @@ typedef HELPINFO* LPHELPINFO;
 #define LBS_EXTENDEDSEL 0x0800U
 #define LBS_DISABLENOSCROLL 0x1000U
 #define LBS_NODATA 0x2000U
-#define LBS_NOSEL 0x4000U
-#define LBS_COMBOBOX 0x8000U
-#define LBS_STANDARD (LBS_NOTIFY | LBS_SORT | WS_VSCROLL | WS_BORDER)
 
 #define LBN_ERRSPACE (-2)
 #define LBN_SELCHANGE 1
 #define LBN_DBLCLK 2
-#define LBN_SELCANCEL 3
 #define LBN_SETFOCUS 4
 #define LBN_KILLFOCUS 5
 #define LB_OKAY 0
@@ -1036,65 +644,34 @@ typedef HELPINFO* LPHELPINFO;
 #define LB_ADDSTRING 0x0180
 #define LB_INSERTSTRING 0x0181
 #define LB_DELETESTRING 0x0182
-#define LB_SELITEMRANGEEX 0x0183
 #define LB_RESETCONTENT 0x0184
-#define LB_SETSEL 0x0185
 #define LB_SETCURSEL 0x0186
-#define LB_GETSEL 0x0187
 #define LB_GETCURSEL 0x0188
 #define LB_GETTEXT 0x0189
 #define LB_GETTEXTLEN 0x018A
 #define LB_GETCOUNT 0x018B
-#define LB_SELECTSTRING 0x018C
 #define LB_DIR 0x018D
 #define LB_GETTOPINDEX 0x018E
-#define LB_FINDSTRING 0x018F
-#define LB_GETSELCOUNT 0x0190
-#define LB_GETSELITEMS 0x0191
 #define LB_SETTABSTOPS 0x0192
-#define LB_GETHORIZONTALEXTENT 0x0193
 #define LB_SETHORIZONTALEXTENT 0x0194
-#define LB_SETCOLUMNWIDTH 0x0195
-#define LB_ADDFILE 0x0196
 #define LB_SETTOPINDEX 0x0197
-#define LB_GETITEMRECT 0x0198
 #define LB_GETITEMDATA 0x0199
 #define LB_SETITEMDATA 0x019A
-#define LB_SELITEMRANGE 0x019B
-#define LB_SETANCHORINDEX 0x019C
-#define LB_GETANCHORINDEX 0x019D
-#define LB_SETCARETINDEX 0x019E
-#define LB_GETCARETINDEX 0x019F
-#define LB_SETITEMHEIGHT 0x01A0
 #define LB_GETITEMHEIGHT 0x01A1
 #define LB_FINDSTRINGEXACT 0x01A2
-#define LB_SETLOCALE 0x01A5
-#define LB_GETLOCALE 0x01A6
-#define LB_SETCOUNT 0x01A7
-#define LB_INITSTORAGE 0x01A8
 #define LB_ITEMFROMPOINT 0x01A9
 
-#define CBS_SIMPLE 0x0001U
 #define CBS_DROPDOWN 0x0002U
 #define CBS_DROPDOWNLIST 0x0003U
 #define CBS_OWNERDRAWFIXED 0x0010U
 #define CBS_OWNERDRAWVARIABLE 0x0020U
-#define CBS_AUTOHSCROLL 0x0040U
-#define CBS_OEMCONVERT 0x0080U
 #define CBS_SORT 0x0100U
 #define CBS_HASSTRINGS 0x0200U
-#define CBS_NOINTEGRALHEIGHT 0x0400U
-#define CBS_DISABLENOSCROLL 0x0800U
-#define CBS_UPPERCASE 0x2000U
-#define CBS_LOWERCASE 0x4000U
 
 #define CBN_ERRSPACE (-1)
 #define CBN_SELCHANGE 1
-#define CBN_DBLCLK 2
 #define CBN_SETFOCUS 3
 #define CBN_KILLFOCUS 4
-#define CBN_EDITCHANGE 5
-#define CBN_EDITUPDATE 6
 #define CBN_DROPDOWN 7
 #define CBN_CLOSEUP 8
 #define CBN_SELENDOK 9
@@ -1105,7 +682,6 @@ typedef HELPINFO* LPHELPINFO;
 
 #define CB_GETEDITSEL 0x0140
 #define CB_LIMITTEXT 0x0141
-#define CB_SETEDITSEL 0x0142
 #define CB_ADDSTRING 0x0143
 #define CB_DELETESTRING 0x0144
 #define CB_DIR 0x0145
@@ -1115,58 +691,33 @@ typedef HELPINFO* LPHELPINFO;
 #define CB_GETLBTEXTLEN 0x0149
 #define CB_INSERTSTRING 0x014A
 #define CB_RESETCONTENT 0x014B
-#define CB_FINDSTRING 0x014C
 #define CB_SELECTSTRING 0x014D
 #define CB_SETCURSEL 0x014E
 #define CB_SHOWDROPDOWN 0x014F
 #define CB_GETITEMDATA 0x0150
 #define CB_SETITEMDATA 0x0151
-#define CB_GETDROPPEDCONTROLRECT 0x0152
 #define CB_SETITEMHEIGHT 0x0153
 #define CB_GETITEMHEIGHT 0x0154
-#define CB_SETEXTENDEDUI 0x0155
-#define CB_GETEXTENDEDUI 0x0156
 #define CB_GETDROPPEDSTATE 0x0157
 #define CB_FINDSTRINGEXACT 0x0158
-#define CB_SETLOCALE 0x0159
-#define CB_GETLOCALE 0x015A
-#define CB_GETTOPINDEX 0x015B
-#define CB_SETTOPINDEX 0x015C
-#define CB_GETHORIZONTALEXTENT 0x015D
-#define CB_SETHORIZONTALEXTENT 0x015E
 #define CB_GETDROPPEDWIDTH 0x015F
 #define CB_SETDROPPEDWIDTH 0x0160
-#define CB_INITSTORAGE 0x0161
 #define CB_GETCOMBOBOXINFO 0x0164
 
-#define SBS_HORZ 0x0000U
 #define SBS_VERT 0x0001U
 #define SB_HORZ 0
 #define SB_VERT 1
 #define SB_CTL 2
-#define SB_BOTH 3
 #define SB_LINEUP 0
-#define SB_LINELEFT 0
 #define SB_LINEDOWN 1
-#define SB_LINERIGHT 1
 #define SB_PAGEUP 2
-#define SB_PAGELEFT 2
 #define SB_PAGEDOWN 3
-#define SB_PAGERIGHT 3
 #define SB_THUMBPOSITION 4
 #define SB_THUMBTRACK 5
 #define SB_TOP 6
-#define SB_LEFT 6
 #define SB_BOTTOM 7
-#define SB_RIGHT 7
 #define SB_ENDSCROLL 8
 #define SBM_SETPOS 0x00E0
-#define SBM_GETPOS 0x00E1
-#define SBM_SETRANGE 0x00E2
-#define SBM_GETRANGE 0x00E3
-#define SBM_ENABLE_ARROWS 0x00E4
-#define SBM_SETRANGEREDRAW 0x00E6
-#define SBM_SETSCROLLINFO 0x00E9
 #define SBM_GETSCROLLINFO 0x00EA
 #define SIF_RANGE 0x0001
 #define SIF_PAGE 0x0002
@@ -1175,9 +726,7 @@ typedef HELPINFO* LPHELPINFO;
 #define SIF_TRACKPOS 0x0010
 #define SIF_ALL (SIF_RANGE | SIF_PAGE | SIF_POS | SIF_TRACKPOS)
 #define ESB_ENABLE_BOTH 0x0000
-#define ESB_DISABLE_BOTH 0x0003
 
-#define ODT_MENU 1
 #define ODT_LISTBOX 2
 #define ODT_COMBOBOX 3
 #define ODT_BUTTON 4
@@ -1186,27 +735,19 @@ typedef HELPINFO* LPHELPINFO;
 #define ODA_SELECT 0x0002
 #define ODA_FOCUS 0x0004
 #define ODS_SELECTED 0x0001
-#define ODS_GRAYED 0x0002
 #define ODS_DISABLED 0x0004
-#define ODS_CHECKED 0x0008
 #define ODS_FOCUS 0x0010
-#define ODS_DEFAULT 0x0020
 #define ODS_COMBOBOXEDIT 0x1000
 
 // ------------------------------------------------------------------------------------------------------------ keys
 
-#define VK_LBUTTON 0x01
-#define VK_RBUTTON 0x02
 #define VK_CANCEL 0x03
-#define VK_MBUTTON 0x04
 #define VK_BACK 0x08
 #define VK_TAB 0x09
-#define VK_CLEAR 0x0C
 #define VK_RETURN 0x0D
 #define VK_SHIFT 0x10
 #define VK_CONTROL 0x11
 #define VK_MENU 0x12
-#define VK_PAUSE 0x13
 #define VK_CAPITAL 0x14
 #define VK_ESCAPE 0x1B
 #define VK_SPACE 0x20
@@ -1218,48 +759,23 @@ typedef HELPINFO* LPHELPINFO;
 #define VK_UP 0x26
 #define VK_RIGHT 0x27
 #define VK_DOWN 0x28
-#define VK_SELECT 0x29
-#define VK_PRINT 0x2A
 #define VK_EXECUTE 0x2B
-#define VK_SNAPSHOT 0x2C
 #define VK_INSERT 0x2D
 #define VK_DELETE 0x2E
-#define VK_HELP 0x2F
-#define VK_LWIN 0x5B
 #define VK_APPS 0x5D
 #define VK_NUMPAD0 0x60
 #define VK_NUMPAD9 0x69
 #define VK_MULTIPLY 0x6A
 #define VK_ADD 0x6B
-#define VK_SEPARATOR 0x6C
 #define VK_SUBTRACT 0x6D
 #define VK_DECIMAL 0x6E
 #define VK_DIVIDE 0x6F
 #define VK_F1 0x70
 #define VK_F2 0x71
-#define VK_F3 0x72
 #define VK_F4 0x73
 #define VK_F5 0x74
-#define VK_F6 0x75
-#define VK_F7 0x76
-#define VK_F8 0x77
-#define VK_F9 0x78
-#define VK_F10 0x79
-#define VK_F11 0x7A
-#define VK_F12 0x7B
-#define VK_NUMLOCK 0x90
-#define VK_SCROLL 0x91
-#define VK_LSHIFT 0xA0
-#define VK_RSHIFT 0xA1
-#define VK_LCONTROL 0xA2
-#define VK_RCONTROL 0xA3
-#define VK_LMENU 0xA4
-#define VK_RMENU 0xA5
 #define VK_OEM_MINUS 0xBD
 #define VK_OEM_PERIOD 0xBE
-#define KF_EXTENDED 0x0100
-#define KF_ALTDOWN 0x2000
-#define KEYEVENTF_KEYUP 0x0002
 
 // ---------------------------------------------------------------------------------------------------- message boxes
 
@@ -1270,8 +786,6 @@ typedef HELPINFO* LPHELPINFO;
 #define IDIGNORE 5
 #define IDYES 6
 #define IDNO 7
-#define IDCLOSE 8
-#define IDHELP 9
 #define IDC_STATIC (-1)
 
 #define MB_OK 0x00000000U
@@ -1284,46 +798,24 @@ typedef HELPINFO* LPHELPINFO;
 #define MB_ICONQUESTION 0x00000020U
 #define MB_ICONEXCLAMATION 0x00000030U
 #define MB_ICONASTERISK 0x00000040U
-#define MB_ICONWARNING MB_ICONEXCLAMATION
-#define MB_ICONERROR MB_ICONHAND
-#define MB_ICONINFORMATION MB_ICONASTERISK
-#define MB_ICONSTOP MB_ICONHAND
-#define MB_DEFBUTTON1 0x00000000U
 #define MB_DEFBUTTON2 0x00000100U
-#define MB_DEFBUTTON3 0x00000200U
-#define MB_DEFBUTTON4 0x00000300U
-#define MB_APPLMODAL 0x00000000U
-#define MB_SYSTEMMODAL 0x00001000U
 #define MB_TASKMODAL 0x00002000U
 #define MB_HELP 0x00004000U
-#define MB_NOFOCUS 0x00008000U
-#define MB_SETFOREGROUND 0x00010000U
-#define MB_DEFAULT_DESKTOP_ONLY 0x00020000U
-#define MB_TOPMOST 0x00040000U
 #define MB_TYPEMASK 0x0000000FU
 #define MB_ICONMASK 0x000000F0U
 #define MB_DEFMASK 0x00000F00U
 
 // ------------------------------------------------------------------------------------------------------------- menus
 
-#define MF_INSERT 0x00000000U
 #define MF_BYCOMMAND 0x00000000U
 #define MF_BYPOSITION 0x00000400U
 #define MF_SEPARATOR 0x00000800U
 #define MF_ENABLED 0x00000000U
 #define MF_GRAYED 0x00000001U
 #define MF_DISABLED 0x00000002U
-#define MF_UNCHECKED 0x00000000U
-#define MF_CHECKED 0x00000008U
 #define MF_STRING 0x00000000U
-#define MF_BITMAP 0x00000004U
-#define MF_OWNERDRAW 0x00000100U
-#define MF_POPUP 0x00000010U
-#define TPM_LEFTBUTTON 0x0000U
 #define TPM_RIGHTBUTTON 0x0002U
 #define TPM_LEFTALIGN 0x0000U
-#define TPM_CENTERALIGN 0x0004U
-#define TPM_RIGHTALIGN 0x0008U
 #define TPM_TOPALIGN 0x0000U
 #define TPM_NONOTIFY 0x0080U
 #define TPM_RETURNCMD 0x0100U
@@ -1332,65 +824,32 @@ typedef HELPINFO* LPHELPINFO;
 
 #define LOGPIXELSX 88
 #define LOGPIXELSY 90
-#define HORZRES 8
-#define VERTRES 10
-#define BITSPIXEL 12
-#define PLANES 14
 
 #define WHITE_BRUSH 0
-#define LTGRAY_BRUSH 1
-#define GRAY_BRUSH 2
-#define DKGRAY_BRUSH 3
 #define BLACK_BRUSH 4
 #define NULL_BRUSH 5
-#define HOLLOW_BRUSH NULL_BRUSH
-#define WHITE_PEN 6
 #define BLACK_PEN 7
 #define NULL_PEN 8
-#define OEM_FIXED_FONT 10
-#define ANSI_FIXED_FONT 11
-#define ANSI_VAR_FONT 12
 #define SYSTEM_FONT 13
-#define DEVICE_DEFAULT_FONT 14
-#define DEFAULT_PALETTE 15
-#define SYSTEM_FIXED_FONT 16
 #define DEFAULT_GUI_FONT 17
 
 #define OBJ_PEN 1
 #define OBJ_BRUSH 2
 #define OBJ_DC 3
 #define OBJ_FONT 6
-#define OBJ_BITMAP 7
-#define OBJ_REGION 8
 #define OBJ_MEMDC 10
 
-#define HGDI_ERROR ((HGDIOBJ)(LONG_PTR)-1)
-#define GDI_ERROR 0xFFFFFFFFU
 #define CLR_INVALID 0xFFFFFFFFU
 
 #define TRANSPARENT 1
 #define OPAQUE 2
 #define BS_SOLID 0
 #define BS_NULL 1
-#define BS_HOLLOW BS_NULL
 #define PS_SOLID 0
-#define PS_DASH 1
-#define PS_DOT 2
 #define PS_NULL 5
-#define PS_INSIDEFRAME 6
-
-#define TA_LEFT 0
-#define TA_RIGHT 2
-#define TA_CENTER 6
-#define TA_TOP 0
-#define TA_BOTTOM 8
-#define TA_BASELINE 24
-#define TA_NOUPDATECP 0
 
 #define ETO_OPAQUE 0x0002
-#define ETO_CLIPPED 0x0004
 
-#define DT_TOP 0x00000000U
 #define DT_LEFT 0x00000000U
 #define DT_CENTER 0x00000001U
 #define DT_RIGHT 0x00000002U
@@ -1398,168 +857,55 @@ typedef HELPINFO* LPHELPINFO;
 #define DT_BOTTOM 0x00000008U
 #define DT_WORDBREAK 0x00000010U
 #define DT_SINGLELINE 0x00000020U
-#define DT_EXPANDTABS 0x00000040U
-#define DT_TABSTOP 0x00000080U
-#define DT_NOCLIP 0x00000100U
 #define DT_EXTERNALLEADING 0x00000200U
 #define DT_CALCRECT 0x00000400U
 #define DT_NOPREFIX 0x00000800U
-#define DT_INTERNAL 0x00001000U
-#define DT_END_ELLIPSIS 0x00008000U
-
-#define BLACKNESS 0x00000042U
-#define DSTINVERT 0x00550009U
-#define PATCOPY 0x00F00021U
-#define PATINVERT 0x005A0049U
-#define SRCAND 0x008800C6U
-#define SRCCOPY 0x00CC0020U
-#define SRCINVERT 0x00660046U
-#define SRCPAINT 0x00EE0086U
-#define WHITENESS 0x00FF0062U
-
-#define BDR_RAISEDOUTER 0x0001
-#define BDR_SUNKENOUTER 0x0002
-#define BDR_RAISEDINNER 0x0004
-#define BDR_SUNKENINNER 0x0008
-#define EDGE_RAISED (BDR_RAISEDOUTER | BDR_RAISEDINNER)
-#define EDGE_SUNKEN (BDR_SUNKENOUTER | BDR_SUNKENINNER)
-#define EDGE_ETCHED (BDR_SUNKENOUTER | BDR_RAISEDINNER)
-#define EDGE_BUMP (BDR_RAISEDOUTER | BDR_SUNKENINNER)
-#define BF_LEFT 0x0001
-#define BF_TOP 0x0002
-#define BF_RIGHT 0x0004
-#define BF_BOTTOM 0x0008
-#define BF_RECT (BF_LEFT | BF_TOP | BF_RIGHT | BF_BOTTOM)
-#define BF_MIDDLE 0x0800
-#define BF_ADJUST 0x2000
-#define DFC_CAPTION 1
-#define DFC_MENU 2
-#define DFC_SCROLL 3
-#define DFC_BUTTON 4
-#define DFCS_BUTTONCHECK 0x0000
-#define DFCS_BUTTONPUSH 0x0010
-#define DFCS_INACTIVE 0x0100
-#define DFCS_PUSHED 0x0200
-#define DFCS_CHECKED 0x0400
 
 #define COLOR_SCROLLBAR 0
-#define COLOR_BACKGROUND 1
-#define COLOR_ACTIVECAPTION 2
-#define COLOR_INACTIVECAPTION 3
-#define COLOR_MENU 4
 #define COLOR_WINDOW 5
 #define COLOR_WINDOWFRAME 6
-#define COLOR_MENUTEXT 7
 #define COLOR_WINDOWTEXT 8
-#define COLOR_CAPTIONTEXT 9
-#define COLOR_ACTIVEBORDER 10
-#define COLOR_INACTIVEBORDER 11
-#define COLOR_APPWORKSPACE 12
 #define COLOR_HIGHLIGHT 13
 #define COLOR_HIGHLIGHTTEXT 14
 #define COLOR_BTNFACE 15
-#define COLOR_3DFACE COLOR_BTNFACE
 #define COLOR_BTNSHADOW 16
-#define COLOR_3DSHADOW COLOR_BTNSHADOW
 #define COLOR_GRAYTEXT 17
 #define COLOR_BTNTEXT 18
-#define COLOR_INACTIVECAPTIONTEXT 19
 #define COLOR_BTNHIGHLIGHT 20
-#define COLOR_3DHILIGHT COLOR_BTNHIGHLIGHT
-#define COLOR_3DHIGHLIGHT COLOR_BTNHIGHLIGHT
-#define COLOR_3DDKSHADOW 21
-#define COLOR_3DLIGHT 22
-#define COLOR_INFOTEXT 23
 #define COLOR_INFOBK 24
 
 #define FW_DONTCARE 0
-#define FW_THIN 100
 #define FW_NORMAL 400
 #define FW_BOLD 700
 #define ANSI_CHARSET 0
 #define DEFAULT_CHARSET 1
-#define SYMBOL_CHARSET 2
-#define SHIFTJIS_CHARSET 128
-#define HANGEUL_CHARSET 129
-#define HANGUL_CHARSET 129
-#define GB2312_CHARSET 134
-#define CHINESEBIG5_CHARSET 136
-#define THAI_CHARSET 222
-#define OEM_CHARSET 255
-#define OUT_DEFAULT_PRECIS 0
-#define CLIP_DEFAULT_PRECIS 0
-#define DEFAULT_QUALITY 0
-#define DEFAULT_PITCH 0
 #define FIXED_PITCH 1
-#define VARIABLE_PITCH 2
-#define FF_DONTCARE (0 << 4)
 #define FF_SWISS (2 << 4)
 #define TMPF_FIXED_PITCH 0x01
-#define TMPF_VECTOR 0x02
-#define TMPF_TRUETYPE 0x04
 
 #define IDC_ARROW MAKEINTRESOURCE(32512)
-#define IDC_IBEAM MAKEINTRESOURCE(32513)
-#define IDC_WAIT MAKEINTRESOURCE(32514)
-#define IDC_CROSS MAKEINTRESOURCE(32515)
 #define IDI_APPLICATION MAKEINTRESOURCE(32512)
 #define IDI_HAND MAKEINTRESOURCE(32513)
 #define IDI_QUESTION MAKEINTRESOURCE(32514)
 #define IDI_EXCLAMATION MAKEINTRESOURCE(32515)
 #define IDI_ASTERISK MAKEINTRESOURCE(32516)
 
-#define SM_CXSCREEN 0
-#define SM_CYSCREEN 1
 #define SM_CXVSCROLL 2
-#define SM_CYHSCROLL 3
-#define SM_CYCAPTION 4
-#define SM_CXBORDER 5
-#define SM_CYBORDER 6
-#define SM_CXDLGFRAME 7
-#define SM_CYDLGFRAME 8
-#define SM_CXFIXEDFRAME SM_CXDLGFRAME
-#define SM_CYFIXEDFRAME SM_CYDLGFRAME
-#define SM_CYMENU 15
 #define SM_CYVSCROLL 20
-#define SM_CXFRAME 32
-#define SM_CYFRAME 33
-#define SM_CXDOUBLECLK 36
-#define SM_CYDOUBLECLK 37
-#define SM_DBCSENABLED 42
-#define SM_CXEDGE 45
-#define SM_CYEDGE 46
 #define SPI_GETWORKAREA 0x0030
 
 // ---------------------------------------------------------------------------------- resources, libraries and the rest
 
-#define RT_CURSOR MAKEINTRESOURCE(1)
-#define RT_BITMAP MAKEINTRESOURCE(2)
-#define RT_ICON MAKEINTRESOURCE(3)
-#define RT_MENU MAKEINTRESOURCE(4)
 #define RT_DIALOG MAKEINTRESOURCE(5)
 #define RT_STRING MAKEINTRESOURCE(6)
-#define RT_FONTDIR MAKEINTRESOURCE(7)
-#define RT_FONT MAKEINTRESOURCE(8)
-#define RT_ACCELERATOR MAKEINTRESOURCE(9)
-#define RT_RCDATA MAKEINTRESOURCE(10)
-#define RT_GROUP_CURSOR MAKEINTRESOURCE(12)
-#define RT_GROUP_ICON MAKEINTRESOURCE(14)
-#define RT_VERSION MAKEINTRESOURCE(16)
-
-#define DONT_RESOLVE_DLL_REFERENCES 0x00000001
-#define LOAD_LIBRARY_AS_DATAFILE 0x00000002
-#define LOAD_WITH_ALTERED_SEARCH_PATH 0x00000008
 
 #define ERROR_SUCCESS 0
 #define NO_ERROR 0
-#define ERROR_INVALID_FUNCTION 1
 #define ERROR_FILE_NOT_FOUND 2
-#define ERROR_PATH_NOT_FOUND 3
 #define ERROR_ACCESS_DENIED 5
 #define ERROR_INVALID_HANDLE 6
 #define ERROR_NOT_ENOUGH_MEMORY 8
 #define ERROR_INVALID_PARAMETER 87
-#define ERROR_CALL_NOT_IMPLEMENTED 120
 #define ERROR_INSUFFICIENT_BUFFER 122
 #define ERROR_MOD_NOT_FOUND 126
 #define ERROR_PROC_NOT_FOUND 127
@@ -1575,64 +921,28 @@ typedef HELPINFO* LPHELPINFO;
 #define ERROR_INVALID_INDEX 1413
 #define ERROR_CONTROL_ID_NOT_FOUND 1421
 #define ERROR_CLIPBOARD_NOT_OPEN 1418
-#define ERROR_WINDOW_NOT_DIALOG 1420
-#define ERROR_RESOURCE_DATA_NOT_FOUND 1812
-#define ERROR_RESOURCE_TYPE_NOT_FOUND 1813
 #define ERROR_RESOURCE_NAME_NOT_FOUND 1814
 
-#define GMEM_FIXED 0x0000
 #define GMEM_MOVEABLE 0x0002
-#define GMEM_ZEROINIT 0x0040
-#define GMEM_DDESHARE 0x2000
-#define GMEM_SHARE 0x2000
-#define GHND (GMEM_MOVEABLE | GMEM_ZEROINIT)
-#define GPTR (GMEM_FIXED | GMEM_ZEROINIT)
 
 #define CF_TEXT 1
-#define CF_BITMAP 2
-#define CF_OEMTEXT 7
-#define CF_UNICODETEXT 13
-#define CF_LOCALE 16
 
 #define HKEY_CLASSES_ROOT ((HKEY)(ULONG_PTR)((LONG)0x80000000))
 #define HKEY_CURRENT_USER ((HKEY)(ULONG_PTR)((LONG)0x80000001))
 #define HKEY_LOCAL_MACHINE ((HKEY)(ULONG_PTR)((LONG)0x80000002))
 #define HKEY_USERS ((HKEY)(ULONG_PTR)((LONG)0x80000003))
-#define KEY_QUERY_VALUE 0x0001
 #define KEY_READ 0x20019
 #define REG_NONE 0
 #define REG_SZ 1
 #define REG_EXPAND_SZ 2
-#define REG_BINARY 3
 #define REG_DWORD 4
-
-#define CP_ACP 0
-#define CP_UTF8 65001
-#define MB_PRECOMPOSED 0x00000001
-#define MB_ERR_INVALID_CHARS 0x00000008
-
-#define WH_MSGFILTER (-1)
-#define WH_KEYBOARD 2
-#define WH_GETMESSAGE 3
-#define WH_CALLWNDPROC 4
-#define WH_CBT 5
-#define WH_FOREGROUNDIDLE 11
-#define HC_ACTION 0
-#define HCBT_CREATEWND 3
-#define HCBT_DESTROYWND 4
-#define HCBT_ACTIVATE 5
-#define HCBT_SETFOCUS 9
 
 // ---------------------------------------------------------------------------------------------------------- functions
 
 // Window classes
 ATOM RegisterClassA(const WNDCLASSA* wndClass);
-ATOM RegisterClassExA(const WNDCLASSEXA* wndClass);
 BOOL UnregisterClassA(LPCSTR className, HINSTANCE instance);
-BOOL GetClassInfoA(HINSTANCE instance, LPCSTR className, WNDCLASSA* wndClass);
 int GetClassNameA(HWND window, LPSTR text, int size);
-ULONG_PTR GetClassLongPtrA(HWND window, int index);
-DWORD GetClassLongA(HWND window, int index);
 
 // Windows: life, relations, properties
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
@@ -1640,27 +950,16 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
 BOOL DestroyWindow(HWND window);
 BOOL IsWindow(HWND window);
 HWND GetParent(HWND window);
-HWND SetParent(HWND window, HWND parent);
-HWND GetAncestor(HWND window, UINT flags);
 HWND GetWindow(HWND window, UINT relation);
-HWND GetTopWindow(HWND window);
 HWND GetDesktopWindow();
 HWND GetLastActivePopup(HWND window);
 BOOL IsChild(HWND parent, HWND window);
 BOOL EnumThreadWindows(DWORD threadId, WNDENUMPROC callback, LPARAM param);
-BOOL EnumWindows(WNDENUMPROC callback, LPARAM param);
-BOOL EnumChildWindows(HWND parent, WNDENUMPROC callback, LPARAM param);
-HWND FindWindowA(LPCSTR className, LPCSTR text);
-HWND FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text);
-HWND WindowFromPoint(POINT point);
-HWND ChildWindowFromPoint(HWND parent, POINT point);
 BOOL EnableWindow(HWND window, BOOL enable);
 BOOL IsWindowEnabled(HWND window);
 BOOL ShowWindow(HWND window, int command);
 BOOL IsWindowVisible(HWND window);
 BOOL IsIconic(HWND window);
-BOOL IsZoomed(HWND window);
-BOOL IsWindowUnicode(HWND window);
 BOOL SetWindowTextA(HWND window, LPCSTR text);
 int GetWindowTextA(HWND window, LPSTR text, int size);
 int GetWindowTextLengthA(HWND window);
@@ -1668,101 +967,60 @@ LONG GetWindowLongA(HWND window, int index);
 LONG SetWindowLongA(HWND window, int index, LONG value);
 LONG_PTR GetWindowLongPtrA(HWND window, int index);
 LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value);
-HANDLE GetPropA(HWND window, LPCSTR name);
-BOOL SetPropA(HWND window, LPCSTR name, HANDLE value);
-HANDLE RemovePropA(HWND window, LPCSTR name);
-DWORD GetWindowThreadProcessId(HWND window, LPDWORD processId);
 DWORD GetCurrentThreadId();
 DWORD GetCurrentProcessId();
-HANDLE GetCurrentProcess();
-HANDLE GetCurrentThread();
 
 // Focus, activation, keyboard and mouse state
 HWND SetFocus(HWND window);
 HWND GetFocus();
 HWND SetActiveWindow(HWND window);
 HWND GetActiveWindow();
-HWND GetForegroundWindow();
-BOOL SetForegroundWindow(HWND window);
-BOOL BringWindowToTop(HWND window);
 HWND SetCapture(HWND window);
 BOOL ReleaseCapture();
 HWND GetCapture();
 SHORT GetKeyState(int key);
-SHORT GetAsyncKeyState(int key);
 BOOL GetKeyboardState(PBYTE keys);
 BOOL SetKeyboardState(LPBYTE keys);
-BOOL GetCursorPos(LPPOINT point);
-BOOL SetCursorPos(int x, int y);
-HCURSOR SetCursor(HCURSOR cursor);
 HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name);
 HICON LoadIconA(HINSTANCE instance, LPCSTR name);
-BOOL CreateCaret(HWND window, HBITMAP bitmap, int width, int height);
-BOOL DestroyCaret();
-BOOL SetCaretPos(int x, int y);
-BOOL GetCaretPos(LPPOINT point);
-BOOL ShowCaret(HWND window);
-BOOL HideCaret(HWND window);
 
 // Geometry
 BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
 BOOL SetWindowPos(HWND window, HWND after, int x, int y, int width, int height, UINT flags);
-HDWP BeginDeferWindowPos(int count);
-HDWP DeferWindowPos(HDWP positions, HWND window, HWND after, int x, int y, int width, int height, UINT flags);
-BOOL EndDeferWindowPos(HDWP positions);
 BOOL GetWindowRect(HWND window, LPRECT rect);
 BOOL GetClientRect(HWND window, LPRECT rect);
 BOOL ScreenToClient(HWND window, LPPOINT point);
 BOOL ClientToScreen(HWND window, LPPOINT point);
 int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count);
-BOOL AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle);
-BOOL AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu);
 int GetSystemMetrics(int index);
 BOOL SystemParametersInfoA(UINT action, UINT param, LPVOID value, UINT flags);
 BOOL SetRect(LPRECT rect, int left, int top, int right, int bottom);
 BOOL SetRectEmpty(LPRECT rect);
-BOOL CopyRect(LPRECT target, const RECT* source);
 BOOL InflateRect(LPRECT rect, int dx, int dy);
 BOOL OffsetRect(LPRECT rect, int dx, int dy);
 BOOL PtInRect(const RECT* rect, POINT point);
 BOOL IsRectEmpty(const RECT* rect);
 BOOL EqualRect(const RECT* a, const RECT* b);
-BOOL IntersectRect(LPRECT target, const RECT* a, const RECT* b);
-BOOL UnionRect(LPRECT target, const RECT* a, const RECT* b);
 
 // Messages
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT SendDlgItemMessageA(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-BOOL PostThreadMessageA(DWORD threadId, UINT message, WPARAM wParam, LPARAM lParam);
 void PostQuitMessage(int exitCode);
 BOOL GetMessageA(LPMSG message, HWND window, UINT first, UINT last);
 BOOL PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove);
-BOOL WaitMessage();
 BOOL TranslateMessage(const MSG* message);
 LRESULT DispatchMessageA(const MSG* message);
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-BOOL CallMsgFilterA(LPMSG message, int code);
-BOOL InSendMessage();
-BOOL ReplyMessage(LRESULT result);
-LPARAM GetMessageExtraInfo();
-DWORD GetMessagePos();
-LONG GetMessageTime();
-UINT RegisterWindowMessageA(LPCSTR name);
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callback);
 BOOL KillTimer(HWND window, UINT_PTR id);
-HHOOK SetWindowsHookExA(int kind, HOOKPROC procedure, HINSTANCE instance, DWORD threadId);
-BOOL UnhookWindowsHookEx(HHOOK hook);
-LRESULT CallNextHookEx(HHOOK hook, int code, WPARAM wParam, LPARAM lParam);
 
 // Dialogs
 HWND CreateDialogIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
                                 LPARAM param);
-HWND CreateDialogParamA(HINSTANCE instance, LPCSTR name, HWND owner, DLGPROC procedure, LPARAM param);
 INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
                                 LPARAM param);
-INT_PTR DialogBoxParamA(HINSTANCE instance, LPCSTR name, HWND owner, DLGPROC procedure, LPARAM param);
 BOOL EndDialog(HWND dialog, INT_PTR result);
 LRESULT DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL IsDialogMessageA(HWND dialog, LPMSG message);
@@ -1775,8 +1033,6 @@ UINT IsDlgButtonChecked(HWND dialog, int id);
 BOOL CheckRadioButton(HWND dialog, int first, int last, int checked);
 BOOL SetDlgItemTextA(HWND dialog, int id, LPCSTR text);
 UINT GetDlgItemTextA(HWND dialog, int id, LPSTR text, int size);
-BOOL SetDlgItemInt(HWND dialog, int id, UINT value, BOOL isSigned);
-UINT GetDlgItemInt(HWND dialog, int id, BOOL* translated, BOOL isSigned);
 BOOL MapDialogRect(HWND dialog, LPRECT rect);
 LONG GetDialogBaseUnits();
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
@@ -1788,58 +1044,38 @@ BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info);
 int SetScrollPos(HWND window, int bar, int position, BOOL redraw);
 int GetScrollPos(HWND window, int bar);
 BOOL SetScrollRange(HWND window, int bar, int low, int high, BOOL redraw);
-BOOL GetScrollRange(HWND window, int bar, LPINT low, LPINT high);
-BOOL EnableScrollBar(HWND window, UINT bar, UINT arrows);
 BOOL ShowScrollBar(HWND window, int bar, BOOL show);
-BOOL GetComboBoxInfo(HWND combo, PCOMBOBOXINFO info);
 
 // Menus
-HMENU CreateMenu();
 HMENU CreatePopupMenu();
 BOOL DestroyMenu(HMENU menu);
 BOOL AppendMenuA(HMENU menu, UINT flags, UINT_PTR id, LPCSTR text);
-BOOL InsertMenuA(HMENU menu, UINT position, UINT flags, UINT_PTR id, LPCSTR text);
-BOOL ModifyMenuA(HMENU menu, UINT position, UINT flags, UINT_PTR id, LPCSTR text);
-BOOL DeleteMenu(HMENU menu, UINT position, UINT flags);
 BOOL EnableMenuItem(HMENU menu, UINT id, UINT flags);
-DWORD CheckMenuItem(HMENU menu, UINT id, UINT flags);
 int GetMenuItemCount(HMENU menu);
 UINT GetMenuItemID(HMENU menu, int position);
 UINT GetMenuState(HMENU menu, UINT id, UINT flags);
 int GetMenuStringA(HMENU menu, UINT id, LPSTR text, int size, UINT flags);
-HMENU GetSubMenu(HMENU menu, int position);
-HMENU LoadMenuA(HINSTANCE instance, LPCSTR name);
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int reserved, HWND owner, const RECT* rect);
-BOOL EndMenu();
 BOOL IsMenu(HMENU menu);
 
 // Painting
 BOOL InvalidateRect(HWND window, const RECT* rect, BOOL erase);
 BOOL ValidateRect(HWND window, const RECT* rect);
 BOOL UpdateWindow(HWND window);
-BOOL RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags);
-BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase);
 HDC BeginPaint(HWND window, LPPAINTSTRUCT paint);
 BOOL EndPaint(HWND window, const PAINTSTRUCT* paint);
 HDC GetDC(HWND window);
-HDC GetWindowDC(HWND window);
 int ReleaseDC(HWND window, HDC dc);
-HWND WindowFromDC(HDC dc);
 HDC CreateCompatibleDC(HDC dc);
 BOOL DeleteDC(HDC dc);
 int SaveDC(HDC dc);
 BOOL RestoreDC(HDC dc, int state);
-HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
 HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);
-HGDIOBJ GetCurrentObject(HDC dc, UINT kind);
 BOOL DeleteObject(HGDIOBJ object);
 HGDIOBJ GetStockObject(int index);
 DWORD GetObjectType(HGDIOBJ object);
 int GetObjectA(HANDLE object, int size, LPVOID buffer);
 HFONT CreateFontIndirectA(const LOGFONTA* font);
-HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic, DWORD underline,
-                  DWORD strikeOut, DWORD charSet, DWORD outPrecision, DWORD clipPrecision, DWORD quality,
-                  DWORD pitchAndFamily, LPCSTR faceName);
 HBRUSH CreateSolidBrush(COLORREF color);
 HPEN CreatePen(int style, int width, COLORREF color);
 COLORREF SetTextColor(HDC dc, COLORREF color);
@@ -1847,58 +1083,33 @@ COLORREF GetTextColor(HDC dc);
 COLORREF SetBkColor(HDC dc, COLORREF color);
 COLORREF GetBkColor(HDC dc);
 int SetBkMode(HDC dc, int mode);
-int GetBkMode(HDC dc);
-UINT SetTextAlign(HDC dc, UINT align);
-UINT GetTextAlign(HDC dc);
 DWORD GetSysColor(int index);
 HBRUSH GetSysColorBrush(int index);
 int GetDeviceCaps(HDC dc, int index);
 BOOL DPtoLP(HDC dc, LPPOINT points, int count);
-BOOL LPtoDP(HDC dc, LPPOINT points, int count);
 BOOL GetTextMetricsA(HDC dc, LPTEXTMETRICA metrics);
-int GetTextFaceA(HDC dc, int size, LPSTR name);
 BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, LPSIZE size);
-BOOL GetTextExtentPointA(HDC dc, LPCSTR text, int length, LPSIZE size);
-BOOL GetTextExtentExPointA(HDC dc, LPCSTR text, int length, int maxExtent, LPINT fit, LPINT extents, LPSIZE size);
-BOOL GetCharWidth32A(HDC dc, UINT first, UINT last, LPINT widths);
 BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int length);
 BOOL ExtTextOutA(HDC dc, int x, int y, UINT options, const RECT* rect, LPCSTR text, UINT length, const INT* widths);
 int DrawTextA(HDC dc, LPCSTR text, int length, LPRECT rect, UINT format);
-LONG TabbedTextOutA(HDC dc, int x, int y, LPCSTR text, int length, int count, const INT* tabs, int origin);
-DWORD GetTabbedTextExtentA(HDC dc, LPCSTR text, int length, int count, const INT* tabs);
 int FillRect(HDC dc, const RECT* rect, HBRUSH brush);
 int FrameRect(HDC dc, const RECT* rect, HBRUSH brush);
-BOOL InvertRect(HDC dc, const RECT* rect);
 BOOL DrawFocusRect(HDC dc, const RECT* rect);
-BOOL DrawEdge(HDC dc, LPRECT rect, UINT edge, UINT flags);
-BOOL DrawFrameControl(HDC dc, LPRECT rect, UINT type, UINT state);
 BOOL Rectangle(HDC dc, int left, int top, int right, int bottom);
-BOOL RoundRect(HDC dc, int left, int top, int right, int bottom, int width, int height);
 BOOL Ellipse(HDC dc, int left, int top, int right, int bottom);
 BOOL Polygon(HDC dc, const POINT* points, int count);
-BOOL Polyline(HDC dc, const POINT* points, int count);
 BOOL MoveToEx(HDC dc, int x, int y, LPPOINT previous);
 BOOL LineTo(HDC dc, int x, int y);
-COLORREF SetPixel(HDC dc, int x, int y, COLORREF color);
-BOOL BitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation);
-BOOL PatBlt(HDC dc, int x, int y, int width, int height, DWORD operation);
-int IntersectClipRect(HDC dc, int left, int top, int right, int bottom);
-int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom);
-BOOL GdiFlush();
 
 // Libraries and resources
 HMODULE LoadLibraryA(LPCSTR path);
-HMODULE LoadLibraryExA(LPCSTR path, HANDLE file, DWORD flags);
 BOOL FreeLibrary(HMODULE module);
 FARPROC GetProcAddress(HMODULE module, LPCSTR name);
 HMODULE GetModuleHandleA(LPCSTR name);
 DWORD GetModuleFileNameA(HMODULE module, LPSTR path, DWORD size);
 HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
-HRSRC FindResourceExA(HMODULE module, LPCSTR type, LPCSTR name, WORD language);
 HGLOBAL LoadResource(HMODULE module, HRSRC resource);
 LPVOID LockResource(HGLOBAL data);
-BOOL FreeResource(HGLOBAL data);
-DWORD SizeofResource(HMODULE module, HRSRC resource);
 int LoadStringA(HINSTANCE instance, UINT id, LPSTR text, int size);
 
 // Clipboard and movable memory
@@ -1908,151 +1119,28 @@ BOOL EmptyClipboard();
 HANDLE SetClipboardData(UINT format, HANDLE data);
 HANDLE GetClipboardData(UINT format);
 BOOL IsClipboardFormatAvailable(UINT format);
-HWND GetClipboardOwner();
 HGLOBAL GlobalAlloc(UINT flags, SIZE_T size);
-HGLOBAL GlobalReAlloc(HGLOBAL memory, SIZE_T size, UINT flags);
 LPVOID GlobalLock(HGLOBAL memory);
 BOOL GlobalUnlock(HGLOBAL memory);
 SIZE_T GlobalSize(HGLOBAL memory);
 HGLOBAL GlobalFree(HGLOBAL memory);
-HGLOBAL GlobalHandle(LPCVOID memory);
 
 // Registry
 LSTATUS RegOpenKeyExA(HKEY key, LPCSTR subKey, DWORD options, REGSAM access, PHKEY result);
-LSTATUS RegOpenKeyA(HKEY key, LPCSTR subKey, PHKEY result);
 LSTATUS RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD reserved, LPDWORD type, LPBYTE data, LPDWORD size);
-LSTATUS RegQueryValueA(HKEY key, LPCSTR subKey, LPSTR data, LONG* size);
 LSTATUS RegCloseKey(HKEY key);
 DWORD ExpandEnvironmentStringsA(LPCSTR source, LPSTR target, DWORD size);
 
 // Text, code pages, system
 BOOL IsDBCSLeadByte(BYTE c);
-BOOL IsDBCSLeadByteEx(UINT codePage, BYTE c);
 UINT GetACP();
-int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int length, LPWSTR wide, int wideSize);
-int WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR wide, int wideLength, LPSTR text, int size,
-                        LPCSTR defaultChar, LPBOOL usedDefault);
-LPSTR CharNextA(LPCSTR text);
-LPSTR CharPrevA(LPCSTR start, LPCSTR text);
-LPSTR CharUpperA(LPSTR text);
-LPSTR CharLowerA(LPSTR text);
-DWORD CharUpperBuffA(LPSTR text, DWORD length);
-int lstrlenA(LPCSTR text);
-LPSTR lstrcpyA(LPSTR target, LPCSTR source);
 LPSTR lstrcpynA(LPSTR target, LPCSTR source, int size);
-LPSTR lstrcatA(LPSTR target, LPCSTR source);
-int lstrcmpA(LPCSTR a, LPCSTR b);
-int lstrcmpiA(LPCSTR a, LPCSTR b);
 DWORD GetLastError();
 void SetLastError(DWORD error);
-DWORD GetTickCount();
-UINT GetDoubleClickTime();
 int MulDiv(int number, int numerator, int denominator);
-void OutputDebugStringA(LPCSTR text);
 
 // The C run-time's current drive (1 = A), from <direct.h>
 int _getdrive();
 int _chdrive(int drive);
-
-// ------------------------------------------------------------------------- names without suffix, as without UNICODE
-
-#define CreateWindowA(cls, text, style, x, y, cx, cy, parent, menu, instance, param)                                   \
-    CreateWindowExA(0, cls, text, style, x, y, cx, cy, parent, menu, instance, param)
-#define CreateDialogA(instance, name, owner, proc) CreateDialogParamA(instance, name, owner, proc, 0)
-#define CreateDialogIndirectA(instance, tmpl, owner, proc) CreateDialogIndirectParamA(instance, tmpl, owner, proc, 0)
-#define DialogBoxA(instance, name, owner, proc) DialogBoxParamA(instance, name, owner, proc, 0)
-#define DialogBoxIndirectA(instance, tmpl, owner, proc) DialogBoxIndirectParamA(instance, tmpl, owner, proc, 0)
-
-#define AppendMenu AppendMenuA
-#define CallMsgFilter CallMsgFilterA
-#define CallWindowProc CallWindowProcA
-#define CharLower CharLowerA
-#define CharNext CharNextA
-#define CharPrev CharPrevA
-#define CharUpper CharUpperA
-#define CharUpperBuff CharUpperBuffA
-#define CreateDialog CreateDialogA
-#define CreateDialogIndirect CreateDialogIndirectA
-#define CreateDialogIndirectParam CreateDialogIndirectParamA
-#define CreateDialogParam CreateDialogParamA
-#define CreateFont CreateFontA
-#define CreateFontIndirect CreateFontIndirectA
-#define CreateWindow CreateWindowA
-#define CreateWindowEx CreateWindowExA
-#define DefDlgProc DefDlgProcA
-#define DefWindowProc DefWindowProcA
-#define DialogBox DialogBoxA
-#define DialogBoxIndirect DialogBoxIndirectA
-#define DialogBoxIndirectParam DialogBoxIndirectParamA
-#define DialogBoxParam DialogBoxParamA
-#define DispatchMessage DispatchMessageA
-#define DrawText DrawTextA
-#define ExtTextOut ExtTextOutA
-#define FindResource FindResourceA
-#define FindResourceEx FindResourceExA
-#define FindWindow FindWindowA
-#define FindWindowEx FindWindowExA
-#define GetCharWidth32 GetCharWidth32A
-#define GetClassInfo GetClassInfoA
-#define GetClassLong GetClassLongA
-#define GetClassLongPtr GetClassLongPtrA
-#define GetClassName GetClassNameA
-#define GetDlgItemText GetDlgItemTextA
-#define GetMenuString GetMenuStringA
-#define GetMessage GetMessageA
-#define GetModuleFileName GetModuleFileNameA
-#define GetModuleHandle GetModuleHandleA
-#define GetObject GetObjectA
-#define GetProp GetPropA
-#define GetTabbedTextExtent GetTabbedTextExtentA
-#define GetTextExtentExPoint GetTextExtentExPointA
-#define GetTextExtentPoint GetTextExtentPointA
-#define GetTextExtentPoint32 GetTextExtentPoint32A
-#define GetTextFace GetTextFaceA
-#define GetTextMetrics GetTextMetricsA
-#define GetWindowLong GetWindowLongA
-#define GetWindowLongPtr GetWindowLongPtrA
-#define GetWindowText GetWindowTextA
-#define GetWindowTextLength GetWindowTextLengthA
-#define InsertMenu InsertMenuA
-#define IsDialogMessage IsDialogMessageA
-#define LoadCursor LoadCursorA
-#define LoadIcon LoadIconA
-#define LoadLibrary LoadLibraryA
-#define LoadLibraryEx LoadLibraryExA
-#define LoadMenu LoadMenuA
-#define LoadString LoadStringA
-#define MessageBox MessageBoxA
-#define ModifyMenu ModifyMenuA
-#define OutputDebugString OutputDebugStringA
-#define PeekMessage PeekMessageA
-#define PostMessage PostMessageA
-#define PostThreadMessage PostThreadMessageA
-#define RegOpenKey RegOpenKeyA
-#define RegOpenKeyEx RegOpenKeyExA
-#define RegQueryValue RegQueryValueA
-#define RegQueryValueEx RegQueryValueExA
-#define RegisterClass RegisterClassA
-#define RegisterClassEx RegisterClassExA
-#define RegisterWindowMessage RegisterWindowMessageA
-#define RemoveProp RemovePropA
-#define SendDlgItemMessage SendDlgItemMessageA
-#define SendMessage SendMessageA
-#define SetDlgItemText SetDlgItemTextA
-#define SetProp SetPropA
-#define SetWindowLong SetWindowLongA
-#define SetWindowLongPtr SetWindowLongPtrA
-#define SetWindowText SetWindowTextA
-#define SetWindowsHookEx SetWindowsHookExA
-#define SystemParametersInfo SystemParametersInfoA
-#define TabbedTextOut TabbedTextOutA
-#define TextOut TextOutA
-#define UnregisterClass UnregisterClassA
-#define lstrcat lstrcatA
-#define lstrcmp lstrcmpA
-#define lstrcmpi lstrcmpiA
-#define lstrcpy lstrcpyA
-#define lstrcpyn lstrcpynA
-#define lstrlen lstrlenA
 
 // NOLINTEND(bugprone-reserved-identifier)

@@ -115,7 +115,6 @@ void Destroy(Window& window)
     const Pin pin(&window);
     window.dying = true;
 
-    RunHooks(WH_CBT, HCBT_DESTROYWND, reinterpret_cast<WPARAM>(handle), 0);
     if (window.IsChild() && !(window.exStyle & WS_EX_NOPARENTNOTIFY))
         Send(ParentOf(window), WM_PARENTNOTIFY, MAKEWPARAM(WM_DESTROY, window.id), reinterpret_cast<LPARAM>(handle));
     if (window.dead)
@@ -332,7 +331,6 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     window->handle = handle;
     window->windowClass = windowClass;
     window->procedure = windowClass->procedure;
-    window->instance = instance;
     window->style = style & ~WS_VISIBLE;
     window->exStyle = exStyle;
     window->id = reinterpret_cast<LONG_PTR>(menuOrId);
@@ -358,16 +356,6 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     create.lpszName = text;
     create.lpszClass = IS_INTRESOURCE(className) ? windowClass->name.c_str() : className;
     create.dwExStyle = exStyle;
-
-    CBT_CREATEWNDA hookData{&create, isChild ? HWND_BOTTOM : HWND_TOP};
-    LRESULT refused = 0;
-    if (RunHooks(WH_CBT, HCBT_CREATEWND, reinterpret_cast<WPARAM>(handle), reinterpret_cast<LPARAM>(&hookData),
-                 &refused) &&
-        refused)
-    {
-        Bury(*window);
-        return nullptr;
-    }
 
     const auto createParam = reinterpret_cast<LPARAM>(&create);
     if (!Send(handle, WM_NCCREATE, 0, createParam))

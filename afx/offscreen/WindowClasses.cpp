@@ -22,7 +22,7 @@ ATOM NextAtom()
     return ++atom;
 }
 
-ATOM Register(const WNDCLASSEXA& definition)
+ATOM Register(const WNDCLASSA& definition)
 {
     if (!definition.lpszClassName || !definition.lpfnWndProc)
     {
@@ -37,13 +37,8 @@ ATOM Register(const WNDCLASSEXA& definition)
     WindowClass windowClass;
     windowClass.name = definition.lpszClassName;
     windowClass.atom = NextAtom();
-    windowClass.style = definition.style;
     windowClass.procedure = definition.lpfnWndProc;
-    windowClass.classExtra = definition.cbClsExtra;
     windowClass.windowExtra = definition.cbWndExtra;
-    windowClass.instance = definition.hInstance;
-    windowClass.icon = definition.hIcon;
-    windowClass.cursor = definition.hCursor;
     windowClass.background = definition.hbrBackground;
     Classes().push_front(std::move(windowClass)); // Before a standard class of the same name.
     return Classes().front().atom;
@@ -60,12 +55,11 @@ WindowClass* FindClass(LPCSTR name)
     return nullptr;
 }
 
-void RegisterBuiltIn(const char* name, WNDPROC procedure, UINT style, int windowExtra, int atom)
+void RegisterBuiltIn(const char* name, WNDPROC procedure, int windowExtra, int atom)
 {
     WindowClass windowClass;
     windowClass.name = name;
     windowClass.atom = atom ? static_cast<ATOM>(atom) : NextAtom();
-    windowClass.style = style;
     windowClass.procedure = procedure;
     windowClass.windowExtra = windowExtra;
     windowClass.builtIn = true;
@@ -74,45 +68,26 @@ void RegisterBuiltIn(const char* name, WNDPROC procedure, UINT style, int window
 
 void RegisterStandardClasses()
 {
-    RegisterBuiltIn("Button", ButtonProc, CS_DBLCLKS | CS_VREDRAW | CS_HREDRAW | CS_PARENTDC, 0);
-    RegisterBuiltIn("Static", StaticProc, CS_DBLCLKS | CS_PARENTDC, 0);
-    RegisterBuiltIn("Edit", EditProc, CS_DBLCLKS | CS_PARENTDC, 0);
-    RegisterBuiltIn("ComboBox", ComboBoxProc, CS_DBLCLKS | CS_VREDRAW | CS_HREDRAW | CS_PARENTDC, 0);
-    RegisterBuiltIn("ListBox", ListBoxProc, CS_DBLCLKS, 0);
-    RegisterBuiltIn("ComboLBox", ListBoxProc, CS_DBLCLKS | CS_SAVEBITS, 0);
-    RegisterBuiltIn("ScrollBar", ScrollBarProc, CS_DBLCLKS | CS_VREDRAW | CS_HREDRAW | CS_PARENTDC, 0);
-    RegisterBuiltIn("#32770", DefDlgProcA, CS_DBLCLKS | CS_SAVEBITS, DLGWINDOWEXTRA, 0x8002);
-    RegisterBuiltIn("#32769", DefWindowProcA, 0, 0, 0x8001);
-    RegisterBuiltIn("Message", DefWindowProcA, 0, 0);
+    RegisterBuiltIn("Button", ButtonProc);
+    RegisterBuiltIn("Static", StaticProc);
+    RegisterBuiltIn("Edit", EditProc);
+    RegisterBuiltIn("ComboBox", ComboBoxProc);
+    RegisterBuiltIn("ListBox", ListBoxProc);
+    RegisterBuiltIn("ComboLBox", ListBoxProc);
+    RegisterBuiltIn("ScrollBar", ScrollBarProc);
+    RegisterBuiltIn("#32770", DefDlgProcA, DLGWINDOWEXTRA, 0x8002);
+    RegisterBuiltIn("#32769", DefWindowProcA, 0, 0x8001);
+    RegisterBuiltIn("Message", DefWindowProcA);
 }
 } // namespace offscreen
 
 using namespace offscreen;
 
-ATOM RegisterClassExA(const WNDCLASSEXA* wndClass)
-{
-    Inside inside;
-    DesktopWindow();
-    return Register(*wndClass);
-}
-
 ATOM RegisterClassA(const WNDCLASSA* wndClass)
 {
     Inside inside;
     DesktopWindow();
-    WNDCLASSEXA extended{};
-    extended.cbSize = sizeof extended;
-    extended.style = wndClass->style;
-    extended.lpfnWndProc = wndClass->lpfnWndProc;
-    extended.cbClsExtra = wndClass->cbClsExtra;
-    extended.cbWndExtra = wndClass->cbWndExtra;
-    extended.hInstance = wndClass->hInstance;
-    extended.hIcon = wndClass->hIcon;
-    extended.hCursor = wndClass->hCursor;
-    extended.hbrBackground = wndClass->hbrBackground;
-    extended.lpszMenuName = wndClass->lpszMenuName;
-    extended.lpszClassName = wndClass->lpszClassName;
-    return Register(extended);
+    return Register(*wndClass);
 }
 
 BOOL UnregisterClassA(LPCSTR className, HINSTANCE)
@@ -134,29 +109,6 @@ BOOL UnregisterClassA(LPCSTR className, HINSTANCE)
     return TRUE;
 }
 
-BOOL GetClassInfoA(HINSTANCE, LPCSTR className, WNDCLASSA* wndClass)
-{
-    Inside inside;
-    DesktopWindow();
-    const WindowClass* windowClass = FindClass(className);
-    if (!windowClass)
-    {
-        SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
-        return FALSE;
-    }
-    *wndClass = WNDCLASSA{};
-    wndClass->style = windowClass->style;
-    wndClass->lpfnWndProc = windowClass->procedure;
-    wndClass->cbClsExtra = windowClass->classExtra;
-    wndClass->cbWndExtra = windowClass->windowExtra;
-    wndClass->hInstance = windowClass->instance;
-    wndClass->hIcon = windowClass->icon;
-    wndClass->hCursor = windowClass->cursor;
-    wndClass->hbrBackground = windowClass->background;
-    wndClass->lpszClassName = className;
-    return TRUE;
-}
-
 int GetClassNameA(HWND window, LPSTR text, int size)
 {
     Inside inside;
@@ -165,26 +117,3 @@ int GetClassNameA(HWND window, LPSTR text, int size)
         return 0;
     return CopyText(found->windowClass->name, text, static_cast<std::size_t>(size));
 }
-
-ULONG_PTR GetClassLongPtrA(HWND window, int index)
-{
-    Inside inside;
-    const Window* found = Lookup(window);
-    if (!found)
-        return 0;
-    switch (index)
-    {
-    case GCL_STYLE:
-        return found->windowClass->style;
-    case GCLP_HBRBACKGROUND:
-        return reinterpret_cast<ULONG_PTR>(found->windowClass->background);
-    case GCLP_HCURSOR:
-        return reinterpret_cast<ULONG_PTR>(found->windowClass->cursor);
-    case GCLP_WNDPROC:
-        return reinterpret_cast<ULONG_PTR>(found->windowClass->procedure);
-    default:
-        return NotModelled("GetClassLong with this index", 0);
-    }
-}
-
-DWORD GetClassLongA(HWND window, int index) { return static_cast<DWORD>(GetClassLongPtrA(window, index)); }

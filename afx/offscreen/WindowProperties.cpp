@@ -54,14 +54,6 @@ BOOL IsIconic(HWND window)
     return found && (found->style & WS_MINIMIZE);
 }
 
-BOOL IsZoomed(HWND window)
-{
-    const Window* found = Find(window);
-    return found && (found->style & WS_MAXIMIZE);
-}
-
-BOOL IsWindowUnicode(HWND) { return FALSE; }
-
 BOOL SetWindowTextA(HWND window, LPCSTR text)
 {
     Inside inside;
@@ -91,7 +83,9 @@ namespace
 {
 LONG_PTR ReadExtra(const Window& window, int index, std::size_t size)
 {
-    if (index < 0 || static_cast<std::size_t>(index) + size > window.extra.size())
+    if (index < 0)
+        return NotModelled("GetWindowLong with this index", 0);
+    if (static_cast<std::size_t>(index) + size > window.extra.size())
     {
         SetLastError(ERROR_INVALID_INDEX);
         return 0;
@@ -117,8 +111,6 @@ LONG_PTR GetLong(HWND window, int index, std::size_t size)
     {
     case GWLP_WNDPROC:
         return reinterpret_cast<LONG_PTR>(found->procedure);
-    case GWLP_HINSTANCE:
-        return reinterpret_cast<LONG_PTR>(found->instance);
     case GWLP_HWNDPARENT:
         return reinterpret_cast<LONG_PTR>(GetParent(window));
     case GWLP_ID:
@@ -144,9 +136,6 @@ LONG_PTR SetLong(HWND window, int index, LONG_PTR value, std::size_t size)
     {
     case GWLP_WNDPROC:
         found->procedure = reinterpret_cast<WNDPROC>(value);
-        break;
-    case GWLP_HINSTANCE:
-        found->instance = reinterpret_cast<HINSTANCE>(value);
         break;
     case GWLP_HWNDPARENT:
         found->owner = reinterpret_cast<HWND>(value);
@@ -207,64 +196,5 @@ LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value)
     return SetLong(window, index, value, sizeof(LONG_PTR));
 }
 
-namespace
-{
-std::string PropertyKey(LPCSTR name) { return IS_INTRESOURCE(name) ? "#" + std::to_string(LOWORD(name)) : name; }
-} // namespace
-
-HANDLE GetPropA(HWND window, LPCSTR name)
-{
-    Inside inside;
-    if (const Window* found = Lookup(window))
-        for (const auto& [key, value] : found->properties)
-            if (key == PropertyKey(name))
-                return value;
-    return nullptr;
-}
-
-BOOL SetPropA(HWND window, LPCSTR name, HANDLE value)
-{
-    Inside inside;
-    Window* found = Lookup(window);
-    if (!found)
-        return FALSE;
-    for (auto& [key, old] : found->properties)
-        if (key == PropertyKey(name))
-        {
-            old = value;
-            return TRUE;
-        }
-    found->properties.emplace_back(PropertyKey(name), value);
-    return TRUE;
-}
-
-HANDLE RemovePropA(HWND window, LPCSTR name)
-{
-    Inside inside;
-    Window* found = Lookup(window);
-    if (!found)
-        return nullptr;
-    for (auto it = found->properties.begin(); it != found->properties.end(); ++it)
-        if (it->first == PropertyKey(name))
-        {
-            const HANDLE value = it->second;
-            found->properties.erase(it);
-            return value;
-        }
-    return nullptr;
-}
-
 DWORD GetCurrentThreadId() { return 0x24; }
 DWORD GetCurrentProcessId() { return 0x20; }
-HANDLE GetCurrentProcess() { return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1)); }
-HANDLE GetCurrentThread() { return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-2)); }
-
-DWORD GetWindowThreadProcessId(HWND window, LPDWORD processId)
-{
-    Inside inside;
-    if (!Lookup(window))
-        return 0;
-    if (processId)
-        *processId = GetCurrentProcessId();
-    return GetCurrentThreadId();
-}

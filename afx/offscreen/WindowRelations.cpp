@@ -2,7 +2,27 @@
 
 #include "afx/offscreen/Internal.h"
 
-#include <strings.h>
+namespace offscreen
+{
+namespace
+{
+void CollectDescendants(const Window& window, std::vector<HWND>& found)
+{
+    for (const Window* child = window.firstChild; child; child = child->next)
+    {
+        found.push_back(child->handle);
+        CollectDescendants(*child, found);
+    }
+}
+} // namespace
+
+std::vector<HWND> DescendantsOf(const Window& window)
+{
+    std::vector<HWND> descendants;
+    CollectDescendants(window, descendants);
+    return descendants;
+}
+} // namespace offscreen
 
 using namespace offscreen;
 
@@ -21,34 +41,6 @@ HWND GetParent(HWND window)
     return nullptr;
 }
 
-HWND SetParent(HWND window, HWND parent)
-{
-    Inside inside;
-    Window* found = Lookup(window);
-    Window* newParent = parent ? Lookup(parent) : &DesktopWindow();
-    if (!found || !newParent || found == newParent || IsChild(window, parent))
-        return nullptr;
-    const HWND before = ParentOf(*found);
-    Unlink(*found);
-    found->parent = newParent;
-    Link(*found, nullptr);
-    return before;
-}
-
-HWND GetAncestor(HWND window, UINT flags)
-{
-    Inside inside;
-    Window* found = Lookup(window);
-    if (!found || !found->parent)
-        return nullptr;
-    if (flags == GA_PARENT)
-        return ParentOf(*found);
-    Window* root = RootOf(found);
-    while (flags == GA_ROOTOWNER && root->owner && Find(root->owner))
-        root = RootOf(Find(root->owner));
-    return root->handle;
-}
-
 HWND GetWindow(HWND window, UINT relation)
 {
     Inside inside;
@@ -58,12 +50,6 @@ HWND GetWindow(HWND window, UINT relation)
     const Window* result = nullptr;
     switch (relation)
     {
-    case GW_HWNDFIRST:
-        result = found->parent ? found->parent->firstChild : nullptr;
-        break;
-    case GW_HWNDLAST:
-        result = found->parent ? found->parent->lastChild : nullptr;
-        break;
     case GW_HWNDNEXT:
         result = found->next;
         break;
@@ -75,19 +61,11 @@ HWND GetWindow(HWND window, UINT relation)
         break;
     case GW_OWNER:
         return found->owner;
-    case GW_ENABLEDPOPUP:
-        for (const Window* w = DesktopWindow().firstChild; w; w = w->next)
-            if (w->owner == window && (w->style & WS_VISIBLE) && !(w->style & WS_DISABLED))
-                return w->handle;
-        return window;
     default:
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+        return NotModelled("GetWindow with this relation", HWND{});
     }
     return result ? result->handle : nullptr;
 }
-
-HWND GetTopWindow(HWND window) { return GetWindow(window ? window : GetDesktopWindow(), GW_CHILD); }
 
 HWND GetDesktopWindow()
 {
@@ -131,70 +109,10 @@ BOOL Enumerate(const std::vector<HWND>& windows, WNDENUMPROC callback, LPARAM pa
     }
     return TRUE;
 }
-
-void CollectDescendants(const Window& window, std::vector<HWND>& found)
-{
-    for (const Window* child = window.firstChild; child; child = child->next)
-    {
-        found.push_back(child->handle);
-        CollectDescendants(*child, found);
-    }
-}
-
-bool Matches(const Window& window, LPCSTR className, LPCSTR text)
-{
-    const WindowClass* windowClass = className ? FindClass(className) : nullptr;
-    if (className && window.windowClass != windowClass)
-        return false;
-    return !text || strcasecmp(window.text.c_str(), text) == 0;
-}
 } // namespace
-
-BOOL EnumWindows(WNDENUMPROC callback, LPARAM param)
-{
-    Inside inside;
-    return Enumerate(ChildrenOf(DesktopWindow()), callback, param);
-}
 
 BOOL EnumThreadWindows(DWORD threadId, WNDENUMPROC callback, LPARAM param)
 {
-    return threadId == GetCurrentThreadId() ? EnumWindows(callback, param) : FALSE;
-}
-
-BOOL EnumChildWindows(HWND parent, WNDENUMPROC callback, LPARAM param)
-{
     Inside inside;
-    const Window* found = parent ? Lookup(parent) : &DesktopWindow();
-    if (!found)
-        return FALSE;
-    std::vector<HWND> windows;
-    CollectDescendants(*found, windows);
-    return Enumerate(windows, callback, param);
+    return threadId == GetCurrentThreadId() ? Enumerate(ChildrenOf(DesktopWindow()), callback, param) : FALSE;
 }
-
-HWND FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text)
-{
-    Inside inside;
-    if (!parent && !after) // Then message-only windows are looked through as well.
-    {
-        const HWND found = FindWindowExA(DesktopWindow().handle, nullptr, className, text);
-        return found ? found : FindWindowExA(HWND_MESSAGE, nullptr, className, text);
-    }
-    const Window* parentWindow = parent == HWND_MESSAGE ? &MessageRoot() : parent ? Lookup(parent) : &DesktopWindow();
-    if (!parentWindow)
-        return nullptr;
-    const Window* start = parentWindow->firstChild;
-    if (after)
-    {
-        const Window* afterWindow = Lookup(after);
-        if (!afterWindow || afterWindow->parent != parentWindow)
-            return nullptr;
-        start = afterWindow->next;
-    }
-    for (const Window* window = start; window; window = window->next)
-        if (Matches(*window, className, text))
-            return window->handle;
-    return nullptr;
-}
-
-HWND FindWindowA(LPCSTR className, LPCSTR text) { return FindWindowExA(nullptr, nullptr, className, text); }

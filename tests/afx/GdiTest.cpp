@@ -132,8 +132,6 @@ TEST_F(GdiTest, DeviceContextsOfWindowsAreGivenBack)
         EXPECT_EQ(CDC::FromHandle(dc->m_hDC), dc);
         EXPECT_TRUE(m_window.ReleaseDC(dc));
     });
-    CWindowDC whole(&m_window);
-    EXPECT_NE(whole.m_hDC, nullptr);
 }
 
 TEST_F(GdiTest, ADeadWindowHasNoDeviceContext)

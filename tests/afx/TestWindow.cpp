@@ -4,22 +4,16 @@ BEGIN_MESSAGE_MAP(CTestWindow, CWnd)
 ON_MESSAGE(WM_APP, &CTestWindow::OnRun)
 ON_MESSAGE(WM_APP + 1, &CTestWindow::OnAdd)
 ON_COMMAND(1, &CTestWindow::OnCommand1)
-ON_COMMAND_RANGE(10, 12, &CTestWindow::OnRange)
 ON_BN_CLICKED(20, &CTestWindow::OnClicked)
-ON_BN_DOUBLECLICKED(20, &CTestWindow::OnDoubleClicked)
 ON_CONTROL_RANGE(EN_CHANGE, 30, 32, &CTestWindow::OnEditRange)
 ON_CBN_SELCHANGE(40, &CTestWindow::OnSelChange)
 ON_EN_KILLFOCUS(41, &CTestWindow::OnKillFocusOfEdit)
-ON_WM_CLOSE()
-ON_WM_DESTROY()
 ON_WM_TIMER()
 ON_WM_CTLCOLOR()
 ON_WM_VSCROLL()
-ON_WM_HSCROLL()
 ON_WM_HELPINFO()
 ON_WM_CONTEXTMENU()
 ON_WM_LBUTTONDOWN()
-ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 void CTestWindow::Log(LPCSTR format, ...)
@@ -38,12 +32,6 @@ LRESULT CTestWindow::OnRun(WPARAM, LPARAM)
     return 7;
 }
 
-void CTestWindow::OnDestroy()
-{
-    Log("destroy");
-    CWnd::OnDestroy();
-}
-
 HBRUSH CTestWindow::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
 {
     Log("ctlcolor %u %d", kind, control ? control->GetDlgCtrlID() : -1);
@@ -54,11 +42,6 @@ HBRUSH CTestWindow::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
 void CTestWindow::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 {
     Log("vscroll %u %u %d", code, position, bar ? bar->GetDlgCtrlID() : -1);
-}
-
-void CTestWindow::OnHScroll(UINT code, UINT position, CScrollBar* bar)
-{
-    Log("hscroll %u %u %d", code, position, bar ? bar->GetDlgCtrlID() : -1);
 }
 
 BOOL CTestWindow::OnHelpInfo(HELPINFO* info)

@@ -36,22 +36,16 @@ protected:
     LRESULT OnRun(WPARAM, LPARAM);
     LRESULT OnAdd(WPARAM wParam, LPARAM lParam) { return static_cast<LRESULT>(wParam) + lParam; }
     void OnCommand1() { Log("command 1"); }
-    void OnRange(UINT id) { Log("range %u", id); }
     void OnClicked() { Log("clicked"); }
-    void OnDoubleClicked() { Log("double-clicked"); }
     void OnEditRange(UINT id) { Log("edit %u", id); }
     void OnSelChange() { Log("selchange"); }
     void OnKillFocusOfEdit() { Log("killfocus"); }
-    void OnClose() { Log("close"); }
-    void OnDestroy();
     void OnTimer(UINT_PTR id) { Log("timer %u", static_cast<UINT>(id)); }
     HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     void OnVScroll(UINT code, UINT position, CScrollBar* bar);
-    void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     BOOL OnHelpInfo(HELPINFO* info);
     void OnContextMenu(CWnd* window, CPoint point);
     void OnLButtonDown(UINT flags, CPoint point);
-    void OnSize(UINT type, int width, int height) { Log("size %u %d %d", type, width, height); }
     void PostNcDestroy() override { Log("gone, attached: %d", m_hWnd != nullptr); }
 
 private:

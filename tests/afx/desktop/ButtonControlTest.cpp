@@ -13,7 +13,6 @@ protected:
                      .Control(kButton, 2, "&Back", BS_PUSHBUTTON | WS_TABSTOP)
                      .Control(kButton, 10, "auto", BS_AUTOCHECKBOX | WS_TABSTOP)
                      .Control(kButton, 11, "manual", BS_CHECKBOX | WS_TABSTOP)
-                     .Control(kButton, 12, "three", BS_AUTO3STATE | WS_TABSTOP)
                      .Control(kButton, 13, "group", BS_GROUPBOX)
                      .Control(kButton, 20, "a", BS_AUTORADIOBUTTON | WS_GROUP | WS_TABSTOP)
                      .Control(kButton, 21, "b", BS_AUTORADIOBUTTON)
@@ -55,12 +54,6 @@ TEST_F(ButtonControl, CheckBoxesChange)
     EXPECT_EQ(dialog.Log(), "10:0 10:0");
     Click(11); // The program checks this one itself.
     EXPECT_EQ(Checked(11), 0u);
-    Click(12);
-    EXPECT_EQ(Checked(12), 1u);
-    Click(12);
-    EXPECT_EQ(Checked(12), 2u);
-    Click(12);
-    EXPECT_EQ(Checked(12), 0u);
 }
 
 TEST_F(ButtonControl, CheckingByTheProgramIsSilent)

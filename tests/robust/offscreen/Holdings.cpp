@@ -11,10 +11,10 @@ extern "C" size_t __sanitizer_get_current_allocated_bytes(); // the compiler bri
 Holdings CurrentHoldings()
 {
     const offscreen::Counts live = offscreen::Live();
-    return {{"windows", live.windows}, {"fonts", live.fonts},       {"brushes", live.brushes},
-            {"pens", live.pens},       {"bitmaps", live.bitmaps},   {"device contexts", live.dcs},
-            {"menus", live.menus},     {"libraries", live.modules}, {"timers", live.timers},
-            {"hooks", live.hooks},     {"globals", live.globals},   {"registry keys", live.keys}};
+    return {{"windows", live.windows},   {"fonts", live.fonts},         {"brushes", live.brushes},
+            {"pens", live.pens},         {"device contexts", live.dcs}, {"menus", live.menus},
+            {"libraries", live.modules}, {"timers", live.timers},       {"globals", live.globals},
+            {"registry keys", live.keys}};
 }
 
 size_t AllocatedBytes()
