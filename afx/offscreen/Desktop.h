@@ -83,12 +83,6 @@ int LoadAttempts();
 // The tab stops of a list box in dialog units, as LB_SETTABSTOPS received them.
 std::vector<int> TabStops(HWND listBox);
 
-// Number of MessageBeep calls since the last Reset.
-int Beeps();
-
-// Messages in the queue.
-std::size_t QueuedMessages();
-
 // Text that has been drawn into a window (by TextOut, ExtTextOut, DrawText) since its last BeginPaint or WM_DRAWITEM.
 struct DrawnText
 {

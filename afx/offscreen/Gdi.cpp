@@ -83,10 +83,7 @@ HGDIOBJ Stock(int index)
     {
         state.stock[index] = MakeStock(index);
         if (GdiObject* object = ObjectOf(state.stock[index]))
-        {
             object->stock = true;
-            ++state.stockObjects;
-        }
     }
     return state.stock[index];
 }

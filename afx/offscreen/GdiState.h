@@ -39,7 +39,6 @@ struct GdiState
     HandleTable<Dc> dcs{2};
     HGDIOBJ stock[DEFAULT_GUI_FONT + 1] = {};
     HBRUSH systemBrushes[COLOR_INFOBK + 1] = {};
-    int stockObjects = 0;
     bool recording = false;
     std::map<HWND, std::vector<DrawnText>> drawn;
 };

@@ -232,7 +232,6 @@ void ReportHang(const char* where)
 void ResetMessages() { State() = MessageState{}; }
 
 int CountTimers() { return static_cast<int>(State().timers.size()); }
-std::size_t QueuedMessages() { return State().queue.size(); }
 } // namespace offscreen
 
 using namespace offscreen;
