@@ -157,7 +157,6 @@ private:
     HWND Current() const { return m_stage.empty() ? nullptr : m_stage.back(); }
     HWND Control(UINT id);
     HWND UsableControl(UINT id);
-    HWND UsableList(UINT id, bool& isCombo);
     void Notify(UINT id, HWND control, UINT code);
     bool PreTranslate(MSG* message) const;
 

@@ -14,8 +14,9 @@ else()
 endif()
 file(GLOB afx_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/afx/*.cpp ${PROJECT_SOURCE_DIR}/afx/${desktop}/*.cpp)
 file(GLOB_RECURSE wizard_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/dialogs/*.cpp)
-set(robot_sources ${PROJECT_SOURCE_DIR}/afx/DialogRobot.cpp ${PROJECT_SOURCE_DIR}/afx/${desktop}/Console.cpp
-                  ${PROJECT_SOURCE_DIR}/afx/${desktop}/Screenshot.cpp)
+file(GLOB robot_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/afx/DialogRobot*.cpp)
+list(APPEND robot_sources ${PROJECT_SOURCE_DIR}/afx/${desktop}/Console.cpp
+                          ${PROJECT_SOURCE_DIR}/afx/${desktop}/Screenshot.cpp)
 list(REMOVE_ITEM afx_sources ${robot_sources})
 if(PEXLO_WITH_MFC)
     list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|HtmlHelp|System|win32/ExceptionMemory)\\.cpp$")

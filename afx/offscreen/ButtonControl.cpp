@@ -216,11 +216,9 @@ LRESULT HandleFocus(Window& button, bool gained)
     return 0;
 }
 
-LRESULT HandleKey(Window& button, bool down, WPARAM key)
+LRESULT HandleSpace(Window& button, bool down)
 {
     auto& state = *StateOf<ButtonState>(button);
-    if (key != VK_SPACE)
-        return 0;
     if (down)
     {
         state.spaceHeld = true;
@@ -248,60 +246,11 @@ LRESULT Create(Window& button)
     button.control = std::make_unique<ButtonState>();
     return 0;
 }
-} // namespace
 
-LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT HandleMouse(Window& button, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    Inside inside;
-    Window* window = Find(handle);
-    if (!window)
-        return 0;
-    Window& button = *window;
-    const Pin pin(window);
-    if (message == WM_CREATE)
-        return Create(button);
-    auto* state = StateOf<ButtonState>(button);
-    if (!state)
-        return DefWindowProcA(handle, message, wParam, lParam);
-
     switch (message)
     {
-    case WM_GETDLGCODE:
-        return DialogCodeOf(button);
-    case WM_ENABLE:
-        Invalidate(button);
-        return 0;
-    case WM_SETFONT:
-        button.font = reinterpret_cast<HFONT>(wParam);
-        if (lParam)
-            Invalidate(button);
-        return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(button.font);
-    case WM_ERASEBKGND:
-        return TRUE;
-    case WM_PAINT: {
-        PAINTSTRUCT paint;
-        const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
-        PaintOn(button, dc, ODA_DRAWENTIRE);
-        if (!wParam)
-            EndPaint(handle, &paint);
-        return 0;
-    }
-
-    case WM_SETFOCUS:
-        return HandleFocus(button, true);
-    case WM_KILLFOCUS:
-        return HandleFocus(button, false);
-    case WM_KEYDOWN:
-        if (wParam == VK_SPACE)
-            return HandleKey(button, true, wParam);
-        return DefWindowProcA(handle, message, wParam, lParam);
-    case WM_KEYUP:
-        if (wParam == VK_SPACE)
-            return HandleKey(button, false, wParam);
-        return DefWindowProcA(handle, message, wParam, lParam);
-
     case WM_LBUTTONDBLCLK:
         if ((button.style & BS_NOTIFY) || IsRadio(KindOf(button)) || KindOf(button) == BS_OWNERDRAW)
         {
@@ -315,40 +264,78 @@ LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
     case WM_LBUTTONUP:
         ReleaseMouse(button, lParam);
         return 0;
-    case WM_MOUSEMOVE:
-        if (GetCapture() == handle && (wParam & MK_LBUTTON))
+    default: // WM_MOUSEMOVE
+        if (GetCapture() == button.handle && (wParam & MK_LBUTTON))
             SetPushed(button, IsOver(button, lParam));
         return 0;
-    case WM_CAPTURECHANGED:
-        if (state->pushed)
-            SetPushed(button, false);
-        return 0;
-    case WM_NCHITTEST:
-        return KindOf(button) == BS_GROUPBOX ? HTTRANSPARENT : HTCLIENT;
+    }
+}
 
+LRESULT HandleButtonMessage(Window& button, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const auto& state = *StateOf<ButtonState>(button);
+    switch (message)
+    {
     case BM_CLICK:
         Click(button);
         return 0;
     case BM_GETCHECK:
-        return static_cast<LRESULT>(state->check);
+        return static_cast<LRESULT>(state.check);
     case BM_SETCHECK:
         SetCheck(button, static_cast<UINT>(wParam));
         return 0;
     case BM_GETSTATE:
-        return static_cast<LRESULT>(state->check | (state->pushed ? BST_PUSHED : 0u) |
-                                    (state->focused ? BST_FOCUS : 0u));
+        return static_cast<LRESULT>(state.check | (state.pushed ? BST_PUSHED : 0u) | (state.focused ? BST_FOCUS : 0u));
     case BM_SETSTYLE:
         button.style = (button.style & ~BS_TYPEMASK) | (static_cast<UINT>(wParam) & BS_TYPEMASK);
         if (lParam)
             Invalidate(button);
         return 0;
     default:
-        if (message >= BM_GETCHECK && message <= BM_SETIMAGE)
-        {
-            Fail("not modelled: button message 0x%04X", message);
-            return 0;
-        }
-        return DefWindowProcA(handle, message, wParam, lParam);
+        Fail("not modelled: button message 0x%04X", message);
+        return 0;
     }
+}
+
+void PaintWhole(Window& button, HDC dc) { PaintOn(button, dc, ODA_DRAWENTIRE); }
+
+LRESULT Handle(Window& button, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message >= BM_GETCHECK && message <= BM_SETIMAGE)
+        return HandleButtonMessage(button, message, wParam, lParam);
+    switch (message)
+    {
+    case WM_GETDLGCODE:
+        return DialogCodeOf(button);
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+        return HandleFocus(button, message == WM_SETFOCUS);
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+        if (wParam == VK_SPACE)
+            return HandleSpace(button, message == WM_KEYDOWN);
+        break;
+    case WM_LBUTTONDBLCLK:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_MOUSEMOVE:
+        return HandleMouse(button, message, wParam, lParam);
+    case WM_CAPTURECHANGED:
+        SetPushed(button, false);
+        return 0;
+    case WM_NCHITTEST:
+        return KindOf(button) == BS_GROUPBOX ? HTTRANSPARENT : HTCLIENT;
+    default:
+        break;
+    }
+    return DefControlProc(button, PaintWhole, message, wParam, lParam);
+}
+
+constexpr ControlClass kButton = {Create, Handle};
+} // namespace
+
+LRESULT CALLBACK ButtonProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CallControl(kButton, handle, message, wParam, lParam);
 }
 } // namespace offscreen

@@ -146,18 +146,22 @@ int VisibleItems(const ComboState& state)
     return std::max((state.dropHeight - state.fieldHeight - 2 * kBorder) / std::max(state.itemHeight, 1), 1);
 }
 
+void TakeBack(Window& combo)
+{
+    ComboState& state = Of(combo);
+    state.items.Select(state.selectionBefore < state.items.Count() ? state.selectionBefore : -1);
+    RollUp(combo, false);
+}
+
 LRESULT HandleKey(Window& combo, UINT message, WPARAM key)
 {
     ComboState& state = Of(combo);
-    const bool alt = message == WM_SYSKEYDOWN;
-    if (alt)
+    if (message == WM_SYSKEYDOWN) // With Alt
     {
         if (key == VK_UP || key == VK_DOWN)
             Toggle(combo);
         return 0;
     }
-    const int count = state.items.Count();
-    int index = state.items.Selection();
     switch (key)
     {
     case VK_RETURN:
@@ -166,40 +170,16 @@ LRESULT HandleKey(Window& combo, UINT message, WPARAM key)
         return 0;
     case VK_ESCAPE:
         if (state.dropped)
-        {
-            state.items.Select(state.selectionBefore < count ? state.selectionBefore : -1);
-            RollUp(combo, false);
-        }
+            TakeBack(combo);
         return 0;
     case VK_F4:
         Toggle(combo);
         return 0;
-    case VK_LEFT:
-    case VK_UP:
-        index = std::max(index - 1, 0);
-        break;
-    case VK_RIGHT:
-    case VK_DOWN:
-        ++index;
-        break;
-    case VK_PRIOR:
-        index -= std::max(VisibleItems(state) - 1, 1);
-        break;
-    case VK_NEXT:
-        index = std::max(index, 0) + std::max(VisibleItems(state) - 1, 1);
-        break;
-    case VK_HOME:
-        index = 0;
-        break;
-    case VK_END:
-        index = count - 1;
-        break;
     default:
+        if (const std::optional<int> index = state.items.MovedBy(key, VisibleItems(state)))
+            SelectByUser(combo, *index);
         return 0;
     }
-    if (count)
-        SelectByUser(combo, std::clamp(index, 0, count - 1));
-    return 0;
 }
 
 // ---------------------------------------------------------------------------------------------------------- painting
@@ -279,107 +259,102 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
         return CB_ERR;
     }
 }
-} // namespace
 
-LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+// A new height is that of the list.
+void ChangePosition(Window& combo, WINDOWPOS& position)
 {
-    Inside inside;
-    Window* window = Find(handle);
-    if (!window)
-        return 0;
-    Window& combo = *window;
-    const Pin pin(window);
-    if (message == WM_CREATE)
-        return Create(combo);
-    if (!combo.control)
-        return DefWindowProcA(handle, message, wParam, lParam);
     ComboState& state = Of(combo);
+    if ((position.flags & SWP_NOSIZE) || state.resizing)
+        return;
+    const int closed = state.fieldHeight + 2 * kBorder;
+    if (position.cy > closed)
+        state.dropHeight = position.cy;
+    position.cy = closed;
+}
+
+LRESULT DialogCodeOf(Window& combo, const MSG* key)
+{
+    const LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
+    // While the list is down, Enter and Esc belong to it.
+    const bool isOfList = key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE);
+    return Of(combo).dropped && isOfList ? code | DLGC_WANTMESSAGE : code;
+}
+
+void ChangeFont(Window& combo)
+{
+    if (!IsOwnerDrawn(combo))
+        MeasureText(combo);
+    AdjustHeight(combo);
+}
+
+LRESULT HandleFocus(Window& combo, bool gained)
+{
+    if (!gained)
+        RollUp(combo, false);
+    if (combo.dead)
+        return 0;
+    Invalidate(combo);
+    NotifyParent(combo, gained ? CBN_SETFOCUS : CBN_KILLFOCUS);
+    return 0;
+}
+
+LRESULT HandleMousePress(Window& combo)
+{
+    SetFocus(combo.handle);
+    if (!combo.dead)
+        Toggle(combo);
+    return 0;
+}
+
+LRESULT Handle(Window& combo, UINT message, WPARAM wParam, LPARAM lParam)
+{
     if (message >= CB_GETEDITSEL && message <= CB_GETCOMBOBOXINFO)
         return HandleComboMessage(combo, message, wParam, lParam);
-
+    ItemList& items = Of(combo).items;
     switch (message)
     {
     case WM_DESTROY:
-        state.items.Clear(combo);
+        items.Clear(combo);
         return 0;
-    case WM_GETDLGCODE: {
-        LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
-        // While the list is down, Enter and Esc belong to it.
-        const auto* key = reinterpret_cast<const MSG*>(lParam);
-        if (key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_ESCAPE) &&
-            state.dropped)
-            code |= DLGC_WANTMESSAGE;
-        return code;
-    }
+    case WM_GETDLGCODE:
+        return DialogCodeOf(combo, reinterpret_cast<const MSG*>(lParam));
     case WM_SETFONT:
-        combo.font = reinterpret_cast<HFONT>(wParam);
-        if (!IsOwnerDrawn(combo))
-            MeasureText(combo);
-        AdjustHeight(combo);
-        if (lParam)
-            Invalidate(combo);
+        DefControlProc(combo, PaintOn, message, wParam, lParam);
+        ChangeFont(combo);
         return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(combo.font);
-    case WM_WINDOWPOSCHANGING: {
-        // A new height is that of the list.
-        auto& position = *reinterpret_cast<WINDOWPOS*>(lParam);
-        if (!(position.flags & SWP_NOSIZE) && !state.resizing)
-        {
-            const int closed = state.fieldHeight + 2 * kBorder;
-            if (position.cy > closed)
-                state.dropHeight = position.cy;
-            position.cy = closed;
-        }
+    case WM_WINDOWPOSCHANGING:
+        ChangePosition(combo, *reinterpret_cast<WINDOWPOS*>(lParam));
         return 0;
-    }
     case WM_SETREDRAW: // The list inside leaves out the drawing; the combo box does not become invisible.
         return 0;
-    case WM_ERASEBKGND:
-        return TRUE;
-    case WM_PAINT: {
-        PAINTSTRUCT paint;
-        const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
-        PaintOn(combo, dc);
-        if (!wParam)
-            EndPaint(handle, &paint);
-        return 0;
-    }
     case WM_GETTEXT:
         return CopySelectedText(combo, wParam, lParam);
     case WM_GETTEXTLENGTH:
-        return state.items.Selection() >= 0 ? state.items.TextLength(static_cast<WPARAM>(state.items.Selection())) : 0;
+        return items.Selection() >= 0 ? items.TextLength(static_cast<WPARAM>(items.Selection())) : 0;
     case WM_SETTEXT:
         return CB_ERR;
     case WM_SETFOCUS:
-        Invalidate(combo);
-        NotifyParent(combo, CBN_SETFOCUS);
-        return 0;
     case WM_KILLFOCUS:
-        RollUp(combo, false);
-        if (!combo.dead)
-        {
-            Invalidate(combo);
-            NotifyParent(combo, CBN_KILLFOCUS);
-        }
-        return 0;
-    case WM_ENABLE:
-        Invalidate(combo);
-        return 0;
+        return HandleFocus(combo, message == WM_SETFOCUS);
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
         return HandleKey(combo, message, wParam);
     case WM_CHAR:
-        SelectByUser(combo, state.items.FindNext(static_cast<char>(wParam)));
+        SelectByUser(combo, items.FindNext(static_cast<char>(wParam)));
         return 0;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-        SetFocus(handle);
-        if (!combo.dead)
-            Toggle(combo);
-        return 0;
+        return HandleMousePress(combo);
     default:
-        return DefWindowProcA(handle, message, wParam, lParam);
+        return DefControlProc(combo, PaintOn, message, wParam, lParam);
     }
+}
+
+constexpr ControlClass kComboBox = {Create, Handle};
+} // namespace
+
+LRESULT CALLBACK ComboBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CallControl(kComboBox, handle, message, wParam, lParam);
 }
 } // namespace offscreen

@@ -68,6 +68,101 @@ LRESULT Paint(HWND window)
         EndPaint(window, &paint);
     return 0;
 }
+
+LRESULT TakeFirstText(Window& window, const CREATESTRUCTA& create)
+{
+    // A text of the form 0xFF, id names an icon and is no text.
+    if (create.lpszName && static_cast<unsigned char>(create.lpszName[0]) != 0xFF)
+        window.text = create.lpszName;
+    return TRUE;
+}
+
+LRESULT SetRedraw(Window& window, bool redraw)
+{
+    if (redraw)
+        window.style |= WS_VISIBLE;
+    else
+        window.style &= ~WS_VISIBLE;
+    return 0;
+}
+
+// What a child does not handle goes to its parent.
+LRESULT PassToParent(const Window& window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return window.IsChild() ? Send(ParentOf(window), message, wParam, lParam) : 0;
+}
+
+LRESULT AskForHelp(const Window& window)
+{
+    HELPINFO info{};
+    info.cbSize = sizeof info;
+    info.iContextType = 1;
+    info.iCtrlId = static_cast<int>(window.id);
+    info.hItemHandle = window.handle;
+    Send(window.handle, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+    return 0;
+}
+
+LRESULT AskForContextMenu(HWND window, LPARAM at)
+{
+    POINT point = {GET_X_LPARAM(at), GET_Y_LPARAM(at)};
+    ClientToScreen(window, &point);
+    Send(window, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window), MAKELPARAM(point.x, point.y));
+    return 0;
+}
+
+// Keys, the mouse, and what they ask for.
+LRESULT HandleInput(Window& window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND handle = window.handle;
+    switch (message)
+    {
+    case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
+    case WM_SYSCHAR:
+        return HandleSystemKey(handle, message, wParam);
+    case WM_SYSCOMMAND:
+        return HandleSystemCommand(handle, wParam);
+    case WM_KEYDOWN:
+        return wParam == VK_F1 ? AskForHelp(window) : 0;
+    case WM_KEYUP:
+        if (wParam == VK_APPS)
+            Send(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), -1);
+        return 0;
+    case WM_RBUTTONUP:
+        return AskForContextMenu(handle, lParam);
+    case WM_CONTEXTMENU:
+        PassToParent(window, message, wParam, lParam);
+        return 0;
+    case WM_HELP:
+    case WM_MOUSEWHEEL:
+        return PassToParent(window, message, wParam, lParam);
+    // NOLINTBEGIN(bugprone-branch-clone): these answers only happen to be the same number
+    case WM_MOUSEACTIVATE:
+        return MA_ACTIVATE;
+    case WM_NCHITTEST:
+        return HTCLIENT;
+    // NOLINTEND(bugprone-branch-clone)
+    case WM_VKEYTOITEM:
+    case WM_CHARTOITEM:
+        return -1;
+    default:
+        return 0;
+    }
+}
+
+LRESULT HandleText(Window& window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case WM_SETTEXT:
+        return SetText(window, reinterpret_cast<LPCSTR>(lParam));
+    case WM_GETTEXT:
+        return wParam ? CopyText(window.text, reinterpret_cast<LPSTR>(lParam), wParam) : 0;
+    default: // WM_GETTEXTLENGTH
+        return static_cast<LRESULT>(window.text.size());
+    }
+}
 } // namespace
 
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -76,44 +171,34 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     Window* found = Find(window);
     if (!found)
         return 0;
-
     switch (message)
     {
-    case WM_NCCREATE: {
-        const auto* create = reinterpret_cast<const CREATESTRUCTA*>(lParam);
-        // A text of the form 0xFF, id names an icon and is no text.
-        if (create->lpszName && static_cast<unsigned char>(create->lpszName[0]) != 0xFF)
-            found->text = create->lpszName;
-        return TRUE;
-    }
+    case WM_NCCREATE:
+        return TakeFirstText(*found, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
     case WM_SETTEXT:
-        return SetText(*found, reinterpret_cast<LPCSTR>(lParam));
     case WM_GETTEXT:
-        return wParam ? CopyText(found->text, reinterpret_cast<LPSTR>(lParam), wParam) : 0;
     case WM_GETTEXTLENGTH:
-        return static_cast<LRESULT>(found->text.size());
-
+        return HandleText(*found, message, wParam, lParam);
     case WM_CLOSE:
         DestroyWindow(window);
         return 0;
+    // NOLINTBEGIN(bugprone-branch-clone): these answers only happen to be the same number
     case WM_QUERYENDSESSION:
         return TRUE;
+    case WM_NCACTIVATE:
+        return TRUE;
+    // NOLINTEND(bugprone-branch-clone)
     case WM_ACTIVATE:
         if (LOWORD(wParam) != WA_INACTIVE && !(found->style & WS_MINIMIZE))
             SetFocus(window);
         return 0;
-    // NOLINTBEGIN(bugprone-branch-clone): these answers only happen to be the same number
-    case WM_NCACTIVATE:
-        return TRUE;
-    case WM_MOUSEACTIVATE:
-        return MA_ACTIVATE;
-    case WM_NCHITTEST:
-        return HTCLIENT;
-    // NOLINTEND(bugprone-branch-clone)
     case WM_ERASEBKGND:
         return found->windowClass->background != nullptr;
     case WM_PAINT:
         return Paint(window);
+    case WM_PRINT:
+    case WM_PRINTCLIENT:
+        return NotModelled("drawing a window elsewhere", 0);
     case WM_WINDOWPOSCHANGED:
         return PositionChanged(window, *reinterpret_cast<const WINDOWPOS*>(lParam));
     case WM_SHOWWINDOW:
@@ -122,12 +207,7 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
             ShowWindow(window, wParam ? SW_SHOWNOACTIVATE : SW_HIDE);
         return 0;
     case WM_SETREDRAW:
-        if (wParam)
-            found->style |= WS_VISIBLE;
-        else
-            found->style &= ~WS_VISIBLE;
-        return 0;
-
+        return SetRedraw(*found, wParam != 0);
     case WM_CTLCOLORMSGBOX:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORLISTBOX:
@@ -136,54 +216,7 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORSCROLLBAR:
         return ControlColors(message, reinterpret_cast<HDC>(wParam));
-
-    case WM_SYSKEYDOWN:
-    case WM_SYSKEYUP:
-    case WM_SYSCHAR:
-        return HandleSystemKey(window, message, wParam);
-    case WM_SYSCOMMAND:
-        return HandleSystemCommand(window, wParam);
-    case WM_RBUTTONUP: {
-        POINT point = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-        ClientToScreen(window, &point);
-        Send(window, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window), MAKELPARAM(point.x, point.y));
-        return 0;
-    }
-    case WM_KEYUP:
-        if (wParam == VK_APPS)
-            Send(window, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window), -1);
-        return 0;
-    case WM_CONTEXTMENU:
-        if (found->IsChild())
-            Send(ParentOf(*found), WM_CONTEXTMENU, wParam, lParam);
-        return 0;
-    case WM_KEYDOWN:
-        if (wParam == VK_F1)
-        {
-            HELPINFO info{};
-            info.cbSize = sizeof info;
-            info.iContextType = 1;
-            info.iCtrlId = static_cast<int>(found->id);
-            info.hItemHandle = window;
-            Send(window, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
-        }
-        return 0;
-    case WM_HELP:
-        if (found->IsChild())
-            return Send(ParentOf(*found), WM_HELP, wParam, lParam);
-        return 0;
-    case WM_MOUSEWHEEL:
-        if (found->IsChild())
-            return Send(ParentOf(*found), WM_MOUSEWHEEL, wParam, lParam);
-        return 0;
-    case WM_PRINT:
-    case WM_PRINTCLIENT:
-        return NotModelled("drawing a window elsewhere", 0);
-    case WM_DRAWITEM:
-    case WM_VKEYTOITEM:
-    case WM_CHARTOITEM:
-        return message == WM_DRAWITEM ? 0 : -1;
     default:
-        return 0;
+        return HandleInput(*found, message, wParam, lParam);
     }
 }

@@ -164,86 +164,91 @@ bool Initialize(HWND dialog, DWORD style, LPARAM param)
     return Find(dialog) != nullptr;
 }
 
-} // namespace
-
-HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param, bool modal)
+// The styles that the system makes of those of a template.
+void CompleteStyles(DWORD& style, DWORD& exStyle)
 {
-    DesktopWindow();
-    HFONT font = nullptr;
-    BaseUnits units = SystemBaseUnits();
-    if (tmpl.font && tmpl.font->pointSize != 0x7FFF)
-    {
-        font = MakeFont(*tmpl.font);
-        units = BaseUnitsOf(font);
-    }
-
-    DWORD style = tmpl.style;
-    DWORD exStyle = tmpl.exStyle;
     if (style & DS_MODALFRAME)
         exStyle |= WS_EX_DLGMODALFRAME;
     if ((style & DS_CONTROL) || !(style & WS_CHILD))
         exStyle |= WS_EX_CONTROLPARENT;
     if (style & WS_CHILD)
         style &= ~WS_POPUP;
-    const Place place = DialogPlace(tmpl, units, style, exStyle, owner);
+}
 
-    if (!tmpl.menu.IsEmpty())
-        return NotModelled("dialogs with a menu bar", HWND{});
+std::unique_ptr<DialogState> MakeState(const Template& tmpl)
+{
+    auto state = std::make_unique<DialogState>();
+    state->units = SystemBaseUnits();
+    if (tmpl.font && tmpl.font->pointSize != 0x7FFF)
+    {
+        state->font = MakeFont(*tmpl.font);
+        state->units = BaseUnitsOf(state->font);
+    }
+    return state;
+}
 
-    const bool enableOwner = modal && DisableOwner(owner);
-    std::string className = tmpl.className.ordinal >= 0 ? "" : tmpl.className.text;
-    if (className.empty())
-        className = "#32770";
-    const HWND dialog = CreateWindowExA(exStyle, className.c_str(), tmpl.title.text.c_str(), style & ~WS_VISIBLE,
-                                        place.x, place.y, place.width, place.height, owner, nullptr, instance, nullptr);
+// The dialog's window, still hidden and without controls.
+HWND CreateFrame(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure,
+                 std::unique_ptr<DialogState> state)
+{
+    DWORD style = tmpl.style;
+    DWORD exStyle = tmpl.exStyle;
+    CompleteStyles(style, exStyle);
+    const Place place = DialogPlace(tmpl, state->units, style, exStyle, owner);
+    const char* className = tmpl.className.text.empty() ? "#32770" : tmpl.className.text.c_str();
+    const HWND dialog = CreateWindowExA(exStyle, className, tmpl.title.text.c_str(), style & ~WS_VISIBLE, place.x,
+                                        place.y, place.width, place.height, owner, nullptr, instance, nullptr);
     Window* window = Find(dialog);
     if (!window)
-    {
-        if (font)
-            DeleteObject(font);
-        if (enableOwner)
-            EnableWindow(owner, TRUE);
         return nullptr;
-    }
-
-    auto state = std::make_unique<DialogState>();
-    state->font = font;
-    state->units = units;
-    state->enableOwner = enableOwner;
+    const HFONT font = state->font;
     window->dialog = std::move(state);
     window->extra.resize(std::max<std::size_t>(window->extra.size(), DLGWINDOWEXTRA));
     SetWindowLongPtrA(dialog, static_cast<int>(DWLP_DLGPROC), reinterpret_cast<LONG_PTR>(procedure));
     if (font)
         Send(dialog, WM_SETFONT, reinterpret_cast<WPARAM>(font), 0);
-
-    for (const TemplateControl& control : tmpl.controls)
-    {
-        if (CreateControl(dialog, instance, control))
-            continue;
-        if (Find(dialog))
-            DestroyWindow(dialog);
-        if (enableOwner && Find(owner))
-            EnableWindow(owner, TRUE);
-        return nullptr;
-    }
-    if (!procedure && !tmpl.className.IsEmpty() && tmpl.controls.empty())
-        return dialog;
-    if (!Initialize(dialog, tmpl.style, param))
-    {
-        if (enableOwner && Find(owner))
-            EnableWindow(owner, TRUE);
-        return nullptr;
-    }
     return dialog;
 }
-namespace
+
+bool CreateControls(HWND dialog, HINSTANCE instance, const Template& tmpl)
 {
+    for (const TemplateControl& control : tmpl.controls)
+        if (!CreateControl(dialog, instance, control))
+        {
+            if (Find(dialog))
+                DestroyWindow(dialog);
+            return false;
+        }
+    return true;
+}
+
 HWND Create(HINSTANCE instance, const void* data, HWND owner, DLGPROC procedure, LPARAM param, bool modal)
 {
     DesktopWindow();
     return data ? CreateDialogFrom(ReadTemplate(data), instance, owner, procedure, param, modal) : nullptr;
 }
 } // namespace
+
+HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param, bool modal)
+{
+    DesktopWindow();
+    if (!tmpl.menu.IsEmpty())
+        return NotModelled("dialogs with a menu bar", HWND{});
+    std::unique_ptr<DialogState> state = MakeState(tmpl);
+    const bool enableOwner = modal && DisableOwner(owner);
+    state->enableOwner = enableOwner;
+    const HWND dialog = CreateFrame(tmpl, instance, owner, procedure, std::move(state));
+    if (dialog && CreateControls(dialog, instance, tmpl))
+    {
+        if (!procedure && !tmpl.className.IsEmpty() && tmpl.controls.empty())
+            return dialog;
+        if (Initialize(dialog, tmpl.style, param))
+            return dialog;
+    }
+    if (enableOwner && Find(owner))
+        EnableWindow(owner, TRUE);
+    return nullptr;
+}
 
 INT_PTR RunModal(HWND dialog, HWND owner)
 {

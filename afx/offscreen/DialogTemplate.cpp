@@ -58,12 +58,12 @@ private:
     const BYTE* m_position;
 };
 
-void ReadPlace(Reader& reader, short& x, short& y, short& width, short& height)
+void ReadPlace(Reader& reader, TemplateWindow& window)
 {
-    x = reader.Short();
-    y = reader.Short();
-    width = reader.Short();
-    height = reader.Short();
+    window.x = reader.Short();
+    window.y = reader.Short();
+    window.width = reader.Short();
+    window.height = reader.Short();
 }
 
 TemplateFont ReadFont(Reader& reader, bool extended)
@@ -95,7 +95,7 @@ TemplateControl ReadControl(Reader& reader, bool extended)
         control.style = reader.Double();
         control.exStyle = reader.Double();
     }
-    ReadPlace(reader, control.x, control.y, control.width, control.height);
+    ReadPlace(reader, control);
     control.id = extended ? reader.Double() : reader.Word();
     control.className = reader.Name();
     control.title = reader.Name();
@@ -130,7 +130,7 @@ Template ReadTemplate(const void* data)
         result.exStyle = reader.Double();
     }
     count = reader.Word();
-    ReadPlace(reader, result.x, result.y, result.width, result.height);
+    ReadPlace(reader, result);
     result.menu = reader.Name();
     result.className = reader.Name();
     result.title.text = reader.Text();

@@ -14,7 +14,8 @@ struct TemplateName
     bool IsEmpty() const { return ordinal < 0 && text.empty(); }
 };
 
-struct TemplateControl
+// What a dialog and its controls have in common. Places and sizes are in dialog units.
+struct TemplateWindow
 {
     DWORD style = 0;
     DWORD exStyle = 0;
@@ -22,9 +23,13 @@ struct TemplateControl
     short y = 0;
     short width = 0;
     short height = 0;
-    DWORD id = 0;
     TemplateName className;
     TemplateName title;
+};
+
+struct TemplateControl : TemplateWindow
+{
+    DWORD id = 0;
     const void* data = nullptr; // Creation data, nothing when empty.
 };
 
@@ -38,17 +43,9 @@ struct TemplateFont
 };
 
 // A dialog template in either form, DLGTEMPLATE or DLGTEMPLATEEX, taken apart. Its texts are in the ANSI code page.
-struct Template
+struct Template : TemplateWindow
 {
-    DWORD style = 0;
-    DWORD exStyle = 0;
-    short x = 0;
-    short y = 0;
-    short width = 0;
-    short height = 0;
     TemplateName menu;
-    TemplateName className;
-    TemplateName title;
     std::optional<TemplateFont> font;
     std::vector<TemplateControl> controls;
 };

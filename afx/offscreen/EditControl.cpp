@@ -108,34 +108,36 @@ LRESULT HandleFocus(Window& edit, bool gained)
     return 0;
 }
 
-LRESULT Paint(Window& edit, WPARAM given)
+void PaintOn(Window& edit, HDC dc)
 {
-    PAINTSTRUCT paint;
-    const HDC dc = given ? reinterpret_cast<HDC>(given) : BeginPaint(edit.handle, &paint);
     SelectObject(dc, edit.font);
     const bool dim = IsReadOnly(edit) || (edit.style & WS_DISABLED);
     AskParentForColors(edit, dim ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT, dc);
-    if (!given)
-        EndPaint(edit.handle, &paint);
-    return 0;
 }
-} // namespace
 
-LRESULT CALLBACK EditProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT HandleClipboard(Window& edit, UINT message)
 {
-    Inside inside;
-    Window* window = Find(handle);
-    if (!window)
+    switch (message)
+    {
+    case WM_COPY:
+        Copy(edit);
         return 0;
-    Window& edit = *window;
-    const Pin pin(window);
-    if (message == WM_CREATE)
-        return Create(edit);
-    if (!edit.control)
-        return DefWindowProcA(handle, message, wParam, lParam);
+    case WM_CUT:
+        Cut(edit);
+        return 0;
+    case WM_PASTE:
+        Paste(edit);
+        return 0;
+    default: // WM_CLEAR
+        Clear(edit);
+        return 0;
+    }
+}
+
+LRESULT Handle(Window& edit, UINT message, WPARAM wParam, LPARAM lParam)
+{
     if (message >= EM_GETSEL && message <= EM_CHARFROMPOS)
         return HandleEditMessage(edit, message, wParam, lParam);
-
     switch (message)
     {
     case WM_GETDLGCODE:
@@ -144,23 +146,15 @@ LRESULT CALLBACK EditProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPara
         SetWholeText(edit, reinterpret_cast<LPCSTR>(lParam));
         return TRUE;
     case WM_SETFONT:
-        edit.font = reinterpret_cast<HFONT>(wParam);
+        DefControlProc(edit, PaintOn, message, wParam, lParam);
         UpdateFormat(edit);
-        if (lParam)
-            Invalidate(edit);
         return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(edit.font);
     case WM_SIZE:
         UpdateFormat(edit);
         return 0;
     case WM_SETFOCUS:
-        return HandleFocus(edit, true);
     case WM_KILLFOCUS:
-        return HandleFocus(edit, false);
-    case WM_ENABLE:
-        Invalidate(edit);
-        return 0;
+        return HandleFocus(edit, message == WM_SETFOCUS);
     case WM_CHAR:
         HandleChar(edit, static_cast<char>(wParam));
         return 0;
@@ -172,25 +166,22 @@ LRESULT CALLBACK EditProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPara
     case WM_MOUSEMOVE:
         return HandleMouse(edit, message, wParam, lParam);
     case WM_COPY:
-        Copy(edit);
-        return 0;
     case WM_CUT:
-        Cut(edit);
-        return 0;
     case WM_PASTE:
-        Paste(edit);
-        return 0;
     case WM_CLEAR:
-        Clear(edit);
-        return 0;
+        return HandleClipboard(edit, message);
     case WM_UNDO:
         return UndoChange(edit);
-    case WM_ERASEBKGND:
-        return TRUE;
-    case WM_PAINT:
-        return Paint(edit, wParam);
     default:
-        return DefWindowProcA(handle, message, wParam, lParam);
+        return DefControlProc(edit, PaintOn, message, wParam, lParam);
     }
+}
+
+constexpr ControlClass kEdit = {Create, Handle};
+} // namespace
+
+LRESULT CALLBACK EditProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CallControl(kEdit, handle, message, wParam, lParam);
 }
 } // namespace offscreen

@@ -2,6 +2,8 @@
 
 #include "afx/offscreen/EditState.h"
 
+#include <optional>
+
 namespace offscreen::edit
 {
 namespace
@@ -190,69 +192,87 @@ void PassKeyToDialog(Window& edit, WPARAM key)
 }
 } // namespace
 
-LRESULT HandleKey(Window& edit, WPARAM key)
+namespace
 {
-    EditState& state = Of(edit);
-    const bool shift = KeyIsDown(VK_SHIFT);
+// Where a key moves the caret to; nothing when it is no such key.
+std::optional<int> CaretTarget(Window& edit, WPARAM key)
+{
     const bool control = KeyIsDown(VK_CONTROL);
-    const int caret = state.caret;
     const bool multi = IsMultiLine(edit);
+    const int caret = Of(edit).caret;
     switch (key)
     {
     case VK_LEFT:
-        MoveCaret(edit, control ? PreviousWord(edit, caret) : PreviousPosition(edit, caret), shift);
-        break;
+        return control ? PreviousWord(edit, caret) : PreviousPosition(edit, caret);
     case VK_RIGHT:
-        MoveCaret(edit, control ? NextWord(edit, caret) : NextPosition(edit, caret), shift);
-        break;
+        return control ? NextWord(edit, caret) : NextPosition(edit, caret);
     case VK_UP:
-        MoveCaret(edit, multi ? InOtherLine(edit, -1) : PreviousPosition(edit, caret), shift);
-        break;
+        return multi ? InOtherLine(edit, -1) : PreviousPosition(edit, caret);
     case VK_DOWN:
-        MoveCaret(edit, multi ? InOtherLine(edit, 1) : NextPosition(edit, caret), shift);
-        break;
+        return multi ? InOtherLine(edit, 1) : NextPosition(edit, caret);
     case VK_PRIOR:
-        MoveCaret(edit, InOtherLine(edit, -VisibleLines(edit)), shift);
-        break;
+        return InOtherLine(edit, -VisibleLines(edit));
     case VK_NEXT:
-        MoveCaret(edit, InOtherLine(edit, VisibleLines(edit)), shift);
-        break;
+        return InOtherLine(edit, VisibleLines(edit));
     case VK_HOME:
-        MoveCaret(edit, multi && !control ? LinesOf(edit).StartOf(LineOf(edit, caret)) : 0, shift);
-        break;
+        return multi && !control ? LinesOf(edit).StartOf(LineOf(edit, caret)) : 0;
     case VK_END: {
         const int line = LineOf(edit, caret);
-        MoveCaret(edit, multi && !control ? LinesOf(edit).StartOf(line) + LinesOf(edit).LengthOf(line) : LengthOf(edit),
-                  shift);
-        break;
+        return multi && !control ? LinesOf(edit).StartOf(line) + LinesOf(edit).LengthOf(line) : LengthOf(edit);
     }
+    default:
+        return std::nullopt;
+    }
+}
+
+void HandleDelete(Window& edit)
+{
+    const bool shift = KeyIsDown(VK_SHIFT);
+    if (IsReadOnly(edit) || (shift && KeyIsDown(VK_CONTROL)))
+        return;
+    if (shift)
+        Cut(edit);
+    else
+        DeleteForwards(edit);
+}
+
+void HandleInsert(Window& edit)
+{
+    if (KeyIsDown(VK_SHIFT))
+        Paste(edit);
+    else if (KeyIsDown(VK_CONTROL))
+        Copy(edit);
+}
+} // namespace
+
+LRESULT HandleKey(Window& edit, WPARAM key)
+{
+    const bool ofDialog = IsMultiLine(edit) && Of(edit).inDialog;
+    if (const std::optional<int> target = CaretTarget(edit, key))
+    {
+        MoveCaret(edit, *target, KeyIsDown(VK_SHIFT));
+        return 0;
+    }
+    switch (key)
+    {
     case VK_DELETE:
-        if (IsReadOnly(edit) || (shift && control))
-            break;
-        if (shift)
-            Cut(edit);
-        else
-            DeleteForwards(edit);
-        break;
+        HandleDelete(edit);
+        return 0;
     case VK_INSERT:
-        if (shift)
-            Paste(edit);
-        else if (control)
-            Copy(edit);
-        break;
+        HandleInsert(edit);
+        return 0;
     case VK_TAB:
     case VK_ESCAPE:
-        if (multi && state.inDialog)
+        if (ofDialog)
             PassKeyToDialog(edit, key);
-        break;
+        return 0;
     case VK_RETURN:
-        if (multi && state.inDialog && !(edit.style & ES_WANTRETURN))
+        if (ofDialog && !(edit.style & ES_WANTRETURN))
             PassKeyToDialog(edit, key);
-        break;
+        return 0;
     default:
         return DefWindowProcA(edit.handle, WM_KEYDOWN, key, 0);
     }
-    return 0;
 }
 
 LRESULT HandleMouse(Window& edit, UINT message, WPARAM wParam, LPARAM lParam)

@@ -165,41 +165,50 @@ HWND SetActiveWindow(HWND window)
 
 HWND GetActiveWindow() { return Input().active; }
 
+namespace
+{
+// What SetWindowPos is to do for a command of ShowWindow.
+UINT FlagsOf(int command, bool isChild)
+{
+    constexpr UINT kQuietly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOZORDER;
+    switch (command)
+    {
+    case SW_HIDE:
+        return kQuietly | SWP_HIDEWINDOW;
+    case SW_SHOWNOACTIVATE:
+    case SW_SHOWNA:
+    case SW_SHOWMINNOACTIVE:
+        return kQuietly | SWP_SHOWWINDOW;
+    default:
+        return SWP_SHOWWINDOW | (isChild ? kQuietly : SWP_NOMOVE | SWP_NOSIZE);
+    }
+}
+
+// A hidden window passes the activation on, a hidden child the focus to its parent.
+void LeaveHidden(const Window& window)
+{
+    const HWND handle = window.handle;
+    if (Input().active == handle)
+        ActivateAnother(handle);
+    const HWND focus = Input().focus;
+    if (window.IsChild() && (focus == handle || IsChild(handle, focus)))
+        SetFocus(ParentOf(window));
+}
+} // namespace
+
 BOOL ShowWindow(HWND window, int command)
 {
     Inside inside;
     Window* found = Lookup(window);
     if (!found)
         return FALSE;
+    if (command == SW_SHOWMINIMIZED || command == SW_SHOWMAXIMIZED || command == SW_MINIMIZE)
+        return NotModelled("minimized and maximized windows", FALSE);
     const Pin pin(found);
     const bool wasVisible = (found->style & WS_VISIBLE) != 0;
-    UINT flags = SWP_NOMOVE | SWP_NOSIZE;
-    bool show = true;
-    switch (command)
-    {
-    case SW_HIDE:
-        if (!wasVisible)
-            return FALSE;
-        show = false;
-        flags |= SWP_HIDEWINDOW;
-        break;
-    case SW_SHOWNOACTIVATE:
-    case SW_SHOWNA:
-    case SW_SHOWMINNOACTIVE:
-        flags |= SWP_SHOWWINDOW | SWP_NOACTIVATE | SWP_NOZORDER;
-        break;
-    case SW_SHOWMINIMIZED:
-    case SW_SHOWMAXIMIZED:
-    case SW_MINIMIZE:
-        return NotModelled("minimized and maximized windows", FALSE);
-    default:
-        flags |= SWP_SHOWWINDOW;
-        break;
-    }
-    if (found->IsChild())
-        flags |= SWP_NOACTIVATE | SWP_NOZORDER;
-    if (!show)
-        flags |= SWP_NOACTIVATE | SWP_NOZORDER;
+    const bool show = command != SW_HIDE;
+    if (!show && !wasVisible)
+        return FALSE;
     if (show && wasVisible && found->IsChild())
         return TRUE;
 
@@ -209,16 +218,9 @@ BOOL ShowWindow(HWND window, int command)
         if (found->dead)
             return wasVisible;
     }
-    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, flags);
-    if (found->dead || show)
-        return wasVisible;
-
-    InputState& input = Input();
-    if (input.active == window)
-        ActivateAnother(window);
-    // A hidden child passes the focus on to its parent.
-    if (found->IsChild() && (input.focus == window || IsChild(window, input.focus)))
-        SetFocus(ParentOf(*found));
+    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, FlagsOf(command, found->IsChild()));
+    if (!found->dead && !show)
+        LeaveHidden(*found);
     return wasVisible;
 }
 

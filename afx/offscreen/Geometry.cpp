@@ -100,67 +100,74 @@ RECT ScreenRectOf(const Window& window)
 
 using namespace offscreen;
 
-BOOL SetWindowPos(HWND window, HWND after, int x, int y, int width, int height, UINT flags)
+namespace
 {
-    Inside inside;
-    Window* found = Lookup(window);
-    if (!found)
-        return FALSE;
-    if (!found->parent)
-        return FALSE;
-    const Pin pin(found);
-    const RECT before = found->rect;
-
-    WINDOWPOS position{window, after, x, y, width, height, flags};
+// The place and size that were asked for, as WM_WINDOWPOSCHANGING tells them and may change them.
+WINDOWPOS AskedPosition(const Window& window, HWND after, const RECT& asked, UINT flags)
+{
+    WINDOWPOS position{window.handle, after, asked.left, asked.top, asked.right, asked.bottom, flags};
     if (flags & SWP_NOMOVE)
     {
-        position.x = before.left;
-        position.y = before.top;
+        position.x = window.rect.left;
+        position.y = window.rect.top;
     }
     if (flags & SWP_NOSIZE)
     {
-        position.cx = before.right - before.left;
-        position.cy = before.bottom - before.top;
+        position.cx = window.rect.right - window.rect.left;
+        position.cy = window.rect.bottom - window.rect.top;
     }
-    if (!(flags & SWP_NOSENDCHANGING))
-        Send(window, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
-    if (found->dead)
-        return FALSE;
+    return position;
+}
 
-    RECT rect = before;
+RECT NewRect(RECT rect, const WINDOWPOS& position)
+{
     if (!(position.flags & SWP_NOMOVE))
-    {
-        rect.right += position.x - rect.left;
-        rect.bottom += position.y - rect.top;
-        rect.left = position.x;
-        rect.top = position.y;
-    }
+        rect = Moved(rect, {position.x - rect.left, position.y - rect.top});
     if (!(position.flags & SWP_NOSIZE))
     {
         rect.right = rect.left + std::max(position.cx, 0);
         rect.bottom = rect.top + std::max(position.cy, 0);
     }
-    found->rect = rect;
+    return rect;
+}
 
+// Shows or hides the window as the flags say; returns them without what was so already.
+UINT ChangeVisibility(Window& window, UINT flags)
+{
+    const bool wasVisible = (window.style & WS_VISIBLE) != 0;
+    if (flags & SWP_SHOWWINDOW)
+    {
+        window.style |= WS_VISIBLE;
+        return wasVisible ? flags & ~static_cast<UINT>(SWP_SHOWWINDOW) : flags;
+    }
+    if (!(flags & SWP_HIDEWINDOW))
+        return flags;
+    window.style &= ~WS_VISIBLE;
+    if (window.handle == Input().capture)
+        ReleaseCapture();
+    return wasVisible ? flags : flags & ~static_cast<UINT>(SWP_HIDEWINDOW);
+}
+} // namespace
+
+BOOL SetWindowPos(HWND window, HWND after, int x, int y, int width, int height, UINT flags)
+{
+    Inside inside;
+    Window* found = Lookup(window);
+    if (!found || !found->parent)
+        return FALSE;
+    const Pin pin(found);
+    const RECT before = found->rect;
+
+    WINDOWPOS position = AskedPosition(*found, after, {x, y, width, height}, flags);
+    if (!(flags & SWP_NOSENDCHANGING))
+        Send(window, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
+    if (found->dead)
+        return FALSE;
+
+    found->rect = NewRect(before, position);
     if (!(position.flags & SWP_NOZORDER))
         Reorder(*found, position.hwndInsertAfter);
-
-    const bool wasVisible = (found->style & WS_VISIBLE) != 0;
-    UINT done = position.flags;
-    if (position.flags & SWP_SHOWWINDOW)
-    {
-        found->style |= WS_VISIBLE;
-        if (wasVisible)
-            done &= ~static_cast<UINT>(SWP_SHOWWINDOW);
-    }
-    else if (position.flags & SWP_HIDEWINDOW)
-    {
-        found->style &= ~WS_VISIBLE;
-        if (!wasVisible)
-            done &= ~static_cast<UINT>(SWP_HIDEWINDOW);
-        if (window == Input().capture)
-            ReleaseCapture();
-    }
+    const UINT done = ChangeVisibility(*found, position.flags);
     if (!(position.flags & SWP_NOREDRAW))
         InvalidateTree(*found);
 
@@ -199,25 +206,17 @@ BOOL GetClientRect(HWND window, LPRECT rect)
 
 BOOL ScreenToClient(HWND window, LPPOINT point)
 {
-    Inside inside;
-    const Window* found = Lookup(window);
-    if (!found)
+    if (!Lookup(window))
         return FALSE;
-    const POINT origin = ClientOrigin(*found);
-    point->x -= origin.x;
-    point->y -= origin.y;
+    MapWindowPoints(nullptr, window, point, 1);
     return TRUE;
 }
 
 BOOL ClientToScreen(HWND window, LPPOINT point)
 {
-    Inside inside;
-    const Window* found = Lookup(window);
-    if (!found)
+    if (!Lookup(window))
         return FALSE;
-    const POINT origin = ClientOrigin(*found);
-    point->x += origin.x;
-    point->y += origin.y;
+    MapWindowPoints(window, nullptr, point, 1);
     return TRUE;
 }
 

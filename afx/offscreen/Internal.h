@@ -176,6 +176,18 @@ LRESULT CALLBACK ListBoxProc(HWND, UINT, WPARAM, LPARAM);
 LRESULT CALLBACK ComboBoxProc(HWND, UINT, WPARAM, LPARAM);
 LRESULT CALLBACK ScrollBarProc(HWND, UINT, WPARAM, LPARAM);
 
+// How a standard class answers: `create` makes the state of a control, `handle` gets every later message.
+struct ControlClass
+{
+    LRESULT (*create)(Window& control);
+    LRESULT (*handle)(Window& control, UINT message, WPARAM wParam, LPARAM lParam);
+};
+LRESULT CallControl(const ControlClass& controlClass, HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+
+using PaintProc = void (*)(Window& control, HDC dc);
+// What controls do alike, else DefWindowProc.
+LRESULT DefControlProc(Window& control, PaintProc paint, UINT message, WPARAM wParam, LPARAM lParam);
+
 // The state of a control, created when the window was.
 template <class State>
 State* StateOf(Window& window)

@@ -65,4 +65,36 @@ int ItemList::FindNext(char first) const
     }
     return LB_ERR;
 }
+
+std::optional<int> ItemList::MovedBy(WPARAM key, int visibleItems) const
+{
+    const int page = std::max(visibleItems - 1, 1);
+    int index = m_selection;
+    switch (key)
+    {
+    case VK_LEFT:
+    case VK_UP:
+        --index;
+        break;
+    case VK_RIGHT:
+    case VK_DOWN:
+        ++index;
+        break;
+    case VK_PRIOR:
+        index -= page;
+        break;
+    case VK_NEXT:
+        index = std::max(index, 0) + page;
+        break;
+    case VK_HOME:
+        index = 0;
+        break;
+    case VK_END:
+        index = Count() - 1;
+        break;
+    default:
+        return std::nullopt;
+    }
+    return Count() ? std::clamp(index, 0, Count() - 1) : -1;
+}
 } // namespace offscreen

@@ -2,6 +2,8 @@
 
 #include "afx/offscreen/Internal.h"
 
+#include <optional>
+
 namespace offscreen
 {
 // The items of a list box or combo box.
@@ -37,6 +39,8 @@ public:
     // The next item after the selection, and then from the beginning, whose text starts with a character; LB_ERR for
     // none.
     int FindNext(char first) const;
+    // The item that a key moves the selection to, -1 when there is no item; nothing for a key that does not move it.
+    std::optional<int> MovedBy(WPARAM key, int visibleItems) const;
 
 private:
     struct Item

@@ -106,37 +106,11 @@ void SelectByUser(Window& list, int index)
 
 LRESULT HandleKey(Window& list, WPARAM key)
 {
-    ListBoxState& state = Of(list);
-    const int count = state.items.Count();
-    int index = state.items.Selection();
-    const int page = std::max(VisibleItems(list, state) - 1, 1);
-    switch (key)
-    {
-    case VK_LEFT:
-    case VK_UP:
-        index = std::max(index - 1, 0);
-        break;
-    case VK_RIGHT:
-    case VK_DOWN:
-        ++index;
-        break;
-    case VK_PRIOR:
-        index -= page;
-        break;
-    case VK_NEXT:
-        index = std::max(index, 0) + page;
-        break;
-    case VK_HOME:
-        index = 0;
-        break;
-    case VK_END:
-        index = count - 1;
-        break;
-    default:
+    const ListBoxState& state = Of(list);
+    const std::optional<int> index = state.items.MovedBy(key, VisibleItems(list, state));
+    if (!index)
         return DefWindowProcA(list.handle, WM_KEYDOWN, key, 0);
-    }
-    if (count)
-        SelectByUser(list, std::clamp(index, 0, count - 1));
+    SelectByUser(list, *index);
     return 0;
 }
 
@@ -265,6 +239,54 @@ LRESULT HandleListMessage(Window& list, UINT message, WPARAM wParam, LPARAM lPar
         return LB_ERR;
     }
 }
+
+LRESULT HandleFocus(Window& list, int notification)
+{
+    Invalidate(list);
+    NotifyParent(list, notification); // Without LBS_NOTIFY too
+    return 0;
+}
+
+LRESULT Handle(Window& list, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message >= LB_ADDSTRING && message <= LB_ITEMFROMPOINT)
+        return HandleListMessage(list, message, wParam, lParam);
+    switch (message)
+    {
+    case WM_DESTROY:
+        Of(list).items.Clear(list);
+        return 0;
+    case WM_GETDLGCODE:
+        return DLGC_WANTARROWS | DLGC_WANTCHARS;
+    case WM_SETFONT:
+        DefControlProc(list, PaintOn, message, wParam, lParam);
+        SetItemHeight(list);
+        SetTop(list, Of(list).top);
+        return 0;
+    case WM_SIZE:
+        AdjustHeight(list);
+        SetTop(list, Of(list).top);
+        return 0;
+    case WM_SETFOCUS:
+        return HandleFocus(list, LBN_SETFOCUS);
+    case WM_KILLFOCUS:
+        return HandleFocus(list, LBN_KILLFOCUS);
+    case WM_KEYDOWN:
+        return HandleKey(list, wParam);
+    case WM_CHAR:
+        return HandleChar(list, static_cast<char>(wParam));
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+        return HandleMouse(list, message, lParam);
+    case WM_SETREDRAW: // The list itself leaves out the drawing; it does not become invisible.
+        return 0;
+    default:
+        return DefControlProc(list, PaintOn, message, wParam, lParam);
+    }
+}
+
+constexpr ControlClass kListBox = {Create, Handle};
 } // namespace
 
 std::vector<int> TabStops(HWND listBox)
@@ -277,72 +299,6 @@ std::vector<int> TabStops(HWND listBox)
 
 LRESULT CALLBACK ListBoxProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    Inside inside;
-    Window* window = Find(handle);
-    if (!window)
-        return 0;
-    Window& list = *window;
-    const Pin pin(window);
-    if (message == WM_CREATE)
-        return Create(list);
-    if (!list.control)
-        return DefWindowProcA(handle, message, wParam, lParam);
-    if (message >= LB_ADDSTRING && message <= LB_ITEMFROMPOINT)
-        return HandleListMessage(list, message, wParam, lParam);
-
-    switch (message)
-    {
-    case WM_DESTROY:
-        Of(list).items.Clear(list);
-        return 0;
-    case WM_GETDLGCODE:
-        return DLGC_WANTARROWS | DLGC_WANTCHARS;
-    case WM_SETFONT:
-        list.font = reinterpret_cast<HFONT>(wParam);
-        SetItemHeight(list);
-        SetTop(list, Of(list).top);
-        if (lParam)
-            Invalidate(list);
-        return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(list.font);
-    case WM_SIZE:
-        AdjustHeight(list);
-        SetTop(list, Of(list).top);
-        return 0;
-    case WM_ERASEBKGND:
-        return TRUE;
-    case WM_PAINT: {
-        PAINTSTRUCT paint;
-        const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
-        PaintOn(list, dc);
-        if (!wParam)
-            EndPaint(handle, &paint);
-        return 0;
-    }
-    case WM_SETFOCUS:
-        Invalidate(list);
-        NotifyParent(list, LBN_SETFOCUS); // Without LBS_NOTIFY too
-        return 0;
-    case WM_KILLFOCUS:
-        Invalidate(list);
-        NotifyParent(list, LBN_KILLFOCUS);
-        return 0;
-    case WM_ENABLE:
-        Invalidate(list);
-        return 0;
-    case WM_KEYDOWN:
-        return HandleKey(list, wParam);
-    case WM_CHAR:
-        return HandleChar(list, static_cast<char>(wParam));
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONUP:
-    case WM_LBUTTONDBLCLK:
-        return HandleMouse(list, message, lParam);
-    case WM_SETREDRAW: // The list itself leaves out the drawing; it does not become invisible.
-        return 0;
-    default:
-        return DefWindowProcA(handle, message, wParam, lParam);
-    }
+    return CallControl(kListBox, handle, message, wParam, lParam);
 }
 } // namespace offscreen

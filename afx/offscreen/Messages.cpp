@@ -138,6 +138,36 @@ bool Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     return true;
 }
 
+// A key whose character is no letter and no digit.
+struct OtherKey
+{
+    WPARAM key;
+    char plain;
+    char shifted;
+};
+
+constexpr OtherKey kOtherKeys[] = {{VK_SPACE, ' ', ' '},
+                                   {VK_RETURN, '\r', '\r'},
+                                   {VK_TAB, '\t', '\t'},
+                                   {VK_BACK, '\b', '\b'},
+                                   {VK_ESCAPE, '\x1B', '\x1B'},
+                                   {VK_MULTIPLY, '*', '*'},
+                                   {VK_ADD, '+', '+'},
+                                   {VK_SUBTRACT, '-', '-'},
+                                   {VK_DECIMAL, '.', '.'},
+                                   {VK_DIVIDE, '/', '/'},
+                                   {0xBA, ';', ':'},
+                                   {0xBB, '=', '+'},
+                                   {0xBC, ',', '<'},
+                                   {VK_OEM_MINUS, '-', '_'},
+                                   {VK_OEM_PERIOD, '.', '>'},
+                                   {0xBF, '/', '?'},
+                                   {0xC0, '`', '~'},
+                                   {0xDB, '[', '{'},
+                                   {0xDC, '\\', '|'},
+                                   {0xDD, ']', '}'},
+                                   {0xDE, '\'', '"'}};
+
 // The character that a key gives on a US keyboard; 0 when it gives none.
 char CharacterOf(WPARAM key)
 {
@@ -150,53 +180,10 @@ char CharacterOf(WPARAM key)
         return shift ? ")!@#$%^&*("[key - '0'] : static_cast<char>(key);
     if (key >= VK_NUMPAD0 && key <= VK_NUMPAD9)
         return static_cast<char>(key - VK_NUMPAD0 + '0');
-    switch (key)
-    {
-    case VK_SPACE:
-        return ' ';
-    case VK_RETURN:
-        return '\r';
-    case VK_TAB:
-        return '\t';
-    case VK_BACK:
-        return '\b';
-    case VK_ESCAPE:
-        return '\x1B';
-    case VK_MULTIPLY:
-        return '*';
-    case VK_ADD:
-        return '+';
-    case VK_SUBTRACT:
-        return '-';
-    case VK_DECIMAL:
-        return '.';
-    case VK_DIVIDE:
-        return '/';
-    case 0xBA:
-        return shift ? ':' : ';';
-    case 0xBB:
-        return shift ? '+' : '=';
-    case 0xBC:
-        return shift ? '<' : ',';
-    case VK_OEM_MINUS:
-        return shift ? '_' : '-';
-    case VK_OEM_PERIOD:
-        return shift ? '>' : '.';
-    case 0xBF:
-        return shift ? '?' : '/';
-    case 0xC0:
-        return shift ? '~' : '`';
-    case 0xDB:
-        return shift ? '{' : '[';
-    case 0xDC:
-        return shift ? '|' : '\\';
-    case 0xDD:
-        return shift ? '}' : ']';
-    case 0xDE:
-        return shift ? '"' : '\'';
-    default:
-        return 0;
-    }
+    for (const OtherKey& other : kOtherKeys)
+        if (other.key == key)
+            return shift ? other.shifted : other.plain;
+    return 0;
 }
 } // namespace
 

@@ -146,57 +146,50 @@ SCROLLINFO Info(UINT mask, int low, int high, int position)
     info.nPos = position;
     return info;
 }
-} // namespace
 
-LRESULT CALLBACK ScrollBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT Create(Window& bar)
 {
-    Inside inside;
-    Window* window = Find(handle);
-    if (!window)
-        return 0;
-    Window& bar = *window;
-    const Pin pin(window);
-    if (message == WM_CREATE)
+    auto state = std::make_unique<ScrollBarState>();
+    state->scroll.high = 0;
+    bar.control = std::move(state);
+    return 0;
+}
+
+void PaintOn(Window& bar, HDC dc) { AskParentForColors(bar, WM_CTLCOLORSCROLLBAR, dc); }
+
+LRESULT Handle(Window& bar, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message >= SBM_SETPOS && message <= SBM_GETSCROLLINFO)
     {
-        auto state = std::make_unique<ScrollBarState>();
-        state->scroll.high = 0;
-        bar.control = std::move(state);
+        Fail("not modelled: scroll bar message 0x%04X", message);
         return 0;
     }
-    if (!bar.control)
-        return DefWindowProcA(handle, message, wParam, lParam);
-
     switch (message)
     {
     case WM_GETDLGCODE:
         return DLGC_WANTARROWS;
     case WM_KEYDOWN:
-        if (!HandleKey(bar, wParam))
-            return DefWindowProcA(handle, message, wParam, lParam);
-        return 0;
+        return HandleKey(bar, wParam) ? 0 : DefWindowProcA(bar.handle, message, wParam, lParam);
     case WM_LBUTTONDOWN:
         if (bar.style & WS_TABSTOP)
-            SetFocus(handle);
+            SetFocus(bar.handle);
         if (!bar.dead)
             HandleClick(bar, lParam);
         return 0;
-    case WM_ERASEBKGND:
-        return TRUE;
-    case WM_PAINT: {
-        PAINTSTRUCT paint;
-        const HDC dc = BeginPaint(handle, &paint);
-        AskParentForColors(bar, WM_CTLCOLORSCROLLBAR, dc);
-        EndPaint(handle, &paint);
+    case WM_SETFONT: // It has no text.
+    case WM_GETFONT:
         return 0;
-    }
     default:
-        if (message >= SBM_SETPOS && message <= SBM_GETSCROLLINFO)
-        {
-            Fail("not modelled: scroll bar message 0x%04X", message);
-            return 0;
-        }
-        return DefWindowProcA(handle, message, wParam, lParam);
+        return DefControlProc(bar, PaintOn, message, wParam, lParam);
     }
+}
+
+constexpr ControlClass kScrollBar = {Create, Handle};
+} // namespace
+
+LRESULT CALLBACK ScrollBarProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CallControl(kScrollBar, handle, message, wParam, lParam);
 }
 } // namespace offscreen
 

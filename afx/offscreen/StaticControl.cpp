@@ -39,67 +39,49 @@ LRESULT Create(Window& control)
     control.control = std::make_unique<StaticState>();
     return 0;
 }
-} // namespace
 
-LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT NotifyIfAsked(const Window& control, int code)
 {
-    Inside inside;
-    Window* window = Find(handle);
-    if (!window)
-        return 0;
-    Window& control = *window;
-    const Pin pin(window);
-    auto* state = StateOf<StaticState>(control);
+    if (control.style & SS_NOTIFY)
+        NotifyParent(control, code);
+    return 0;
+}
 
+LRESULT Handle(Window& control, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    auto& state = *StateOf<StaticState>(control);
     switch (message)
     {
-    case WM_CREATE:
-        return Create(control);
     case WM_GETDLGCODE:
         return DLGC_STATIC;
     case WM_SETFONT:
-        if (IsIcon(control))
-            return 0;
-        control.font = reinterpret_cast<HFONT>(wParam);
-        if (LOWORD(lParam))
-            Invalidate(control);
-        return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(control.font);
+        return IsIcon(control) ? 0 : DefControlProc(control, PaintOn, message, wParam, lParam);
     case WM_ENABLE:
         Invalidate(control);
-        if (control.style & SS_NOTIFY)
-            NotifyParent(control, wParam ? STN_ENABLE : STN_DISABLE);
-        return 0;
-    case WM_ERASEBKGND:
-        return TRUE;
-    case WM_PAINT: {
-        PAINTSTRUCT paint;
-        const HDC dc = wParam ? reinterpret_cast<HDC>(wParam) : BeginPaint(handle, &paint);
-        PaintOn(control, dc);
-        if (!wParam)
-            EndPaint(handle, &paint);
-        return 0;
-    }
+        return NotifyIfAsked(control, wParam ? STN_ENABLE : STN_DISABLE);
     case WM_NCHITTEST:
         return control.style & SS_NOTIFY ? HTCLIENT : HTTRANSPARENT;
     case WM_LBUTTONDOWN:
-        if (control.style & SS_NOTIFY)
-            NotifyParent(control, STN_CLICKED);
-        return 0;
+        return NotifyIfAsked(control, STN_CLICKED);
     case WM_LBUTTONDBLCLK:
-        if (control.style & SS_NOTIFY)
-            NotifyParent(control, STN_DBLCLK);
-        return 0;
+        return NotifyIfAsked(control, STN_DBLCLK);
     case STM_SETICON:
-        return state ? reinterpret_cast<LRESULT>(std::exchange(state->icon, reinterpret_cast<HANDLE>(wParam))) : 0;
+        return reinterpret_cast<LRESULT>(std::exchange(state.icon, reinterpret_cast<HANDLE>(wParam)));
     case STM_GETICON:
-        return state ? reinterpret_cast<LRESULT>(state->icon) : 0;
+        return reinterpret_cast<LRESULT>(state.icon);
     case STM_SETIMAGE:
     case STM_GETIMAGE:
         return NotModelled("pictures other than icons", 0);
     default:
-        return DefWindowProcA(handle, message, wParam, lParam);
+        return DefControlProc(control, PaintOn, message, wParam, lParam);
     }
+}
+
+constexpr ControlClass kStatic = {Create, Handle};
+} // namespace
+
+LRESULT CALLBACK StaticProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CallControl(kStatic, handle, message, wParam, lParam);
 }
 } // namespace offscreen

@@ -49,8 +49,6 @@ Roots& TheRoots()
 
 int g_liveWindows = 0;
 
-bool IsRoot(const Window& window) { return !window.parent; }
-
 // ------------------------------------------------------------------------------------------------------ destruction
 
 void SendDestroy(Window& window)
@@ -210,71 +208,6 @@ void FreeIfDead(Window* window)
         delete window;
 }
 
-Window* RootOf(Window* window)
-{
-    while (window && window->parent && window->parent->parent)
-        window = window->parent;
-    return window;
-}
-
-bool IsEffectivelyVisible(const Window& window)
-{
-    for (const Window* w = &window; w; w = w->parent)
-        if (!(w->style & WS_VISIBLE))
-            return false;
-    return true;
-}
-
-bool IsEffectivelyEnabled(const Window& window)
-{
-    for (const Window* w = &window; w; w = w->parent)
-        if (w->style & WS_DISABLED)
-            return false;
-    return true;
-}
-
-void Unlink(Window& window)
-{
-    Window& parent = *window.parent;
-    (window.previous ? window.previous->next : parent.firstChild) = window.next;
-    (window.next ? window.next->previous : parent.lastChild) = window.previous;
-    window.previous = nullptr;
-    window.next = nullptr;
-}
-
-void Link(Window& window, Window* after)
-{
-    Window& parent = *window.parent;
-    window.previous = after;
-    window.next = after ? after->next : parent.firstChild;
-    (window.previous ? window.previous->next : parent.firstChild) = &window;
-    (window.next ? window.next->previous : parent.lastChild) = &window;
-}
-
-std::vector<HWND> ChildrenOf(const Window& window)
-{
-    std::vector<HWND> children;
-    for (const Window* child = window.firstChild; child; child = child->next)
-        children.push_back(child->handle);
-    return children;
-}
-
-LRESULT NotifyParent(const Window& control, int code)
-{
-    const HWND parent = ParentOf(control);
-    return parent ? Send(parent, WM_COMMAND, MAKEWPARAM(control.id, code), reinterpret_cast<LPARAM>(control.handle))
-                  : 0;
-}
-
-void RaiseToTop(Window& window)
-{
-    if (window.previous && !IsRoot(window))
-    {
-        Unlink(window);
-        Link(window, nullptr);
-    }
-}
-
 int CountWindows() { return g_liveWindows; }
 
 void DestroyEverything()
@@ -292,56 +225,99 @@ void DestroyEverything()
 
 using namespace offscreen;
 
+namespace
+{
+bool IsChildStyle(DWORD style) { return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD; }
+
+// Where a new window belongs.
+struct Relations
+{
+    Window* parent = nullptr;
+    HWND owner = nullptr;
+    DWORD error = NO_ERROR;
+};
+
+Relations RelationsFor(HWND given, DWORD style)
+{
+    if (given == HWND_MESSAGE || (given && given == MessageRoot().handle))
+        return {&MessageRoot(), nullptr, NO_ERROR};
+    if (!given && IsChildStyle(style))
+        return {nullptr, nullptr, ERROR_TLW_WITH_WSCHILD};
+    if (!given || given == DesktopWindow().handle)
+        return {&DesktopWindow(), nullptr, NO_ERROR};
+    Window* found = Find(given);
+    if (!found)
+        return {nullptr, nullptr, ERROR_INVALID_WINDOW_HANDLE};
+    if (IsChildStyle(style))
+        return {found, nullptr, NO_ERROR};
+    return {&DesktopWindow(), RootOf(found)->handle, NO_ERROR}; // Only a top-level window can own.
+}
+
+// A window in its place among the others, not told of anything yet.
+Window* MakeWindow(WindowClass& windowClass, const Relations& relations, const CREATESTRUCTA& create)
+{
+    const HWND handle = Windows().Add<HWND>(std::make_unique<Window>());
+    Window* window = Windows().Find(handle);
+    if (!window)
+        return nullptr;
+    window->handle = handle;
+    window->windowClass = &windowClass;
+    window->procedure = windowClass.procedure;
+    window->style = static_cast<DWORD>(create.style) & ~WS_VISIBLE;
+    window->exStyle = create.dwExStyle;
+    window->id = reinterpret_cast<LONG_PTR>(create.hMenu);
+    window->extra.resize(static_cast<std::size_t>(std::max(windowClass.windowExtra, 0)));
+    window->parent = relations.parent;
+    window->owner = relations.owner;
+    window->rect = {create.x, create.y, create.x + std::max(create.cx, 0), create.y + std::max(create.cy, 0)};
+    // A new child stands behind its siblings, as tab order wants it; a top-level window before the others.
+    Link(*window, window->IsChild() ? relations.parent->lastChild : nullptr);
+    ++windowClass.windows;
+    ++g_liveWindows;
+    return window;
+}
+
+// Asks the window itself. False when it refused or did not survive.
+bool AcceptsCreation(Window& window, CREATESTRUCTA& create)
+{
+    const auto param = reinterpret_cast<LPARAM>(&create);
+    if (!Send(window.handle, WM_NCCREATE, 0, param))
+    {
+        if (!window.dead)
+            Bury(window);
+        return false;
+    }
+    if (Send(window.handle, WM_CREATE, 0, param) == -1 && !window.dead)
+        Destroy(window);
+    return !window.dead;
+}
+
+void TellOfCreation(Window& window)
+{
+    const HWND handle = window.handle;
+    const RECT client = ClientRectOf(window);
+    Send(handle, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.right, client.bottom));
+    if (!window.dead)
+        Send(handle, WM_MOVE, 0, MAKELPARAM(window.rect.left, window.rect.top));
+    if (!window.dead && window.IsChild() && !(window.exStyle & WS_EX_NOPARENTNOTIFY))
+        Send(ParentOf(window), WM_PARENTNOTIFY, MAKEWPARAM(WM_CREATE, window.id), reinterpret_cast<LPARAM>(handle));
+}
+} // namespace
+
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
                      HWND parent, HMENU menuOrId, HINSTANCE instance, LPVOID param)
 {
     Inside inside;
-    Window& desktop = DesktopWindow();
+    DesktopWindow(); // Registers the standard classes.
     WindowClass* windowClass = FindClass(className);
     if (!windowClass)
         return RejectCreation(ERROR_CANNOT_FIND_WND_CLASS);
-
-    const bool messageOnly = parent == HWND_MESSAGE || (parent && parent == MessageRoot().handle);
-    const bool isChild = (style & (WS_CHILD | WS_POPUP)) == WS_CHILD;
-    Window* parentWindow = &desktop;
-    HWND owner = nullptr;
-    if (messageOnly)
-        parentWindow = &MessageRoot();
-    else if (parent && parent != desktop.handle)
-    {
-        Window* given = Find(parent);
-        if (!given)
-            return RejectCreation(ERROR_INVALID_WINDOW_HANDLE);
-        if (isChild)
-            parentWindow = given;
-        else
-            owner = RootOf(given)->handle; // Only a top-level window can own.
-    }
-    else if (isChild && !parent)
-        return RejectCreation(ERROR_TLW_WITH_WSCHILD);
-
+    const Relations relations = RelationsFor(parent, style);
+    if (!relations.parent)
+        return RejectCreation(relations.error);
+    const bool messageOnly = relations.parent == &MessageRoot();
     ReplaceDefaults(style, x, y, width, height);
     CompleteStyles(style, exStyle);
-
-    const HWND handle = Windows().Add<HWND>(std::make_unique<Window>());
-    Window* window = Windows().Find(handle);
-    if (!window)
-        return RejectCreation(ERROR_NOT_ENOUGH_MEMORY);
-    const Pin pin(window);
-    window->handle = handle;
-    window->windowClass = windowClass;
-    window->procedure = windowClass->procedure;
-    window->style = style & ~WS_VISIBLE;
-    window->exStyle = exStyle;
-    window->id = reinterpret_cast<LONG_PTR>(menuOrId);
-    window->extra.resize(static_cast<std::size_t>(std::max(windowClass->windowExtra, 0)));
-    window->parent = parentWindow;
-    window->owner = owner;
-    window->rect = {x, y, x + std::max(width, 0), y + std::max(height, 0)};
-    // A new child stands behind its siblings, as tab order wants it; a top-level window before the others.
-    Link(*window, isChild ? parentWindow->lastChild : nullptr);
-    ++windowClass->windows;
-    ++g_liveWindows;
 
     CREATESTRUCTA create{};
     create.lpCreateParams = param;
@@ -357,35 +333,15 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     create.lpszClass = IS_INTRESOURCE(className) ? windowClass->name.c_str() : className;
     create.dwExStyle = exStyle;
 
-    const auto createParam = reinterpret_cast<LPARAM>(&create);
-    if (!Send(handle, WM_NCCREATE, 0, createParam))
-    {
-        if (!window->dead)
-            Bury(*window);
+    Window* window = MakeWindow(*windowClass, relations, create);
+    if (!window)
+        return RejectCreation(ERROR_NOT_ENOUGH_MEMORY);
+    const Pin pin(window);
+    const HWND handle = window->handle;
+    if (!AcceptsCreation(*window, create))
         return nullptr;
-    }
-    if (Send(handle, WM_CREATE, 0, createParam) == -1)
-    {
-        if (!window->dead)
-            Destroy(*window);
-        return nullptr;
-    }
-    if (window->dead)
-        return nullptr;
-
     if (!messageOnly)
-    {
-        const RECT client = ClientRectOf(*window);
-        Send(handle, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.right, client.bottom));
-        if (!window->dead)
-        {
-            const POINT origin = {window->rect.left, window->rect.top};
-            Send(handle, WM_MOVE, 0, MAKELPARAM(origin.x, origin.y));
-        }
-        if (!window->dead && isChild && !(window->exStyle & WS_EX_NOPARENTNOTIFY))
-            Send(parentWindow->handle, WM_PARENTNOTIFY, MAKEWPARAM(WM_CREATE, window->id),
-                 reinterpret_cast<LPARAM>(handle));
-    }
+        TellOfCreation(*window);
     if (!window->dead && (style & WS_VISIBLE))
         ShowWindow(handle, SW_SHOW);
     return window->dead ? nullptr : handle;
@@ -397,7 +353,7 @@ BOOL DestroyWindow(HWND window)
     Window* found = Lookup(window);
     if (!found)
         return FALSE;
-    if (IsRoot(*found))
+    if (!found->parent)
     {
         SetLastError(ERROR_ACCESS_DENIED);
         return FALSE;

@@ -16,6 +16,71 @@ void CollectDescendants(const Window& window, std::vector<HWND>& found)
 }
 } // namespace
 
+Window* RootOf(Window* window)
+{
+    while (window && window->parent && window->parent->parent)
+        window = window->parent;
+    return window;
+}
+
+bool IsEffectivelyVisible(const Window& window)
+{
+    for (const Window* w = &window; w; w = w->parent)
+        if (!(w->style & WS_VISIBLE))
+            return false;
+    return true;
+}
+
+bool IsEffectivelyEnabled(const Window& window)
+{
+    for (const Window* w = &window; w; w = w->parent)
+        if (w->style & WS_DISABLED)
+            return false;
+    return true;
+}
+
+void Unlink(Window& window)
+{
+    Window& parent = *window.parent;
+    (window.previous ? window.previous->next : parent.firstChild) = window.next;
+    (window.next ? window.next->previous : parent.lastChild) = window.previous;
+    window.previous = nullptr;
+    window.next = nullptr;
+}
+
+void Link(Window& window, Window* after)
+{
+    Window& parent = *window.parent;
+    window.previous = after;
+    window.next = after ? after->next : parent.firstChild;
+    (window.previous ? window.previous->next : parent.firstChild) = &window;
+    (window.next ? window.next->previous : parent.lastChild) = &window;
+}
+
+std::vector<HWND> ChildrenOf(const Window& window)
+{
+    std::vector<HWND> children;
+    for (const Window* child = window.firstChild; child; child = child->next)
+        children.push_back(child->handle);
+    return children;
+}
+
+LRESULT NotifyParent(const Window& control, int code)
+{
+    const HWND parent = ParentOf(control);
+    return parent ? Send(parent, WM_COMMAND, MAKEWPARAM(control.id, code), reinterpret_cast<LPARAM>(control.handle))
+                  : 0;
+}
+
+void RaiseToTop(Window& window)
+{
+    if (window.previous && window.parent)
+    {
+        Unlink(window);
+        Link(window, nullptr);
+    }
+}
+
 std::vector<HWND> DescendantsOf(const Window& window)
 {
     std::vector<HWND> descendants;
