@@ -1044,7 +1044,6 @@ BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info);
 int SetScrollPos(HWND window, int bar, int position, BOOL redraw);
 int GetScrollPos(HWND window, int bar);
 BOOL SetScrollRange(HWND window, int bar, int low, int high, BOOL redraw);
-BOOL ShowScrollBar(HWND window, int bar, BOOL show);
 
 // Menus
 HMENU CreatePopupMenu();
