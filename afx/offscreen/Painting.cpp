@@ -86,18 +86,18 @@ void PaintNow(Window& window)
         ForgetPaint(window);
 }
 
-void PaintTree(Window& window, bool children)
+void PaintTree(Window& window)
 {
     const Pin pin(&window);
     PaintNow(window);
-    if (window.dead || !children)
+    if (window.dead)
         return;
     std::vector<HWND> handles;
     for (const Window* child = window.firstChild; child; child = child->next)
         handles.push_back(child->handle);
     for (HWND handle : handles)
         if (Window* child = Find(handle))
-            PaintTree(*child, true);
+            PaintTree(*child);
 }
 } // namespace
 
@@ -136,7 +136,20 @@ BOOL UpdateWindow(HWND window)
     Window* found = Lookup(window);
     if (!found)
         return FALSE;
-    PaintTree(*found, true);
+    PaintTree(*found);
+    return TRUE;
+}
+
+BOOL RedrawWindow(HWND window, const RECT*, HRGN, UINT flags)
+{
+    Inside inside;
+    if (flags != (RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN))
+        return NotModelled("RedrawWindow with these flags", FALSE);
+    Window* found = Lookup(window);
+    if (!found)
+        return FALSE;
+    InvalidateTree(*found);
+    PaintTree(*found);
     return TRUE;
 }
 

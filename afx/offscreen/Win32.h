@@ -80,6 +80,7 @@ DECLARE_HANDLE(HDC);
 DECLARE_HANDLE(HFONT);
 DECLARE_HANDLE(HBRUSH);
 DECLARE_HANDLE(HPEN);
+DECLARE_HANDLE(HRGN);
 DECLARE_HANDLE(HMENU);
 DECLARE_HANDLE(HICON);
 DECLARE_HANDLE(HRSRC);
@@ -506,6 +507,10 @@ struct HELPINFO
 #define SWP_SHOWWINDOW 0x0040
 #define SWP_HIDEWINDOW 0x0080
 #define SWP_NOSENDCHANGING 0x0400
+
+#define RDW_INVALIDATE 0x0001
+#define RDW_ALLCHILDREN 0x0080
+#define RDW_UPDATENOW 0x0100
 
 #define DLGC_WANTARROWS 0x0001
 #define DLGC_WANTTAB 0x0002
@@ -1061,6 +1066,7 @@ BOOL IsMenu(HMENU menu);
 BOOL InvalidateRect(HWND window, const RECT* rect, BOOL erase);
 BOOL ValidateRect(HWND window, const RECT* rect);
 BOOL UpdateWindow(HWND window);
+BOOL RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags);
 HDC BeginPaint(HWND window, LPPAINTSTRUCT paint);
 BOOL EndPaint(HWND window, const PAINTSTRUCT* paint);
 HDC GetDC(HWND window);
