@@ -171,7 +171,7 @@ LRESULT Handle(Window& edit, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CLEAR:
         return HandleClipboard(edit, message);
     case WM_UNDO:
-        return UndoChange(edit);
+        return UndoChange(edit) || !IsMultiLine(edit); // an edit of one line always says so
     default:
         return DefControlProc(edit, PaintOn, message, wParam, lParam);
     }

@@ -8,7 +8,7 @@ set(intended
     CObject CRuntimeClass CException CMemoryException CResourceException AfxThrowMemoryException
     CString CStringArray CDWordArray AfxAllocate AfxReallocate AfxFree
     CCmdTarget CWnd CDialog CStatic CButton CEdit CComboBox CListBox CScrollBar CMenu
-    CGdiObject CFont CBrush CPen CDC CClientDC CWindowDC CPaintDC
+    CGdiObject CFont CBrush CPen CDC CClientDC CPaintDC
     AfxGetResourceHandle AfxSetResourceHandle)
 
 execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)

@@ -12,6 +12,7 @@
 #include "core/FunWizard.h"
 #include "tests/library/ImportedFunction.h"
 #include "tests/library/PressingHost.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
@@ -341,6 +342,9 @@ protected:
         return g_memory.failed;
     }
 
+    /// How far to go on; dialogs take their time, and without a library between they are tested at every place.
+    static int Step(int sampled) { return GetParam().opensDialogs && !IsThorough() ? sampled : 1; }
+
     CPressingHost m_host;
     CImportedFunction m_malloc{"Pexlo.dll", "malloc", Address(FailingMalloc)};
     CImportedFunction m_calloc{"Pexlo.dll", "calloc", Address(FailingCalloc)};
@@ -352,15 +356,14 @@ protected:
 
 TEST_P(FailingOperations, LetNoExceptionOut)
 {
-    for (int successes = 0; CallWithout(successes, 1) > 0; successes++)
+    for (int successes = 0; CallWithout(successes, 1) > 0; successes += Step(3))
         ;
 }
 
 // Then there is no memory for the exception either.
 TEST_P(FailingOperations, LetNoExceptionOutWithoutAnyMemory)
 {
-    const int step = GetParam().opensDialogs ? 7 : 1; // dialogs take their time
-    for (int successes = 0; CallWithout(successes, INT_MAX) > 0; successes += step)
+    for (int successes = 0; CallWithout(successes, INT_MAX) > 0; successes += Step(11))
         ;
 }
 
