@@ -139,7 +139,7 @@ void CPlainDialog::Make(HWND dialog) const
 void CPlainDialog::Change(HWND window, const SState& from, const SState& to)
 {
     if (to.font != from.font)
-        ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(to.font), FALSE);
+        ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(to.font), TRUE); // as SetDlgFont promises
     if (to.items != from.items || to.selection != from.selection)
         FillCombo(window, to);
     if (to.text != from.text && !to.isCombo)

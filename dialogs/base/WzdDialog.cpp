@@ -30,6 +30,7 @@ INT_PTR CWzdDialog::DoModal()
 BOOL CWzdDialog::OnInitDialog()
 {
     CDialog::OnInitDialog();
+    m_items.fill(nullptr); // those of an earlier opening
     bool opened = false;
     const int enough = WithMemory([&] {
         if (m_wizard == nullptr)
@@ -76,6 +77,14 @@ BOOL CWzdDialog::OnHelpInfo(HELPINFO* info)
 
 // ---- Controls -------------------------------------------------------------------------------------------------------
 
+CWnd* CWzdDialog::GetDlgItem(UINT id) const
+{
+    HWND& item = m_items[id % m_items.size()];
+    if (item == nullptr || static_cast<UINT>(::GetDlgCtrlID(item)) != id) // another one's place, or gone
+        item = ::GetDlgItem(m_hWnd, static_cast<int>(id));
+    return FromHandle(item);
+}
+
 CString CWzdDialog::ItemText(UINT id) const
 {
     CString text;
@@ -84,13 +93,27 @@ CString CWzdDialog::ItemText(UINT id) const
     return text;
 }
 
-void CWzdDialog::SetItemText(UINT id, LPCSTR text)
+void CWzdDialog::SetText(CWnd* item, LPCSTR text)
 {
-    if (CWnd* item = GetDlgItem(id))
+    if (item == nullptr)
+        return;
+    CString current;
+    item->GetWindowText(current);
+    if (current != text)
         item->SetWindowText(text);
 }
 
-bool CWzdDialog::IsChecked(UINT id) const { return IsDlgButtonChecked(id) == BST_CHECKED; }
+bool CWzdDialog::IsChecked(UINT id) const
+{
+    const auto* box = static_cast<CButton*>(GetDlgItem(id));
+    return box != nullptr && box->GetCheck() == BST_CHECKED;
+}
+
+void CWzdDialog::Check(UINT id, bool checked)
+{
+    if (auto* box = static_cast<CButton*>(GetDlgItem(id)))
+        box->SetCheck(checked ? BST_CHECKED : BST_UNCHECKED);
+}
 
 int CWzdDialog::Selection(UINT combo) const
 {
@@ -102,6 +125,12 @@ void CWzdDialog::Select(UINT combo, int index)
 {
     if (auto* list = static_cast<CComboBox*>(GetDlgItem(combo)))
         list->SetCurSel(index);
+}
+
+void CWzdDialog::Empty(CComboBox* list)
+{
+    if (list->GetCount() > 0)
+        list->ResetContent();
 }
 
 void CWzdDialog::Enable(UINT id, bool enabled)
@@ -141,7 +170,7 @@ bool CWzdDialog::FillCombo(UINT combo, CWzdChoices choices, int selected)
     auto* list = static_cast<CComboBox*>(GetDlgItem(combo));
     if (list == nullptr)
         return false;
-    list->ResetContent();
+    Empty(list);
     for (const SWzdChoice& choice : choices)
     {
         CString text;

@@ -4,6 +4,8 @@
 
 #include "dialogs/base/WzdRow.h"
 
+#include <array>
+
 class CFunWizard;
 
 class CWzdDialog : public CDialog
@@ -22,12 +24,17 @@ public:
 
     // ---- Controls; a control that the template does not carry counts as empty, unchecked and without selection -----
 
+    /// The control of an id. Remembered, as all the rest asks for it and the system looks through all controls.
+    CWnd* GetDlgItem(UINT id) const;
     CString ItemText(UINT id) const;
-    void SetItemText(UINT id, LPCSTR text);
+    void SetItemText(UINT id, LPCSTR text) { SetText(GetDlgItem(id), text); }
+    /// Nothing is painted when the control, if there is one, has the text already.
+    static void SetText(CWnd* item, LPCSTR text);
     bool IsChecked(UINT id) const;
-    void Check(UINT id, bool checked) { CheckDlgButton(static_cast<int>(id), checked ? BST_CHECKED : BST_UNCHECKED); }
+    void Check(UINT id, bool checked);
     int Selection(UINT combo) const;
     void Select(UINT combo, int index);
+    static void Empty(CComboBox* list);
     void Enable(UINT id, bool enabled);
     void LimitText(UINT edit, int characters);
     /// Whether only digits can be typed into an edit.
@@ -67,5 +74,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CFunWizard* m_wizard; // a stand-in once the host has destroyed the wizard of an open dialog
+    mutable std::array<HWND, 128> m_items = {}; // by the last bits of their ids
+    CFunWizard* m_wizard;                       // a stand-in once the host has destroyed the wizard of an open dialog
 };

@@ -152,7 +152,7 @@ bool CWzdDlgBase::FillDeviceCombo(const SWzdRow& row, short wanted)
     auto* list = static_cast<CComboBox*>(GetDlgItem(row.combo));
     if (list == nullptr)
         return false;
-    list->ResetContent();
+    Empty(list);
     int selected = -1;
     int preferred = 0;
     short kind, code;
@@ -241,8 +241,7 @@ LONGLONG CWzdDlgBase::TableWords()
 
 void CWzdDlgBase::ShowRange(CWnd* label, SWzdRange range)
 {
-    if (label != nullptr)
-        label->SetWindowText(FillText(IDS_RANGE_DECIMAL, {range.low, range.high}));
+    SetText(label, FillText(IDS_RANGE_DECIMAL, {range.low, range.high}));
 }
 
 bool CWzdDlgBase::ShowDataTableRange(UINT labelId)
@@ -250,7 +249,7 @@ bool CWzdDlgBase::ShowDataTableRange(UINT labelId)
     int low, high;
     if (!GetDataTableRange(low, high))
         return false;
-    ShowRange(GetDlgItem(static_cast<int>(labelId)), {low, high});
+    ShowRange(GetDlgItem(labelId), {low, high});
     return true;
 }
 
@@ -300,7 +299,7 @@ void CWzdDlgBase::AddComment(CWzdResults& results, const SWzdRow& row) const
     else if (comment.label != 0)
     {
         const CString joint = comment.secondLabel != 0 ? " " : "";
-        if (GetDlgItem(static_cast<int>(comment.label)) != nullptr)
+        if (GetDlgItem(comment.label) != nullptr)
             results.AddComment(ItemText(comment.label) + joint + ItemText(comment.secondLabel));
     }
     else

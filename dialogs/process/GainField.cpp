@@ -48,7 +48,7 @@ private:
     // The check box remembers it: only a gain that is not automatic can be left out.
     bool WasAutomatic() const
     {
-        const CWnd* check = m_dialog.GetDlgItem(static_cast<int>(m_row.check));
+        const CWnd* check = m_dialog.GetDlgItem(m_row.check);
         return check != nullptr && !check->IsWindowEnabled();
     }
 

@@ -26,6 +26,62 @@ TEST_F(CControlsTest, ReadAndWriteTexts)
     });
 }
 
+TEST_F(CControlsTest, AreFoundAgainWhenTheyAreReplaced)
+{
+    for (int opening = 0; opening < 2; ++opening)
+        InProbe([&](CDialogRobot&) {
+            CWnd* const edit = m_probe.GetDlgItem(IDC_PROBE_NUMBER);
+            ASSERT_NE(edit, nullptr);
+            EXPECT_EQ(edit->m_hWnd, ::GetDlgItem(m_probe.m_hWnd, IDC_PROBE_NUMBER));
+            // This one shares its place with it.
+            EXPECT_EQ(m_probe.GetDlgItem(IDC_PROBE_NUMBER + 128), nullptr);
+            EXPECT_EQ(m_probe.GetDlgItem(IDC_PROBE_NUMBER), edit);
+
+            edit->DestroyWindow();
+            EXPECT_EQ(m_probe.GetDlgItem(IDC_PROBE_NUMBER), nullptr);
+            EXPECT_EQ(m_probe.ItemText(IDC_PROBE_NUMBER), "");
+            CEdit other;
+            other.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), &m_probe, IDC_PROBE_NUMBER);
+            m_probe.SetItemText(IDC_PROBE_NUMBER, "7");
+            EXPECT_EQ(m_probe.ItemText(IDC_PROBE_NUMBER), "7");
+            EXPECT_EQ(m_probe.GetDlgItem(IDC_PROBE_NUMBER)->m_hWnd, other.m_hWnd);
+        });
+}
+
+namespace
+{
+
+/// Counts how often its text is set.
+class CCountingEdit : public CEdit
+{
+public:
+    int m_texts = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        m_texts += message == WM_SETTEXT;
+        return CEdit::WindowProc(message, wParam, lParam);
+    }
+};
+
+} // namespace
+
+TEST_F(CControlsTest, AreNotPaintedForATextThatTheyHave)
+{
+    InProbe([&](CDialogRobot&) {
+        CCountingEdit edit;
+        edit.SubclassDlgItem(IDC_PROBE_NUMBER, &m_probe);
+        for (const LPCSTR text : {"1", "1", "2", "2", "", ""})
+        {
+            m_probe.SetItemText(IDC_PROBE_NUMBER, text);
+            EXPECT_EQ(m_probe.ItemText(IDC_PROBE_NUMBER), text);
+        }
+        EXPECT_EQ(edit.m_texts, 3);
+        edit.UnsubclassWindow();
+    });
+}
+
 TEST_F(CControlsTest, ReadCheckBoxes)
 {
     InProbe([&](CDialogRobot& robot) {
