@@ -17,14 +17,6 @@ constexpr int kHighestBitNumber = 15999;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-CString Trimmed(LPCSTR text)
-{
-    CString trimmed(text);
-    trimmed.TrimLeft();
-    trimmed.TrimRight();
-    return trimmed;
-}
-
 void Report(BOOL* ok, BOOL success)
 {
     if (ok != nullptr)
@@ -70,6 +62,14 @@ int HexDigit(char c)
 char HexCharacter(int digit) { return static_cast<char>(digit < 10 ? '0' + digit : 'A' + digit - 10); }
 
 } // namespace
+
+CString Trimmed(LPCSTR text)
+{
+    CString trimmed(text);
+    trimmed.TrimLeft();
+    trimmed.TrimRight();
+    return trimmed;
+}
 
 // ---- Whole numbers --------------------------------------------------------------------------------------------------
 

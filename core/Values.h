@@ -6,6 +6,9 @@
 
 #include "afx/afx.h"
 
+/// A text without the white space at its ends.
+CString Trimmed(LPCSTR text);
+
 /// Reads a signed decimal number; blanks around it are trimmed. `ok`, when given, receives 1 or 0. A malformed or empty
 /// text gives 0. A lone "-" is a well-formed 0. The arithmetic wraps in 64 bits.
 LONGLONG ParseDecimal64(LPCSTR text, BOOL* ok = nullptr);

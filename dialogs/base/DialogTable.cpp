@@ -2,8 +2,14 @@
 
 #include "core/Memory.h"
 #include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/pulse/PlsDlg.h"
+#include "dialogs/pulse/PlshDlg.h"
+#include "dialogs/pulse/PwmDlg.h"
+#include "dialogs/pulse/PwmhDlg.h"
+#include "dialogs/pulse/SpchDlg.h"
 #include "dialogs/pulse/Spd1Dlg.h"
 #include "dialogs/pulse/SpdhDlg.h"
+#include "dialogs/pulse/SpshDlg.h"
 #include "resources/resource.h"
 
 namespace
@@ -27,8 +33,14 @@ std::unique_ptr<CWzdDlgBase> Make(CFunWizard* wizard, CWnd* parent)
 constexpr SDialogRow kDialogs[] = {
     {IDD_SPD1_TRAPEZOIDAL, kAnyVariant, Make<CSpd1Dlg, false>},
     {IDD_SPD1_HOME, kAnyVariant, Make<CSpd1Dlg, true>},
+    {IDD_PLS, kAnyVariant, Make<CPlsDlg>},
+    {IDD_PWM, kAnyVariant, Make<CPwmDlg>},
     {IDD_SPDH_TRAPEZOIDAL, kAnyVariant, Make<CSpdhDlg, false>},
     {IDD_SPDH_HOME, kAnyVariant, Make<CSpdhDlg, true>},
+    {IDD_PLSH, kAnyVariant, Make<CPlshDlg>},
+    {IDD_PWMH, kAnyVariant, Make<CPwmhDlg>},
+    {IDD_SPSH, kAnyVariant, Make<CSpshDlg>},
+    {IDD_SPCH, kAnyVariant, Make<CSpchDlg>},
     {IDD_EPOINT, kUnitEPoint, Make<CEPointDlg, kEPointForm>},
     {IDD_EPOINT, kUnitPPointStart, Make<CEPointDlg, kPPointStartForm>},
     {IDD_EPOINT, kUnitJogPositioning, Make<CEPointDlg, kJogPositioningForm>},

@@ -53,6 +53,9 @@ struct SWzdBits
     DWORD Place(DWORD code) const { return code << shift & Mask(); }
 };
 
+/// A control code of one register that is a single field.
+constexpr SWzdBits kWholeWord = {0, 16};
+
 /// What a list without a selection does to the control code: no field that is declared after it counts, or the others
 /// stay as they are.
 enum EUnselected

@@ -33,8 +33,9 @@ public:
     void Refresh() override
     {
         LONGLONG start;
+        const CString text = m_dialog.ItemText(m_start.edit);
         const bool known =
-            m_start.format.Parse(m_dialog.ItemText(m_start.edit), start) && (!m_inRange || Accepts(start));
+            m_inRange ? kUnsigned.Parse(text, start) && Accepts(start) : m_start.format.Parse(text, start);
         m_dialog.SetItemText(m_row.rangeLabel, known ? Text(start) : CString());
     }
 

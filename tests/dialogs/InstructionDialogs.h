@@ -4,8 +4,14 @@
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/process/PidDlg.h"
+#include "dialogs/pulse/PlsDlg.h"
+#include "dialogs/pulse/PlshDlg.h"
+#include "dialogs/pulse/PwmDlg.h"
+#include "dialogs/pulse/PwmhDlg.h"
+#include "dialogs/pulse/SpchDlg.h"
 #include "dialogs/pulse/Spd1Dlg.h"
 #include "dialogs/pulse/SpdhDlg.h"
+#include "dialogs/pulse/SpshDlg.h"
 
 #include <memory>
 #include <ostream>
@@ -34,8 +40,14 @@ std::unique_ptr<CWzdDlgBase> MakeDialog(CFunWizard* wizard)
 inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"Spd1Trapezoidal", kEverywhere, MakeDialog<CSpd1Dlg, false>},
     {"Spd1Home", kEverywhere, MakeDialog<CSpd1Dlg, true>},
+    {"Pls", kEverywhere, MakeDialog<CPlsDlg>},
+    {"Pwm", kEverywhere, MakeDialog<CPwmDlg>},
     {"SpdhTrapezoidal", kEverywhere, MakeDialog<CSpdhDlg, false>},
     {"SpdhHome", kEverywhere, MakeDialog<CSpdhDlg, true>},
+    {"Plsh", kEverywhere, MakeDialog<CPlshDlg>},
+    {"Pwmh", kEverywhere, MakeDialog<CPwmhDlg>},
+    {"Spsh", kEverywhere, MakeDialog<CSpshDlg>},
+    {"Spch", kEverywhere, MakeDialog<CSpchDlg>},
     {"EPoint", kEverywhere, MakeDialog<CEPointDlg, kEPointForm>},
     {"PPointStart", kEverywhere, MakeDialog<CEPointDlg, kPPointStartForm>},
     {"JogPositioning", kEverywhere, MakeDialog<CEPointDlg, kJogPositioningForm>},

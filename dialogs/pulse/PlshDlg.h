@@ -1,0 +1,12 @@
+// F172 PLSH: JOG operation on a pulse-output channel, which can stop at a target value.
+#pragma once
+
+#include "dialogs/base/WzdDlgBase.h"
+
+class CPlshDlg : public CWzdDlgBase
+{
+public:
+    CPlshDlg(CFunWizard* wizard, CWnd* parent);
+
+    void DoFieldExchange(CWzdExchange* wx) override;
+};

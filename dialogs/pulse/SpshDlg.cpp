@@ -1,0 +1,102 @@
+#include "dialogs/pulse/SpshDlg.h"
+
+#include "core/FunWizard.h"
+#include "dialogs/base/Compaction.h"
+#include "dialogs/pulse/PulseRows.h"
+
+namespace
+{
+
+/// What hosts say about the axes.
+enum EDisplayType
+{
+    kChannelChosenHere,
+    kFirstChannel,
+    kOtherAxes // any other number: the template tells what there is to tell
+};
+
+constexpr SWzdRange kFastSpeeds = {1, 100000};
+constexpr SWzdRange kSlowSpeeds = {1, 20000};
+constexpr SWzdRange kTargets = {-8388608, 8388607};
+
+constexpr UINT kXLabels[] = {IDC_SPSH_TARGET_X_LABEL, IDC_SPSH_RESULT_SPEED_X_LABEL, IDC_SPSH_RESULT_FREQUENCY_X_LABEL,
+                             IDC_SPSH_RESULT_STEPS_X_LABEL};
+constexpr UINT kYLabels[] = {IDC_SPSH_TARGET_Y_LABEL, IDC_SPSH_RESULT_SPEED_Y_LABEL, IDC_SPSH_RESULT_FREQUENCY_Y_LABEL,
+                             IDC_SPSH_RESULT_STEPS_Y_LABEL};
+
+} // namespace
+
+CSpshDlg::CSpshDlg(CFunWizard* wizard, CWnd* parent) : CWzdDlgBase(wizard, IDD_SPSH, parent) {}
+
+// clang-format off
+void CSpshDlg::DoFieldExchange(CWzdExchange* wx)
+{
+    const int displayType = Wizard().GetF175DispType();
+
+    WDX_Contact    (wx);
+    WDX_TableStart (wx, {.edit = IDC_SPSH_START, .rangeLabel = IDC_SPSH_START_RANGE});
+    if (displayType == kChannelChosenHere)
+        WDX_Channel(wx, IDC_SPSH_CHANNEL, kInstructionSpsh);
+    else
+        WDX_ConstantOperand(wx, 1, 0);
+
+    const bool first = displayType == kFirstChannel || Selection(IDC_SPSH_CHANNEL) == 0;
+    if (displayType <= kFirstChannel)
+    {
+        for (const UINT label : kXLabels)
+            WDX_Label(wx, label, first ? IDS_X_AXIS_CH0 : IDS_X_AXIS_CH2);
+        for (const UINT label : kYLabels)
+            WDX_Label(wx, label, first ? IDS_Y_AXIS_CH1 : IDS_Y_AXIS_CH3);
+        WDX_Label(wx, IDC_SPSH_SPEED_RANGE, IDS_RANGE_DECIMAL, {1, (first ? kFastSpeeds : kSlowSpeeds).high});
+    }
+
+    WDX_ControlCode(wx, kTwoRegisters);
+    WDX_Code       (wx, {.combo = IDC_SPSH_DUTY, .choices = kDuties,    .bits = {12, 4}});
+    WDX_Code       (wx, {.combo = IDC_SPSH_MODE, .choices = kMoveModes, .bits = {0, 8}});
+
+    // Without a choice of the channel the slow speeds count, whatever the label says.
+    const SWzdRange speeds = Selection(IDC_SPSH_CHANNEL) == 0 ? kFastSpeeds : kSlowSpeeds;
+    WDX_Number(wx, {.edit = IDC_SPSH_INITIAL,  .entry = {2, kTwoRegisters},  .limit = 6, .range = speeds,
+                    .message = IDS_ERR_INITIAL_SPEED, .comment = {IDC_SPSH_SPEED_LABEL, IDC_SPSH_INITIAL_LABEL}});
+    WDX_Number(wx, {.edit = IDC_SPSH_MAXIMUM,  .entry = {4, kTwoRegisters},  .limit = 6, .range = speeds,
+                    .message = IDS_ERR_MAXIMUM_SPEED, .comment = {IDC_SPSH_SPEED_LABEL, IDC_SPSH_MAXIMUM_LABEL}});
+    WDX_Number(wx, {.edit = IDC_SPSH_TIME,     .entry = {6, kTwoRegisters},  .limit = 5, .range = {0, 32767},
+                    .message = IDS_ERR_ACCELERATION_TIME});
+    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_X, .entry = {8, kTwoRegisters},  .limit = 8, .range = kTargets,
+                    .message = IDS_ERR_TARGET_VALUE_X, .comment = {IDC_SPSH_TARGET_LABEL, IDC_SPSH_TARGET_X_LABEL}});
+    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_Y, .entry = {10, kTwoRegisters}, .limit = 8, .range = kTargets,
+                    .message = IDS_ERR_TARGET_VALUE_Y, .comment = {IDC_SPSH_TARGET_LABEL, IDC_SPSH_TARGET_Y_LABEL}});
+
+    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_X,   {12, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_X,   {14, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_Y,   {16, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_Y,   {18, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_X, {20}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_Y, {21}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_X,     {22}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_Y,     {23}, true);
+}
+// clang-format on
+
+bool CSpshDlg::Open()
+{
+    if (Wizard().GetF175DispType() != kChannelChosenHere)
+        LeaveOutChannel();
+    return CWzdDlgBase::Open();
+}
+
+// The row closes up: the frame around the first rows, which comes before them, becomes shorter by what the rest moves.
+void CSpshDlg::LeaveOutChannel()
+{
+    const CWnd* const channel = GetDlgItem(IDC_SPSH_CHANNEL);
+    const CWnd* const nextRow = GetDlgItem(IDC_SPSH_DUTY);
+    CWnd* const frame = ControlBefore(IDC_ONLY_DATA_TABLE);
+    if (channel == nullptr || nextRow == nullptr || frame == nullptr)
+        return;
+    const int height = RectInDialog(nextRow).top - RectInDialog(channel).top;
+    HideControls(ControlBefore(IDC_SPSH_CHANNEL), 2);
+    CRect frameRect = RectInDialog(frame);
+    frameRect.bottom -= height;
+    frame->MoveWindow(&frameRect);
+    CloseGap(ControlAfter(IDC_SPSH_CHANNEL), IDC_CLEAR_SETTINGS, height);
+}
