@@ -9,8 +9,14 @@
 #include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
 #include "dialogs/process/PidDlg.h"
+#include "dialogs/pulse/PlsDlg.h"
+#include "dialogs/pulse/PlshDlg.h"
+#include "dialogs/pulse/PwmDlg.h"
+#include "dialogs/pulse/PwmhDlg.h"
+#include "dialogs/pulse/SpchDlg.h"
 #include "dialogs/pulse/Spd1Dlg.h"
 #include "dialogs/pulse/SpdhDlg.h"
+#include "dialogs/pulse/SpshDlg.h"
 #include "resources/resource.h"
 
 #include <algorithm>
@@ -108,7 +114,13 @@ void Open(CFunWizard& wizard, CWnd* owner)
 
 constexpr SOpening kOpenings[] = {
     {"F168", IDD_SPD1_TRAPEZOIDAL, Open<CSpd1Dlg, false>, 1.02},
+    {"F169", IDD_PLS, Open<CPlsDlg>},
+    {"F170", IDD_PWM, Open<CPwmDlg>},
     {"F171", IDD_SPDH_TRAPEZOIDAL, Open<CSpdhDlg, false>},
+    {"F172", IDD_PLSH, Open<CPlshDlg>},
+    {"F173", IDD_PWMH, Open<CPwmhDlg>},
+    {"F175", IDD_SPSH, Open<CSpshDlg>},
+    {"F176", IDD_SPCH, Open<CSpchDlg>},
     {"control code", IDD_CONTROL_CODE, Open<CPosCtrlCodeDlg>},
     {"E point", IDD_EPOINT, Open<CEPointDlg, kEPointForm>},
     {"PID", IDD_PID, Open<CPidDlg, 30>},

@@ -14,6 +14,7 @@ enum class EControl
     DropList,
     ListBox,
     CheckBox,
+    RadioButton,
     GroupBox,
     PushButton,
     DefaultButton

@@ -24,6 +24,8 @@ EControl KindOf(const SPicturedControl& control)
         return EControl::DropList;
     if (control.className == "Button" && (control.style & 0xF) == BS_AUTOCHECKBOX)
         return EControl::CheckBox;
+    if (control.className == "Button" && (control.style & 0xF) == BS_AUTORADIOBUTTON)
+        return EControl::RadioButton;
     if (control.className == "Button" && (control.style & 0xF) == BS_PUSHBUTTON)
         return EControl::PushButton;
     if (control.className == "Button" && (control.style & 0xF) == BS_DEFPUSHBUTTON)
@@ -63,6 +65,7 @@ int RoomForText(const SPicturedControl& control)
     switch (KindOf(control))
     {
     case EControl::CheckBox:
+    case EControl::RadioButton:
         return Width(control.rect) - kCheckBoxAndGap;
     case EControl::PushButton:
     case EControl::DefaultButton:
