@@ -1,6 +1,7 @@
 // Every instruction dialog in each of its forms, for what is tested of them all.
 #pragma once
 
+#include "core/FunWizard.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/process/PidDlg.h"
@@ -37,6 +38,14 @@ std::unique_ptr<CWzdDlgBase> MakeDialog(CFunWizard* wizard)
     return std::make_unique<TDialog>(wizard, arguments..., nullptr);
 }
 
+/// F175 looks different when the host has chosen the axes.
+template <unsigned short displayType>
+std::unique_ptr<CWzdDlgBase> MakeSpsh(CFunWizard* wizard)
+{
+    wizard->SetF175DispType(displayType);
+    return MakeDialog<CSpshDlg>(wizard);
+}
+
 inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"Spd1Trapezoidal", kEverywhere, MakeDialog<CSpd1Dlg, false>},
     {"Spd1Home", kEverywhere, MakeDialog<CSpd1Dlg, true>},
@@ -46,7 +55,9 @@ inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"SpdhHome", kEverywhere, MakeDialog<CSpdhDlg, true>},
     {"Plsh", kEverywhere, MakeDialog<CPlshDlg>},
     {"Pwmh", kEverywhere, MakeDialog<CPwmhDlg>},
-    {"Spsh", kEverywhere, MakeDialog<CSpshDlg>},
+    {"Spsh", kEverywhere, MakeSpsh<0>},
+    {"SpshFirstChannel", kEverywhere, MakeSpsh<1>},
+    {"SpshOtherAxes", kEverywhere, MakeSpsh<2>},
     {"Spch", kEverywhere, MakeDialog<CSpchDlg>},
     {"EPoint", kEverywhere, MakeDialog<CEPointDlg, kEPointForm>},
     {"PPointStart", kEverywhere, MakeDialog<CEPointDlg, kPPointStartForm>},
