@@ -1,0 +1,45 @@
+#include "tests/dialogs/FillDialog.h"
+
+#include "core/Values.h"
+#include "resources/resource.h"
+#include "tests/dialogs/base/FieldRecorder.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+bool CanBeUsed(CDialogRobot& robot, UINT id) { return robot.Enabled(id) && robot.Visible(id); }
+
+/// The lowest or the highest entry that a field takes.
+CString Bound(CWzdDlgBase& dialog, const SDeclaredField& field, bool highest)
+{
+    short kind, code;
+    int low, high;
+    if (field.combo != 0 && dialog.GetSelectedDeviceRange(field.combo, kind, code, low, high))
+        return FormatDeviceNumber(code, highest ? high : low);
+    if (field.IsEntry() || field.range.low <= field.range.high)
+        return field.format.Format(highest ? field.range.high : field.range.low);
+    EXPECT_TRUE(dialog.GetDataTableRange(low, high));
+    return FormatDecimal64(highest ? high : low);
+}
+
+} // namespace
+
+void FillDialog(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
+{
+    for (const UINT check : {IDC_START_OUTPUT_ENABLE, IDC_SAME_CONDITION})
+        if (robot.Exists(check))
+            robot.Check(check, check == IDC_START_OUTPUT_ENABLE);
+    int choice = round; // not the same in every combo: two contacts would become one
+    for (const SDeclaredField& field : RecordFields(dialog))
+        if (field.combo != 0)
+            robot.Select(field.combo, choice++ % static_cast<int>(robot.Items(field.combo).size()));
+    for (const SDeclaredField& field : RecordFields(dialog)) // their ranges may depend on the combos
+    {
+        if (field.check != 0 && CanBeUsed(robot, field.check))
+            robot.Check(field.check);
+        if (field.edit != 0 && CanBeUsed(robot, field.edit))
+            robot.Type(field.edit, Bound(dialog, field, round % 2 != 0));
+    }
+}
