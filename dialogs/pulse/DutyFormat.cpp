@@ -29,6 +29,8 @@ bool WzdReadWholeDuty(const SWzdFormat&, LPCSTR text, LONGLONG& value)
         if (!isWhole)
             return false;
         duty = duty.Left(point);
+        if (duty != Trimmed(duty))
+            return false;
     }
     constexpr LONGLONG kPercent = 10;
     LONGLONG percents;
