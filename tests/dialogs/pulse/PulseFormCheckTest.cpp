@@ -180,7 +180,7 @@ TEST_P(CPulseFormCheckTest, RefusesHugeNumbersAsOutOfRange)
     Refuse([&](CDialogRobot& dialog) {
         const auto refuse = [&](UINT edit, UINT message) {
             const CString good = dialog.Text(edit);
-            for (const char* text : kHuge)
+            for (const char* text : Sampled(kHuge, 3))
             {
                 if (text[0] == '-' && (edit == 2052 || GetParam().instruction == 173))
                     continue; // no sign there

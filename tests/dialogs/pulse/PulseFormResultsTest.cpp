@@ -12,7 +12,12 @@ class CPulseFormResultsTest : public CPulseFormsTest
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Forms, CPulseFormResultsTest, testing::ValuesIn(PulseForms()), PulseFormName);
+class CPulseFormMemoryTest : public CPulseFormsTest
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Forms, CPulseFormResultsTest, testing::ValuesIn(SweptForms()), PulseFormName);
+INSTANTIATE_TEST_SUITE_P(Forms, CPulseFormMemoryTest, testing::ValuesIn(Sampled(PulseForms(), 5)), PulseFormName);
 
 /// Every combination of items that makes the form; or as a sample as many as take each item once.
 std::vector<std::vector<size_t>> Combinations(const SPulseForm& form)
@@ -137,7 +142,7 @@ TEST_P(CPulseFormResultsTest, HoldTheContact)
         const char* text;
         int number;
     } contacts[] = {{kX, "0", 0}, {kY, "109F", 1759}, {kSpecialR, "901A", 14426}, {kT, "1007", 1007}, {kL, "7F", 127}};
-    for (const auto& contact : contacts)
+    for (const auto& contact : Sampled(contacts, 3))
     {
         SResults expected = FormResults(form, {});
         expected.contacts = {{2, contact.device, contact.number}};
@@ -194,7 +199,7 @@ TEST_P(CPulseFormResultsTest, SayWhetherOnlyADataTableIsCreated)
     }
 }
 
-TEST_P(CPulseFormResultsTest, AreCompleteOnceThereIsMemory)
+TEST_P(CPulseFormMemoryTest, LeavesCompleteResultsOnceThereIsEnough)
 {
     const SPulseForm& form = GetParam();
     Confirm(form, [&](CDialogRobot& dialog) {
@@ -346,7 +351,7 @@ TEST_P(CPulseFormResultsTest, LeadToTheLadder)
     m_wizard.EntrySupportFunInfo(form.instruction);
     if (form.displayType != 0)
         m_wizard.SetF175DispType(static_cast<unsigned short>(form.displayType));
-    for (const SStart& start : kStarts)
+    for (const SStart& start : Sampled(kStarts, 2))
         for (const bool only : {false, true})
         {
             const SFormEntries entries = {.output = form.output == kNoOutput || only ? 0 : 1, .onlyDataTable = only};

@@ -1,5 +1,7 @@
 #include "tests/dialogs/pulse/PulseFormTest.h"
 
+#include "tests/support/Sampled.h"
+
 CPulseFormTest::CPulseFormTest()
 {
     SetUpController(m_wizard);
@@ -54,6 +56,14 @@ SResults CPulseFormTest::Confirmed(const SPulseForm& form, const SFormEntries& e
 {
     Confirm(form, [&](CDialogRobot& dialog) { FillIn(dialog, form, entries); });
     return ReadResults(m_wizard);
+}
+
+std::vector<SPulseForm> SweptForms()
+{
+    std::vector<SPulseForm> forms = PulseForms();
+    if (!IsThorough())
+        std::erase_if(forms, [](const SPulseForm& form) { return form.displayType == 1; });
+    return forms;
 }
 
 std::string PulseFormName(const testing::TestParamInfo<SPulseForm>& info) { return info.param.name; }

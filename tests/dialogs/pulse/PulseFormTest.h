@@ -35,6 +35,8 @@ class CPulseFormsTest : public CPulseFormTest, public testing::WithParamInterfac
 {
 };
 
+/// All forms; or as a sample all but that of F175 which differs from its others in labels alone.
+std::vector<SPulseForm> SweptForms();
 std::string PulseFormName(const testing::TestParamInfo<SPulseForm>& info);
 
 /// Makes the form of a dialog that has just come up.
