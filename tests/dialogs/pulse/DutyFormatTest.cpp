@@ -202,3 +202,16 @@ TEST_P(CDutyTest, IsTakenOrRefusedAsItReads)
     EXPECT_GT(taken, 5);
     EXPECT_GT(refused, 5);
 }
+
+TEST_P(CDutyTest, IsRestoredWithOneDecimal)
+{
+    const SPulseForm& form = PulseForm(GetParam().form);
+    const std::pair<int, const char*> rows[] = {{500, "50.0"},   {7, "0.7"},   {0, "0.0"},   {999, "99.9"},
+                                                {1000, "100.0"}, {-5, "-0.5"}, {-15, "-1.5"}};
+    for (const auto& [stored, text] : rows)
+    {
+        WriteResults(m_wizard, {.data = {{9, 1, 0, 0, ControlCode(form, {})}, {9, 2, 0, 0, stored}}});
+        Leave(form,
+              [&, shown = text](CDialogRobot& dialog) { EXPECT_EQ(dialog.Text(form.numbers[0].id), CString(shown)); });
+    }
+}

@@ -68,6 +68,28 @@ TEST_F(CPlshTest, NeitherChecksNorStoresAHiddenTarget)
     EXPECT_EQ(ReadResults(m_wizard), FormResults(m_form, {}));
 }
 
+TEST_F(CPlshTest, ComposesTheCodeWithoutAMode)
+{
+    Confirm(m_form, [this](CDialogRobot& dialog) {
+        FillIn(dialog, m_form, {.items = {0, 1, 2, 7}});
+        SelectByProgram(dialog, 2304, -1);
+    });
+    EXPECT_EQ(ReadResults(m_wizard).data[0], (SDataRow{9, 100, 1, 1, 0x1223}));
+}
+
+// The highest start has as many digits as may be typed.
+TEST_F(CPlshTest, LimitsTheStartAsItsRangeDoes)
+{
+    SetDeviceRange(m_wizard, kDT, 0, 103); // up to 100, or 98 with a target
+    Leave(m_form, [](CDialogRobot& dialog) {
+        ExpectLimits(dialog, {{2301, 3}});
+        dialog.Select(2304, 1);
+        ExpectLimits(dialog, {{2301, 2}});
+        dialog.Select(2304, 0);
+        ExpectLimits(dialog, {{2301, 3}});
+    });
+}
+
 TEST_F(CPlshTest, RestoresATargetOfItsModeAlone)
 {
     const struct

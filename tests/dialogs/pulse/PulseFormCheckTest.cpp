@@ -152,6 +152,10 @@ TEST_P(CPulseFormCheckTest, KeepsTheContactInTheRangeOfItsDevice)
         }
         dialog.Check(2061, !dialog.Checked(2061));
         ExpectRefusal(dialog, 20020, 2052); // checked with an instruction and without one
+        dialog.Type(2052, "1010");
+        ExpectAcceptedUpToTheLast(dialog);
+        SelectByProgram(dialog, 2051, -1);
+        ExpectRefusal(dialog, 20020, 2052);
     });
 }
 

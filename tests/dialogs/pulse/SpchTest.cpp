@@ -138,6 +138,36 @@ TEST_F(CSpchTest, NamesTheRegistersOfTheResults)
     Leave(m_pass, [](CDialogRobot& dialog) { ExpectResults(dialog, 984); });
 }
 
+// Registers have no sign, and their names follow the start once it is left.
+TEST_F(CSpchTest, NamesTheRegistersWhenTheStartIsLeft)
+{
+    Leave(m_pass, [](CDialogRobot& dialog) {
+        EnterStart(dialog, "0");
+        ExpectResults(dialog, 0);
+        for (const char* text : {"-", "-0", ""})
+        {
+            dialog.Focus(2501);
+            SetTextByProgram(dialog, 2501, text);
+            ExpectResults(dialog, 0);
+            dialog.Focus(2061);
+            ExpectResults(dialog, -1);
+            EnterStart(dialog, "0");
+        }
+    });
+}
+
+TEST_F(CSpchTest, LimitsTheStartAsItsRangeDoes)
+{
+    SetDeviceRange(m_wizard, kDT, 0, 113); // up to 96, or 100 with a center
+    Leave(m_pass, [](CDialogRobot& dialog) {
+        ExpectLimits(dialog, {{2501, 2}});
+        dialog.Select(2506, 1);
+        ExpectLimits(dialog, {{2501, 3}});
+        dialog.Click(2099);
+        ExpectLimits(dialog, {{2501, 2}});
+    });
+}
+
 TEST_F(CSpchTest, TakesAStartFourRegistersHigherWithACenter)
 {
     SetDeviceRange(m_wizard, kDT, 10, 1000);

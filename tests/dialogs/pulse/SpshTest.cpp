@@ -166,6 +166,24 @@ TEST_F(CSpshTest, NamesTheRegistersOfTheResults)
     });
 }
 
+// Registers have no sign, and their names follow the start once it is left.
+TEST_F(CSpshTest, NamesTheRegistersWhenTheStartIsLeft)
+{
+    Leave(m_form, [](CDialogRobot& dialog) {
+        EnterStart(dialog, "0");
+        ExpectResults(dialog, 0);
+        for (const char* text : {"-", "-0", ""})
+        {
+            dialog.Focus(2451);
+            SetTextByProgram(dialog, 2451, text);
+            ExpectResults(dialog, 0);
+            dialog.Focus(2061);
+            ExpectResults(dialog, -1);
+            EnterStart(dialog, "0");
+        }
+    });
+}
+
 TEST_F(CSpshTest, NamesTheRegistersOfTheRestoredStart)
 {
     for (const char* name : {"SpshChannel", "SpshFirstAxes", "SpshPlainAxes"})
