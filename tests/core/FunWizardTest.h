@@ -46,6 +46,7 @@ struct SFunWizardTest
     {
         const auto at = [&wizard](const auto& field) {
             const char* start = reinterpret_cast<const char*>(&wizard);
+            // NOLINTNEXTLINE(bugprone-sizeof-expression): of a pointer, too, it is the field's own size that counts
             return SField{static_cast<size_t>(reinterpret_cast<const char*>(&field) - start), sizeof field};
         };
         return {at(wizard.m_library),       at(wizard.m_appName),       at(wizard.m_helpPath),

@@ -92,7 +92,7 @@ protected:
         const auto open = [&] {
             return static_cast<int>(CSpd1Dlg(&m_wizard, variant == kHomeReturn, nullptr).DoModal());
         };
-        for (unsigned opening = 0; index < count; ++opening)
+        for (unsigned opening = 0; index < count; ++opening) // NOLINT(bugprone-infinite-loop): play goes on
         {
             UseCodePage(kCodePages[opening % std::size(kCodePages)]);
             Play(open, {play});
