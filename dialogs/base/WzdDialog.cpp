@@ -7,7 +7,30 @@
 #include "core/Memory.h"
 #include "core/OpenWizard.h"
 #include "core/ResourceScope.h"
+#include "dialogs/base/ListFilling.h"
 #include "resources/resource.h"
+
+namespace
+{
+
+bool ListChoices(CComboBox* list, CWzdChoices choices)
+{
+    const CListFilling filling(list);
+    for (const SWzdChoice& choice : choices)
+    {
+        CString text;
+        if (choice.argument == SWzdChoice::kPlainText)
+            text.LoadString(choice.text);
+        else
+            text = FillText(choice.text, {choice.argument});
+        const int item = text.IsEmpty() ? CB_ERR : list->AddString(text);
+        if (item < 0 || list->SetItemData(item, choice.code) < 0)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
 
 BEGIN_MESSAGE_MAP(CWzdDialog, CDialog)
 ON_BN_CLICKED(IDC_HELP_TOPIC, &CWzdDialog::OnHelpTopic)
@@ -127,12 +150,6 @@ void CWzdDialog::Select(UINT combo, int index)
         list->SetCurSel(index);
 }
 
-void CWzdDialog::Empty(CComboBox* list)
-{
-    if (list->GetCount() > 0)
-        list->ResetContent();
-}
-
 void CWzdDialog::Enable(UINT id, bool enabled)
 {
     if (CWnd* item = GetDlgItem(id))
@@ -168,20 +185,8 @@ CWnd* CWzdDialog::ControlAfter(UINT id) const
 bool CWzdDialog::FillCombo(UINT combo, CWzdChoices choices, int selected)
 {
     auto* list = static_cast<CComboBox*>(GetDlgItem(combo));
-    if (list == nullptr)
+    if (list == nullptr || !ListChoices(list, choices))
         return false;
-    Empty(list);
-    for (const SWzdChoice& choice : choices)
-    {
-        CString text;
-        if (choice.argument == SWzdChoice::kPlainText)
-            text.LoadString(choice.text);
-        else
-            text = FillText(choice.text, {choice.argument});
-        const int item = text.IsEmpty() ? CB_ERR : list->AddString(text);
-        if (item < 0 || list->SetItemData(item, choice.code) < 0)
-            return false;
-    }
     list->SetCurSel(selected >= 0 && selected < list->GetCount() ? selected : 0);
     return true;
 }

@@ -34,7 +34,6 @@ public:
     void Check(UINT id, bool checked);
     int Selection(UINT combo) const;
     void Select(UINT combo, int index);
-    static void Empty(CComboBox* list);
     void Enable(UINT id, bool enabled);
     void LimitText(UINT edit, int characters);
     /// Whether only digits can be typed into an edit.

@@ -5,6 +5,7 @@
 #include "core/FillText.h"
 #include "core/FunWizard.h"
 #include "core/Values.h"
+#include "dialogs/base/ListFilling.h"
 #include "dialogs/base/WzdResults.h"
 #include "resources/resource.h"
 
@@ -150,11 +151,18 @@ bool Offers(const SWzdRow& row, short code, BYTE bitKind)
 bool CWzdDlgBase::FillDeviceCombo(const SWzdRow& row, short wanted)
 {
     auto* list = static_cast<CComboBox*>(GetDlgItem(row.combo));
-    if (list == nullptr)
+    const int selected = list != nullptr ? ListDevices(list, row, wanted) : CB_ERR;
+    if (selected < 0)
         return false;
-    Empty(list);
-    int selected = -1;
-    int preferred = 0;
+    list->SetCurSel(selected);
+    return true;
+}
+
+int CWzdDlgBase::ListDevices(CComboBox* list, const SWzdRow& row, short wanted) const
+{
+    const CListFilling filling(list);
+    int wantedItem = -1;
+    int preferredItem = 0;
     short kind, code;
     BYTE bitKind = kWordDevice;
     for (int index = 0, found; (found = Wizard().GetSeqDevInfo(index, kind, code, bitKind, 0)) >= 0; index++)
@@ -166,14 +174,13 @@ bool CWzdDlgBase::FillDeviceCombo(const SWzdRow& row, short wanted)
         const CString name = FormatDeviceName(code);
         const int item = name.IsEmpty() ? CB_ERR : list->AddString(name);
         if (item < 0 || list->SetItemData(item, static_cast<DWORD>(MAKELONG(code, kind))) < 0)
-            return false;
+            return CB_ERR;
         if (code == wanted)
-            selected = item;
+            wantedItem = item;
         if (code == row.preferred)
-            preferred = item;
+            preferredItem = item;
     }
-    list->SetCurSel(selected >= 0 ? selected : preferred);
-    return true;
+    return wantedItem >= 0 ? wantedItem : preferredItem;
 }
 
 bool CWzdDlgBase::FillContactCombo(int comboId, int contactIndex)

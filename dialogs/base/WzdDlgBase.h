@@ -94,6 +94,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// The item to be selected; CB_ERR when the list refuses one.
+    int ListDevices(CComboBox* list, const SWzdRow& row, short wanted) const;
+
     /// Which fields a walk comes to: all, or only those that count at the moment.
     enum EFields
     {
