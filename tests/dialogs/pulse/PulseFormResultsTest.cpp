@@ -138,10 +138,10 @@ TEST_P(CPulseFormResultsTest, HoldTheContact)
     const SPulseForm& form = GetParam();
     const struct
     {
-        int device;
         const char* text;
+        int device;
         int number;
-    } contacts[] = {{kX, "0", 0}, {kY, "109F", 1759}, {kSpecialR, "901A", 14426}, {kT, "1007", 1007}, {kL, "7F", 127}};
+    } contacts[] = {{"0", kX, 0}, {"109F", kY, 1759}, {"901A", kSpecialR, 14426}, {"1007", kT, 1007}, {"7F", kL, 127}};
     for (const auto& contact : Sampled(contacts, 3))
     {
         SResults expected = FormResults(form, {});
