@@ -131,6 +131,8 @@ public:
     /// Presses and releases a key (VK_...) where the focus is, through the dialog's own key handling. `held` names the
     /// keys that are down meanwhile: {VK_SHIFT}.
     void PressKey(UINT key, std::initializer_list<UINT> held = {});
+    /// Puts a text on the clipboard, as another program would, and pastes it where the focus is, by Ctrl+V.
+    void Paste(LPCSTR text);
     /// Delivers the messages that wait in the queue, as the dialog's modal loop would.
     void Pump();
 

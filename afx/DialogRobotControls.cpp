@@ -2,6 +2,7 @@
 #include "afx/DialogRobotWindows.h"
 
 #include <algorithm>
+#include <cstring>
 
 using namespace robot;
 
@@ -286,6 +287,24 @@ void CDialogRobot::PressKey(UINT key, std::initializer_list<UINT> held)
     PostMessageA(target, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
     Pump();
     SetKeyboardState(keys);
+}
+
+void CDialogRobot::Paste(LPCSTR text)
+{
+    const CInside inside(true);
+    const size_t size = std::strlen(text) + 1;
+    const HGLOBAL data = GlobalAlloc(GMEM_MOVEABLE, size);
+    std::memcpy(GlobalLock(data), text, size);
+    GlobalUnlock(data);
+    const bool opened = OpenClipboard(Current()) && EmptyClipboard();
+    if (!opened || SetClipboardData(CF_TEXT, data) == nullptr)
+    {
+        GlobalFree(data);
+        Fail("The clipboard cannot be used.");
+    }
+    if (opened)
+        CloseClipboard();
+    PressKey('V', {VK_CONTROL});
 }
 
 CString CDialogRobot::ClickAndAnswer(UINT id, UINT answer)

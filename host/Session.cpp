@@ -233,6 +233,7 @@ SStep Step(const CNode& node)
         {"doubleclick", EVerb::DoubleClick, true, false},
         {"focus", EVerb::Focus, true, false},
         {"press", EVerb::Press, false, false},
+        {"paste", EVerb::Paste, false, false},
         {"shot", EVerb::Shot, false, false},
     };
     const auto form =
@@ -264,20 +265,29 @@ SStep Step(const CNode& node)
     }
     else if (form->verb == EVerb::Press)
     {
-        step.number = Choose<int>(value, {{"Enter", VK_RETURN},
-                                          {"Esc", VK_ESCAPE},
-                                          {"Tab", VK_TAB},
-                                          {"Up", VK_UP},
-                                          {"Down", VK_DOWN},
-                                          {"Left", VK_LEFT},
-                                          {"Right", VK_RIGHT},
-                                          {"Home", VK_HOME},
-                                          {"End", VK_END},
-                                          {"Page up", VK_PRIOR},
-                                          {"Page down", VK_NEXT},
-                                          {"Delete", VK_DELETE},
-                                          {"Insert", VK_INSERT},
-                                          {"F2", VK_F2}});
+        constexpr int kCtrl = 0x100;
+        const int key = Choose<int>(value, {{"Enter", VK_RETURN},
+                                            {"Esc", VK_ESCAPE},
+                                            {"Tab", VK_TAB},
+                                            {"Up", VK_UP},
+                                            {"Down", VK_DOWN},
+                                            {"Left", VK_LEFT},
+                                            {"Right", VK_RIGHT},
+                                            {"Home", VK_HOME},
+                                            {"End", VK_END},
+                                            {"Page up", VK_PRIOR},
+                                            {"Page down", VK_NEXT},
+                                            {"Delete", VK_DELETE},
+                                            {"Insert", VK_INSERT},
+                                            {"F2", VK_F2},
+                                            {"Ctrl+Home", VK_HOME | kCtrl},
+                                            {"Ctrl+End", VK_END | kCtrl},
+                                            {"Ctrl+C", 'C' | kCtrl},
+                                            {"Ctrl+D", 'D' | kCtrl},
+                                            {"Ctrl+I", 'I' | kCtrl},
+                                            {"Ctrl+V", 'V' | kCtrl}});
+        step.number = key & ~kCtrl;
+        step.ctrl = (key & kCtrl) != 0;
         step.text = value.Text();
     }
     else if (!form->namesControl)

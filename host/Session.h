@@ -27,7 +27,8 @@ enum class EVerb
     Click,
     DoubleClick,
     Focus,
-    Press, ///< the key `number`
+    Press, ///< the key `number`, with Ctrl when `ctrl`
+    Paste, ///< `text` by way of the clipboard, with Ctrl+V
     Shot   ///< a picture named `text`
 };
 
@@ -37,6 +38,7 @@ struct SStep
     EVerb verb = EVerb::Click;
     unsigned control = 0;
     int number = 0;
+    bool ctrl = false;
     std::string text;
     std::string where;              ///< its place in the file
     std::optional<unsigned> answer; ///< to the message box that comes up: IDOK, IDYES, ...

@@ -44,6 +44,8 @@ std::string Describe(const SStep& step)
         return "focus " + control;
     case EVerb::Press:
         return "press " + step.text;
+    case EVerb::Paste:
+        return "paste " + Quoted(step.text);
     case EVerb::Shot:
         return "shot " + step.text;
     }
@@ -211,7 +213,10 @@ void CSessionPlayer::Act(CDialogRobot& robot, const SStep& step)
     case EVerb::Focus:
         return robot.Focus(step.control);
     case EVerb::Press:
-        return robot.PressKey(static_cast<UINT>(step.number));
+        return step.ctrl ? robot.PressKey(static_cast<UINT>(step.number), {VK_CONTROL})
+                         : robot.PressKey(static_cast<UINT>(step.number));
+    case EVerb::Paste:
+        return robot.Paste(step.text.c_str());
     case EVerb::Shot:
         return SaveShot(robot, step.text);
     }

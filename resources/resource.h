@@ -81,6 +81,7 @@
 #define IDC_START_OUTPUT_RANGE 2060
 #define IDC_ONLY_DATA_TABLE 2061
 #define IDC_JOG_DIRECTION 2062
+#define IDC_GRID_CELLS 2090 // no control of a template: the window of a table's cells
 #define IDC_CLEAR_SETTINGS 2099
 #define IDC_REGISTER_COMMENTS 3001
 #define IDC_UNIT_CLEAR_SETTINGS 3099
@@ -151,6 +152,25 @@
 #define IDC_PWMH_RESOLUTION_100 2356
 #define IDC_PWMH_DUTY 2357
 #define IDC_PWMH_DUTY_RANGE 2358
+
+// F174 SP0H.
+#define IDC_SP0H_START 2401
+#define IDC_SP0H_START_RANGE 2402
+#define IDC_SP0H_CHANNEL 2403
+#define IDC_SP0H_OUTPUT 2404
+#define IDC_SP0H_DUTY 2405
+#define IDC_SP0H_FREQUENCY 2406
+#define IDC_SP0H_MODE 2407
+#define IDC_SP0H_CELL_EDITOR 2408
+#define IDC_SP0H_SCROLL 2409
+#define IDC_SP0H_ROW_1 2410
+#define IDC_SP0H_STEP_FREQUENCY 2411
+#define IDC_SP0H_CORNER 2412
+#define IDC_SP0H_ROW_2 2413
+#define IDC_SP0H_ROW_3 2414
+#define IDC_SP0H_ROW_4 2415
+#define IDC_SP0H_ROW_5 2416
+#define IDC_SP0H_STEP_TARGET 2417
 
 // F175 SPSH.
 #define IDC_SPSH_START 2451
@@ -273,11 +293,13 @@
 #define IDC_CODE_CLEAR_TIME 3072
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Commands of the scaling table's context menu
+// Commands of a table's context menu
 // ---------------------------------------------------------------------------------------------------------------------
 
-#define ID_SCALING_INSERT_LINE 2025
-#define ID_SCALING_DELETE_LINE 2026
+#define ID_GRID_INSERT_LINE 2025
+#define ID_GRID_DELETE_LINE 2026
+#define ID_GRID_COPY_ALL 2027
+#define ID_EDIT_COPY 0xE122
 #define ID_EDIT_PASTE 0xE125
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -708,13 +730,18 @@
 // Direct input of a control code.
 #define IDS_ERR_HEXADECIMAL 20101
 
+// Tables.
+#define IDS_GRID_NO_ROOM 20201
+
 // ---------------------------------------------------------------------------------------------------------------------
-// Strings 21000: the dialog font and the scaling table's context menu
+// Strings 21000: the dialog font and the context menu of tables
 // ---------------------------------------------------------------------------------------------------------------------
 
 #define IDS_FONT_FACE 21001
 #define IDS_MENU_PASTE 21101
 #define IDS_MENU_INSERT_LINE 21102
 #define IDS_MENU_DELETE_LINE 21103
+#define IDS_MENU_COPY_LINE 21104
+#define IDS_MENU_COPY_ALL 21105
 
 #endif

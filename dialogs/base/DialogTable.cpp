@@ -6,6 +6,7 @@
 #include "dialogs/pulse/PlshDlg.h"
 #include "dialogs/pulse/PwmDlg.h"
 #include "dialogs/pulse/PwmhDlg.h"
+#include "dialogs/pulse/Sp0hDlg.h"
 #include "dialogs/pulse/SpchDlg.h"
 #include "dialogs/pulse/Spd1Dlg.h"
 #include "dialogs/pulse/SpdhDlg.h"
@@ -39,6 +40,7 @@ constexpr SDialogRow kDialogs[] = {
     {IDD_SPDH_HOME, kAnyVariant, Make<CSpdhDlg, true>},
     {IDD_PLSH, kAnyVariant, Make<CPlshDlg>},
     {IDD_PWMH, kAnyVariant, Make<CPwmhDlg>},
+    {IDD_SP0H, kAnyVariant, Make<CSp0hDlg>},
     {IDD_SPSH, kAnyVariant, Make<CSpshDlg>},
     {IDD_SPCH, kAnyVariant, Make<CSpchDlg>},
     {IDD_EPOINT, kUnitEPoint, Make<CEPointDlg, kEPointForm>},

@@ -209,6 +209,11 @@ int CWzdDialog::ShowWarning(UINT stringId, UINT flags)
     // Without allocating: the message may be that memory has run out.
     char text[512];
     AfxLoadString(stringId, text, sizeof text);
+    return ShowWarningText(text, flags);
+}
+
+int CWzdDialog::ShowWarningText(LPCSTR text, UINT flags)
+{
     CWnd* owner = CWnd::GetSafeOwner();
     return (owner != nullptr ? owner : this)->MessageBox(text, GetAppName(), flags | MB_ICONEXCLAMATION);
 }

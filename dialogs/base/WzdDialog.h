@@ -52,6 +52,7 @@ public:
     bool Refuse(UINT edit, UINT message);
     /// Shows a message box with an exclamation mark above the active window; returns the button pressed.
     int ShowWarning(UINT stringId, UINT flags = 0);
+    int ShowWarningText(LPCSTR text, UINT flags = 0);
 
 protected:
     static constexpr int kNoHelp = -1;

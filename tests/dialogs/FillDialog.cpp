@@ -3,6 +3,7 @@
 #include "core/Values.h"
 #include "resources/resource.h"
 #include "tests/dialogs/base/FieldRecorder.h"
+#include "tests/dialogs/grid/GridRobot.h"
 
 #include <gtest/gtest.h>
 
@@ -24,6 +25,17 @@ CString Bound(CWzdDlgBase& dialog, const SDeclaredField& field, bool highest)
     return FormatDecimal64(highest ? high : low);
 }
 
+/// Fills some rows of the dialog's table, if it has one, with numbers that every column takes.
+void FillTable(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
+{
+    if (dynamic_cast<CGridDlg*>(&dialog) == nullptr)
+        return;
+    std::string text;
+    for (int row = 0; row <= round % 12; ++row)
+        text += std::to_string(500 + round % 100 + row) + "\t" + std::to_string(600 + row) + "\n";
+    PasteCells(robot, text);
+}
+
 } // namespace
 
 void FillDialog(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
@@ -35,6 +47,7 @@ void FillDialog(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
     for (const SDeclaredField& field : RecordFields(dialog))
         if (field.combo != 0)
             robot.Select(field.combo, choice++ % static_cast<int>(robot.Items(field.combo).size()));
+    FillTable(dialog, robot, round);
     for (const SDeclaredField& field : RecordFields(dialog)) // their ranges may depend on the combos
     {
         if (field.check != 0 && CanBeUsed(robot, field.check))

@@ -9,6 +9,7 @@
 #include "dialogs/pulse/PlshDlg.h"
 #include "dialogs/pulse/PwmDlg.h"
 #include "dialogs/pulse/PwmhDlg.h"
+#include "dialogs/pulse/Sp0hDlg.h"
 #include "dialogs/pulse/SpchDlg.h"
 #include "dialogs/pulse/Spd1Dlg.h"
 #include "dialogs/pulse/SpdhDlg.h"
@@ -55,6 +56,7 @@ inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"SpdhHome", kEverywhere, MakeDialog<CSpdhDlg, true>},
     {"Plsh", kEverywhere, MakeDialog<CPlshDlg>},
     {"Pwmh", kEverywhere, MakeDialog<CPwmhDlg>},
+    {"Sp0h", kEverywhere, MakeDialog<CSp0hDlg>},
     {"Spsh", kEverywhere, MakeSpsh<0>},
     {"SpshFirstChannel", kEverywhere, MakeSpsh<1>},
     {"SpshOtherAxes", kEverywhere, MakeSpsh<2>},

@@ -2,6 +2,7 @@
 // the dialogs.
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
@@ -53,9 +54,13 @@ public:
         return m_dc.GetTextExtent(text.c_str(), static_cast<int>(text.size())).cx;
     }
 
-    /// As a static draws it, with tab stops at every eight average characters.
+    /// As a static draws it: its longest line, with tab stops at every eight average characters.
     int DrawnWidth(const std::string& text, bool isPrefixed) const
     {
+        const size_t lineBreak = text.find('\n');
+        if (lineBreak != std::string::npos)
+            return std::max(DrawnWidth(text.substr(0, lineBreak), isPrefixed),
+                            DrawnWidth(text.substr(lineBreak + 1), isPrefixed));
         const std::string alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
         const int stop = 8 * Width(alphabet) / static_cast<int>(alphabet.size());
         int width = 0;

@@ -285,10 +285,13 @@ inline constexpr SEnglishText kEnglishTexts[] = {
     {20044, "The inputted data Y has become the outside of the range,\nPlease input the right value."},
     {20045, "Set the data X so that they can be listed in ascending order."},
     {20101, "The inputted value is not right.\nPlease input hexadecimal value."},
+    {20201, "The table has no room for all that was to be pasted.\nLines left out: %d\nColumns left out: %d"},
     {21001, "MS Sans Serif"},
     {21101, "&Paste\tCtrl+V"},
     {21102, "&Inseet line\tCtrl+I"},
     {21103, "&Delete line\tCtrl+D"},
+    {21104, "&Copy line\tCtrl+C"},
+    {21105, "Copy &all lines\tCtrl+Shift+C"},
 
     // Items of the combo boxes whose numbers are this library's own.
     {11104, "Incremental"},

@@ -17,7 +17,8 @@ enum class EControl
     RadioButton,
     GroupBox,
     PushButton,
-    DefaultButton
+    DefaultButton,
+    ScrollBar
 };
 
 struct SExpectedControl

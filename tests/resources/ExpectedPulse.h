@@ -338,3 +338,39 @@ inline SExpectedTemplate ExpectedSpch()
          {2506, {11115, 11116}},
          {2507, {11046, 11047, 11048, 11049, 11050, 11051}}}};
 }
+
+inline SExpectedTemplate ExpectedSp0h()
+{
+    const char* heading =
+        "SP0H (174)\tPulse output (with channel specification)(Selectable data table control operation)";
+    const std::vector<SExpectedControl> fields = {
+        {kNoId, EControl::Static, "The channel for a pulse output"},
+        {2403, EControl::DropList, ""},
+        {kNoId, EControl::Static, "Duty (on width)"},
+        {2405, EControl::DropList, ""},
+        {kNoId, EControl::Static, "Frequency range"},
+        {2406, EControl::DropList, ""},
+        {kNoId, EControl::Static, "Operation mode"},
+        {2407, EControl::DropList, ""},
+        {kNoId, EControl::Static, "Output method"},
+        {2404, EControl::DropList, ""},
+        {2412, EControl::Static, ""},
+        {2411, EControl::Static, "Frequency (Hz)\n"},
+        {2417, EControl::Static, "Target value (Number of pulses.)\n(-2147483648 - 2147483647)"},
+        {2410, EControl::Static, ""},
+        {2413, EControl::Static, ""},
+        {2414, EControl::Static, ""},
+        {2415, EControl::Static, ""},
+        {2416, EControl::Static, ""},
+        {2408, EControl::Edit, ""},
+        {2409, EControl::ScrollBar, ""},
+    };
+    return {1019,
+            "F174 (SP0H)",
+            Joined({ExpectedTop(heading, 2401, 2402), fields, ExpectedButtons()}),
+            {{2403, {11039}},
+             {2405, {11041, 11042}},
+             {2406, {11043, 11044, 11045}},
+             {2407, {11104, 11105}},
+             {2404, {11106, 11107, 11108}}}};
+}

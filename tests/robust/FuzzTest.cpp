@@ -7,6 +7,7 @@
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
 #include "resources/resource.h"
 #include "tests/dialogs/InstructionDialogs.h"
+#include "tests/dialogs/grid/GridRobot.h"
 #include "tests/robust/TextGenerator.h"
 #include "tests/support/Controller.h"
 #include "tests/support/DesktopTest.h"
@@ -190,6 +191,17 @@ private:
         for (const SRobotControl& control : Usable(robot))
             if (control.className == "Edit")
                 robot.Type(control.id, kNumbers[Below(random, std::size(kNumbers))]);
+        if (robot.Exists(kGridCells) && robot.Enabled(kGridCells))
+            Paste(robot, random);
+    }
+
+    /// Pastes some rows of numbers, seldom more than there is room for, into the table from the first cell on.
+    static void Paste(CDialogRobot& robot, Random& random)
+    {
+        std::string text;
+        for (int row = Below(random, OneIn(random, 20) ? 60 : 12); row >= 0; --row)
+            text += std::to_string(1 + Below(random, 100)) + "\t" + std::to_string(Below(random, 100)) + "\n";
+        robot.Answering(IDOK, [&] { PasteCells(robot, text); });
     }
 
     void PlayStep(CDialogRobot& robot, Random& random)
@@ -197,7 +209,9 @@ private:
         const std::vector<SRobotControl> usable = Usable(robot);
         ASSERT_FALSE(usable.empty());
         const SRobotControl& control = usable[static_cast<size_t>(Below(random, usable.size()))];
-        if (OneIn(random, 8))
+        if (control.id == kGridCells)
+            robot.Answering(IDOK, [&] { WorkInTable(robot, random); });
+        else if (OneIn(random, 8))
             PressKey(robot, random);
         else if (control.className == "Edit")
             Enter(robot, control.id, random);
@@ -217,6 +231,44 @@ private:
             robot.SetText(edit, text.substr(0, 300).c_str());
         else
             robot.Type(edit, text.c_str());
+    }
+
+    static void WorkInTable(CDialogRobot& robot, Random& random)
+    {
+        constexpr UINT kKeys[] = {VK_UP,  VK_DOWN, VK_LEFT, VK_RIGHT,  VK_PRIOR, VK_NEXT, VK_HOME,   VK_END,
+                                  VK_TAB, VK_TAB,  VK_F2,   VK_RETURN, VK_BACK,  VK_F2,   VK_DELETE, VK_ESCAPE};
+        constexpr UINT kCtrlKeys[] = {'C', 'D', 'I', 'V', VK_HOME, VK_END, 'X', VK_UP};
+        constexpr char kMenuKeys[] = {'p', 'c', 'a', 'i', 'd'};
+        const int row = Below(random, 5), column = Below(random, 2);
+        switch (Below(random, 10))
+        {
+        case 0:
+            return ClickCell(robot, row, column);
+        case 1:
+            return DoubleClickCell(robot, row, column);
+        case 2:
+            return Scroll(robot, static_cast<UINT>(Below(random, 9)), Below(random, 70));
+        case 3:
+            return TurnWheel(robot, Below(random, 1000) - 500);
+        case 4:
+            return ChooseInMenu(robot, kMenuKeys[Below(random, std::size(kMenuKeys))]);
+        case 5:
+            ClickCell(robot, row, column);
+            return robot.Paste(GeneratedText(static_cast<unsigned>(random())).substr(0, 300).c_str());
+        case 6:
+            ClickCell(robot, row, column);
+            return TypeHere(robot, GeneratedText(static_cast<unsigned>(random())).substr(0, 12));
+        case 7:
+            return Paste(robot, random);
+        case 8:
+            ClickCell(robot, row, column);
+            return PressCtrl(robot, kCtrlKeys[Below(random, std::size(kCtrlKeys))]);
+        default:
+            ClickCell(robot, row, column);
+            if (OneIn(random, 2))
+                TypeHere(robot, std::to_string(Below(random, 200)));
+            return robot.PressKey(kKeys[Below(random, robot.Visible(EditorOf(robot)) ? 16 : 15)]); // Esc leaves
+        }
     }
 
     static void SelectAny(CDialogRobot& robot, UINT list, Random& random)
