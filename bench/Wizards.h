@@ -3,7 +3,8 @@
 
 #include "core/FunWizard.h"
 
-/// Sets up a controller that has every device a contact can be on, two channels, and F168 in the selection list.
+/// Sets up a controller that has every device a contact can be on, two channels for each instruction, and F168 in the
+/// selection list.
 inline void SetUpController(CFunWizard& wizard)
 {
     constexpr short kRangeKind = -1;
@@ -11,8 +12,9 @@ inline void SetUpController(CFunWizard& wizard)
         wizard.SetDevRange(kRangeKind, device, 0, 15999);
     constexpr short kRegisters = 9;
     wizard.SetDevRange(kRangeKind, kRegisters, 0, 32764);
-    for (int channel : {0, 1})
-        wizard.SetChannelNo(channel, 171);
+    for (int instruction = 171; instruction <= 175; ++instruction)
+        for (int channel : {0, 1})
+            wizard.SetChannelNo(channel, instruction);
     wizard.EntrySupportFunInfo(168);
 }
 

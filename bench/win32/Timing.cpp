@@ -13,6 +13,7 @@
 #include "dialogs/pulse/PlshDlg.h"
 #include "dialogs/pulse/PwmDlg.h"
 #include "dialogs/pulse/PwmhDlg.h"
+#include "dialogs/pulse/Sp0hDlg.h"
 #include "dialogs/pulse/SpchDlg.h"
 #include "dialogs/pulse/Spd1Dlg.h"
 #include "dialogs/pulse/SpdhDlg.h"
@@ -119,6 +120,7 @@ constexpr SOpening kOpenings[] = {
     {"F171", IDD_SPDH_TRAPEZOIDAL, Open<CSpdhDlg, false>},
     {"F172", IDD_PLSH, Open<CPlshDlg>},
     {"F173", IDD_PWMH, Open<CPwmhDlg>},
+    {"F174", IDD_SP0H, Open<CSp0hDlg>},
     {"F175", IDD_SPSH, Open<CSpshDlg>},
     {"F176", IDD_SPCH, Open<CSpchDlg>},
     {"control code", IDD_CONTROL_CODE, Open<CPosCtrlCodeDlg>},

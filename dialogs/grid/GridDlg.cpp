@@ -19,10 +19,11 @@ ON_COMMAND(ID_GRID_INSERT_LINE, &CGridDlg::OnInsertLine)
 ON_COMMAND(ID_GRID_DELETE_LINE, &CGridDlg::OnDeleteLine)
 END_MESSAGE_MAP()
 
-// Before the dialog makes Enter, Esc and Tab its own.
+// Before the dialog makes Enter, Esc and Tab its own, and an edit the wheel.
 BOOL CGridDlg::PreTranslateMessage(MSG* message)
 {
-    return m_grid.TranslateKey(*message) || CWzdDlgBase::PreTranslateMessage(message);
+    return m_grid.TranslateKey(*message) || m_grid.TranslateWheel(*message) ||
+           CWzdDlgBase::PreTranslateMessage(message);
 }
 
 // What is still in the editor counts, too.

@@ -296,7 +296,7 @@ bool IsDown(int key) { return ::GetKeyState(key) < 0; }
 
 bool CGridView::TranslateKey(const MSG& message)
 {
-    const bool inEditor = m_isEditing && message.hwnd == Editor()->m_hWnd;
+    const bool inEditor = IsToEditor(message);
     if (message.message != WM_KEYDOWN || (message.hwnd != m_hWnd && !inEditor) || IsDown(VK_MENU))
         return false;
     const auto key = static_cast<UINT>(message.wParam);
@@ -435,6 +435,14 @@ void CGridView::ScrollBy(short wheelDelta)
     m_wheel %= WHEEL_DELTA;
     if (lines != 0)
         Do([&] { m_model.ScrollTo(m_model.FirstVisible() - lines); });
+}
+
+bool CGridView::TranslateWheel(const MSG& message)
+{
+    if (message.message != WM_MOUSEWHEEL || !IsToEditor(message))
+        return false;
+    ScrollBy(static_cast<short>(HIWORD(message.wParam)));
+    return true;
 }
 
 void CGridView::OnContextMenu(CWnd*, CPoint point)

@@ -46,6 +46,8 @@ public:
 
     /// Whether a message is a key of the table, for the cells or for the editor.
     bool TranslateKey(const MSG& message);
+    /// Whether a message is a turn of the wheel in the editor.
+    bool TranslateWheel(const MSG& message);
     void OnEditorLeft();
     void Scroll(UINT code, int position);
     void ScrollBy(short wheelDelta);
@@ -70,6 +72,7 @@ protected:
     afx_msg void OnContextMenu(CWnd* window, CPoint point);
 
 private:
+    bool IsToEditor(const MSG& message) const { return m_isEditing && message.hwnd == Editor()->m_hWnd; }
     CEdit* Editor() const { return static_cast<CEdit*>(m_dialog.GetDlgItem(m_controls.editor)); }
     /// Opens the editor over the current cell. `text` is what it begins with.
     void OpenEditor(LPCSTR text);
