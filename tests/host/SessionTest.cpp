@@ -87,6 +87,11 @@ TEST(SessionTest, ReadsEverySteps)
     EXPECT_EQ(ParseStep(R"({"focus": 2001})").verb, EVerb::Focus);
     EXPECT_EQ(ParseStep(R"({"shot": "name"})").text, "name");
     EXPECT_EQ(ParseStep(R"({"press": "Enter"})").number, VK_RETURN);
+    EXPECT_FALSE(ParseStep(R"({"press": "Enter"})").ctrl);
+    EXPECT_EQ(ParseStep(R"({"press": "Ctrl+I"})").number, 'I');
+    EXPECT_TRUE(ParseStep(R"({"press": "Ctrl+I"})").ctrl);
+    EXPECT_EQ(ParseStep(R"({"paste": "1\t2\n"})").verb, EVerb::Paste);
+    EXPECT_EQ(ParseStep(R"({"paste": "1\t2\n"})").text, "1\t2\n");
 }
 
 TEST(SessionTest, ReadsAControllerThatStartsFromAPreset)
