@@ -23,7 +23,7 @@ void CGridField::Refresh()
         m_dialog.SetItemText(row.rangeHeading, heading.Left(heading.Find('\n') + 1) +
                                                    FillText(IDS_RANGE_DECIMAL, {row.range.low, row.range.high}));
     }
-    m_grid.ShowCells();
+    m_grid.Refresh();
 }
 
 void CGridField::SetValue(SGridCell cell, LONGLONG value)

@@ -2,6 +2,7 @@
 // window takes the place between them.
 #pragma once
 
+#include "core/Memory.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/grid/GridModel.h"
 
@@ -33,6 +34,8 @@ public:
     /// To be followed by ShowCells.
     CGridModel& Model() { return m_model; }
     void ShowCells();
+    /// Shows the cells to a dialog that is in line with the rows: it is told when they become more or fewer.
+    void Refresh();
     /// How many characters can be typed into the cells of a column.
     void LimitText(int column, int characters) { m_limits.at(static_cast<size_t>(column)) = characters; }
     void Clear();
@@ -103,3 +106,16 @@ private:
     int m_toldRows = 1; // what the dialog knows of
     int m_wheel = 0;    // turned, and not enough for a line yet
 };
+
+template <typename TOperation>
+void CGridView::Do(TOperation operation)
+{
+    const int enough = WithMemory([&] {
+        CloseEditor();
+        operation();
+        ShowCells();
+        TellRows();
+    });
+    if (!enough)
+        m_dialog.ShowWarning(IDS_ERR_MEMORY);
+}

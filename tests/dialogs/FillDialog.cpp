@@ -25,15 +25,17 @@ CString Bound(CWzdDlgBase& dialog, const SDeclaredField& field, bool highest)
     return FormatDecimal64(highest ? high : low);
 }
 
-/// Fills some rows of the dialog's table, if it has one, with numbers that every column takes.
+/// Fills some rows of the dialog's table, if it has one, with numbers that every column takes. They are typed: what
+/// goes through the clipboard stays with the system.
 void FillTable(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
 {
     if (dynamic_cast<CGridDlg*>(&dialog) == nullptr)
         return;
-    std::string text;
+    robot.Focus(kGridCells);
+    PressCtrl(robot, VK_HOME);
     for (int row = 0; row <= round % 12; ++row)
-        text += std::to_string(500 + round % 100 + row) + "\t" + std::to_string(600 + row) + "\n";
-    PasteCells(robot, text);
+        TypeCells(robot, {std::to_string(500 + round % 100 + row).c_str(), std::to_string(600 + row).c_str()});
+    PressCtrl(robot, VK_HOME);
 }
 
 } // namespace
