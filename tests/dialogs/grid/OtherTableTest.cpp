@@ -62,7 +62,7 @@ public:
             {.limit = 6, .format = Fixed(3, 2), .range = {100, 99999}, .message = IDS_ERR_DATA_X},
             {.limit = 4, .format = kUnsigned, .range = {0, 50}, .message = IDS_ERR_DATA_Y}};
         WDX_TableStart(wx, {.edit = IDC_SP0H_START, .rangeLabel = IDC_SP0H_START_RANGE});
-        WzdDeclare<CPairsField>(wx, {.entry = {0, kOneRegister, 2 * kRows}}, *this, columns);
+        WzdDeclare<CPairsField>(wx, {.entry = {0, kOneRegister, 2LL * kRows}}, *this, columns);
     }
 };
 
