@@ -4,6 +4,10 @@
 #include "core/FunWizard.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/posunit/HomeReturnDlg.h"
+#include "dialogs/posunit/JogDlg.h"
+#include "dialogs/posunit/PPointDlg.h"
+#include "dialogs/posunit/PulsarDlg.h"
 #include "dialogs/process/PidDlg.h"
 #include "dialogs/pulse/PlsDlg.h"
 #include "dialogs/pulse/PlshDlg.h"
@@ -62,5 +66,10 @@ inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"EPoint", kEverywhere, MakeDialog<CEPointDlg, kEPointForm>},
     {"PPointStart", kEverywhere, MakeDialog<CEPointDlg, kPPointStartForm>},
     {"JogPositioning", kEverywhere, MakeDialog<CEPointDlg, kJogPositioningForm>},
+    {"PPointPassing", kEverywhere, MakeDialog<CPPointDlg>},
+    {"Jog", kEverywhere, MakeDialog<CJogDlg, false>},
+    {"JogSpeedChange", kEverywhere, MakeDialog<CJogDlg, true>},
+    {"HomeReturn", kEverywhere, MakeDialog<CHomeReturnDlg>},
+    {"Pulsar", kEverywhere, MakeDialog<CPulsarDlg>},
     {"Pid", kEverywhere, MakeDialog<CPidDlg, 19>},
 };
