@@ -197,25 +197,31 @@ inline std::vector<SExpectedItems> ExpectedJogItems()
             {3065, {15013, 15014}}, {3066, {15015, 15016}}, {3071, {15017}}};
 }
 
+inline SExpectedTemplate ExpectedJogForm(unsigned id, const char* caption, std::vector<SExpectedControl> controls)
+{
+    SExpectedTemplate form =
+        ExpectedOperation(id, caption, std::move(controls), ExpectedJogItems(), ExpectedJogStartOutput());
+    form.itemsOfLibraries = {{2062, {15030, 15031}}};
+    return form;
+}
+
 inline SExpectedTemplate ExpectedJog()
 {
-    return ExpectedOperation(
+    return ExpectedJogForm(
         1053, "JOG operation With no speed change",
         Joined({ExpectedJogTop("\"S\" Accel./decel."), ExpectedUnitNumber("Target speed", 3208, "pps", "(1 - 4000000)"),
-                ExpectedUnitNumber("Accel./decel. time", 3213, "ms", "(0 - 32767)")}),
-        ExpectedJogItems(), ExpectedJogStartOutput());
+                ExpectedUnitNumber("Accel./decel. time", 3213, "ms", "(0 - 32767)")}));
 }
 
 inline SExpectedTemplate ExpectedJogSpeedChange()
 {
-    return ExpectedOperation(1054, "JOG operation Those with a speed change",
-                             Joined({ExpectedJogTop("\"S\" accel./decel."),
-                                     ExpectedUnitNumber("Target speed <Low speed>", 3208, "pps", "(1 - 4000000)"),
-                                     ExpectedUnitNumber("Target speed <High speed>", 3209, "pps", "(1 - 4000000)"),
-                                     ExpectedUnitList("Speed change condition contact", 3210),
-                                     {{3211, EControl::Edit, ""}, {3212, EControl::Static, "Impossible settings"}},
-                                     ExpectedUnitNumber("Accel./decel. time", 3213, "ms", "(0 - 32767)")}),
-                             ExpectedJogItems(), ExpectedJogStartOutput());
+    return ExpectedJogForm(1054, "JOG operation Those with a speed change",
+                           Joined({ExpectedJogTop("\"S\" accel./decel."),
+                                   ExpectedUnitNumber("Target speed <Low speed>", 3208, "pps", "(1 - 4000000)"),
+                                   ExpectedUnitNumber("Target speed <High speed>", 3209, "pps", "(1 - 4000000)"),
+                                   ExpectedUnitList("Speed change condition contact", 3210),
+                                   {{3211, EControl::Edit, ""}, {3212, EControl::Static, "Impossible settings"}},
+                                   ExpectedUnitNumber("Accel./decel. time", 3213, "ms", "(0 - 32767)")}));
 }
 
 inline SExpectedTemplate ExpectedHomeReturn()

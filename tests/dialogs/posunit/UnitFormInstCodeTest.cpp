@@ -41,12 +41,12 @@ Instructions Rows(const instcode::SProgram& program)
 TEST_P(CUnitFormInstCodeTest, LeadToTheLadderOfTheReference)
 {
     const SUnitForm& form = GetParam();
-    for (const int source : kUnitSources)
+    for (const int source : kSweptUnitSources)
     {
         Use(source);
         for (const BYTE startType : std::initializer_list<BYTE>{0, 1, 2})
             for (const bool wanted : {false, true})
-                for (const bool same : {false, true})
+                for (const bool same : SameOrNot(wanted))
                     for (int direction = 0; direction <= (form.HasDirection() ? 1 : 0); ++direction)
                     {
                         SCOPED_TRACE(testing::Message() << "source " << source << ", start type " << int{startType}

@@ -107,6 +107,11 @@ SResults EarlierUnitResults()
             .instructions = {{8, -1, 151, 0, 0}}};
 }
 
+std::vector<bool> SameOrNot(bool wanted)
+{
+    return wanted || IsThorough() ? std::vector{false, true} : std::vector{true};
+}
+
 SUnitEntries Started(const SUnitForm& form)
 {
     SUnitEntries entries(form);

@@ -7,6 +7,8 @@
 #include "tests/resources/LanguageLibrary.h"
 #include "tests/support/Sampled.h"
 
+#include <span>
+
 class CUnitFormTest : public CPosUnitTest
 {
 protected:
@@ -44,9 +46,15 @@ std::string UnitFormName(const testing::TestParamInfo<SUnitForm>& info);
 
 /// The module's template has no start output, that of the library has.
 inline constexpr int kUnitSources[] = {kModule, kEnglish};
+// For sweeps: both, or what has most of it where an opening takes long.
+inline const std::span<const int> kSweptUnitSources =
+    std::span(kUnitSources).last(IsThorough() ? std::size(kUnitSources) : 1);
 
 /// Results that no confirmed dialog leaves.
 SResults EarlierUnitResults();
+
+/// Both states of the check box "same condition", or as a sample one of them where it does not matter.
+std::vector<bool> SameOrNot(bool wanted);
 
 /// Entries with a start output.
 SUnitEntries Started(const SUnitForm& form);
