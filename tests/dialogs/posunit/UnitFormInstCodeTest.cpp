@@ -46,8 +46,8 @@ TEST_P(CUnitFormInstCodeTest, LeadToTheLadderOfTheReference)
         Use(source);
         for (const BYTE startType : std::initializer_list<BYTE>{0, 1, 2})
             for (const bool wanted : {false, true})
-                for (const bool same : SameOrNot(wanted))
-                    for (int direction = 0; direction <= (form.HasDirection() ? 1 : 0); ++direction)
+                for (const bool same : SameOrNot(wanted && startType != 0))
+                    for (const int direction : SweptDirections(form))
                     {
                         SCOPED_TRACE(testing::Message() << "source " << source << ", start type " << int{startType}
                                                         << ", " << wanted << same << direction);

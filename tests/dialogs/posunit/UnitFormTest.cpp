@@ -112,6 +112,13 @@ std::vector<bool> SameOrNot(bool wanted)
     return wanted || IsThorough() ? std::vector{false, true} : std::vector{true};
 }
 
+std::vector<int> SweptDirections(const SUnitForm& form)
+{
+    if (!form.HasDirection())
+        return {0};
+    return IsThorough() ? std::vector{0, 1} : std::vector{1};
+}
+
 SUnitEntries Started(const SUnitForm& form)
 {
     SUnitEntries entries(form);

@@ -56,6 +56,9 @@ SResults EarlierUnitResults();
 /// Both states of the check box "same condition", or as a sample one of them where it does not matter.
 std::vector<bool> SameOrNot(bool wanted);
 
+/// The positions in the list of directions; or as a sample the last one.
+std::vector<int> SweptDirections(const SUnitForm& form);
+
 /// Entries with a start output.
 SUnitEntries Started(const SUnitForm& form);
 
