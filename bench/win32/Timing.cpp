@@ -7,7 +7,11 @@
 #include "bench/Wizards.h"
 #include "bench/win32/PlainDialog.h"
 #include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/posunit/HomeReturnDlg.h"
+#include "dialogs/posunit/JogDlg.h"
+#include "dialogs/posunit/PPointDlg.h"
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
+#include "dialogs/posunit/PulsarDlg.h"
 #include "dialogs/process/PidDlg.h"
 #include "dialogs/pulse/PlsDlg.h"
 #include "dialogs/pulse/PlshDlg.h"
@@ -125,6 +129,11 @@ constexpr SOpening kOpenings[] = {
     {"F176", IDD_SPCH, Open<CSpchDlg>},
     {"control code", IDD_CONTROL_CODE, Open<CPosCtrlCodeDlg>},
     {"E point", IDD_EPOINT, Open<CEPointDlg, kEPointForm>},
+    {"P point", IDD_PPOINT, Open<CPPointDlg>},
+    {"JOG", IDD_JOG, Open<CJogDlg, false>},
+    {"JOG change", IDD_JOG_SPEED_CHANGE, Open<CJogDlg, true>},
+    {"home return", IDD_HOME_RETURN, Open<CHomeReturnDlg>},
+    {"pulsar", IDD_PULSAR, Open<CPulsarDlg>},
     {"PID", IDD_PID, Open<CPidDlg, 30>},
 };
 

@@ -2,6 +2,10 @@
 
 #include "core/Memory.h"
 #include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/posunit/HomeReturnDlg.h"
+#include "dialogs/posunit/JogDlg.h"
+#include "dialogs/posunit/PPointDlg.h"
+#include "dialogs/posunit/PulsarDlg.h"
 #include "dialogs/pulse/PlsDlg.h"
 #include "dialogs/pulse/PlshDlg.h"
 #include "dialogs/pulse/PwmDlg.h"
@@ -46,6 +50,11 @@ constexpr SDialogRow kDialogs[] = {
     {IDD_EPOINT, kUnitEPoint, Make<CEPointDlg, kEPointForm>},
     {IDD_EPOINT, kUnitPPointStart, Make<CEPointDlg, kPPointStartForm>},
     {IDD_EPOINT, kUnitJogPositioning, Make<CEPointDlg, kJogPositioningForm>},
+    {IDD_PPOINT, kAnyVariant, Make<CPPointDlg>},
+    {IDD_JOG, kAnyVariant, Make<CJogDlg, false>},
+    {IDD_JOG_SPEED_CHANGE, kAnyVariant, Make<CJogDlg, true>},
+    {IDD_HOME_RETURN, kAnyVariant, Make<CHomeReturnDlg>},
+    {IDD_PULSAR, kAnyVariant, Make<CPulsarDlg>},
 };
 
 } // namespace

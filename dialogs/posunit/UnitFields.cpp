@@ -103,10 +103,15 @@ private:
 
 constexpr LONGLONG kFastest = 4000000;
 
-void DeclareDoubleWord(CWzdExchange* wx, UINT edit, int offset, int limit, SWzdRange range, UINT message)
+void DeclareDoubleWord(CWzdExchange* wx, UINT edit, int offset, int limit, SWzdRange range, UINT message,
+                       UINT comment = 0)
 {
-    WDX_Number(wx,
-               {.edit = edit, .entry = {offset, kTwoRegisters}, .limit = limit, .range = range, .message = message});
+    WDX_Number(wx, {.edit = edit,
+                    .entry = {offset, kTwoRegisters},
+                    .limit = limit,
+                    .range = range,
+                    .message = message,
+                    .comment = {.text = comment}});
 }
 
 } // namespace
@@ -126,9 +131,9 @@ void WDX_StartupSpeed(CWzdExchange* wx, UINT edit, int offset)
     DeclareDoubleWord(wx, edit, offset, 7, {0, kFastest}, IDS_ERR_STARTUP_SPEED);
 }
 
-void WDX_TargetSpeed(CWzdExchange* wx, UINT edit, int offset)
+void WDX_TargetSpeed(CWzdExchange* wx, UINT edit, int offset, UINT comment)
 {
-    DeclareDoubleWord(wx, edit, offset, 7, {1, kFastest}, IDS_ERR_TARGET_SPEED);
+    DeclareDoubleWord(wx, edit, offset, 7, {1, kFastest}, IDS_ERR_TARGET_SPEED, comment);
 }
 
 void WDX_AccelerationTime(CWzdExchange* wx, UINT edit, int offset)

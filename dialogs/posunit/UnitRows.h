@@ -20,8 +20,9 @@ enum EUnitOperand
 void WDX_UnitAxis(CWzdExchange* wx, UINT slotEdit, UINT axisEdit, int words, int areaOffset = 0);
 
 // Entries of the data table, each of two registers, by their offset: speeds in pulses a second, milliseconds, pulses.
+// Their comments are their labels, or `comment`.
 void WDX_StartupSpeed(CWzdExchange* wx, UINT edit, int offset);
-void WDX_TargetSpeed(CWzdExchange* wx, UINT edit, int offset);
+void WDX_TargetSpeed(CWzdExchange* wx, UINT edit, int offset, UINT comment = 0);
 void WDX_AccelerationTime(CWzdExchange* wx, UINT edit, int offset);
 void WDX_Position(CWzdExchange* wx, UINT edit, int offset);
 

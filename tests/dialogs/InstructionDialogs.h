@@ -4,6 +4,10 @@
 #include "core/FunWizard.h"
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/posunit/EPointDlg.h"
+#include "dialogs/posunit/HomeReturnDlg.h"
+#include "dialogs/posunit/JogDlg.h"
+#include "dialogs/posunit/PPointDlg.h"
+#include "dialogs/posunit/PulsarDlg.h"
 #include "dialogs/process/PidDlg.h"
 #include "dialogs/pulse/PlsDlg.h"
 #include "dialogs/pulse/PlshDlg.h"
@@ -24,11 +28,25 @@ enum ESources
     kLibrariesOnly ///< the module's own resources do not have the dialog
 };
 
+/// Every register of a data table belongs to one field, but for these pairs, each by its offset in the table.
+struct SUnusualRegisters
+{
+    int ofTwoFields = -1;
+    int ofNoField = -1;
+
+    int FieldsOf(int offset) const
+    {
+        const auto isIn = [=](int pair) { return pair >= 0 && (offset == pair || offset == pair + 1); };
+        return isIn(ofTwoFields) ? 2 : isIn(ofNoField) ? 0 : 1;
+    }
+};
+
 struct SInstructionDialog
 {
     const char* name;
     ESources sources;
     std::unique_ptr<CWzdDlgBase> (*make)(CFunWizard* wizard);
+    SUnusualRegisters unusual = {};
 };
 
 inline std::ostream& operator<<(std::ostream& out, const SInstructionDialog& row) { return out << row.name; }
@@ -64,5 +82,10 @@ inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"EPoint", kEverywhere, MakeDialog<CEPointDlg, kEPointForm>},
     {"PPointStart", kEverywhere, MakeDialog<CEPointDlg, kPPointStartForm>},
     {"JogPositioning", kEverywhere, MakeDialog<CEPointDlg, kJogPositioningForm>},
+    {"PPointPassing", kEverywhere, MakeDialog<CPPointDlg>},
+    {"Jog", kEverywhere, MakeDialog<CJogDlg, false>},
+    {"JogSpeedChange", kEverywhere, MakeDialog<CJogDlg, true>, {.ofTwoFields = 4}},
+    {"HomeReturn", kEverywhere, MakeDialog<CHomeReturnDlg>},
+    {"Pulsar", kEverywhere, MakeDialog<CPulsarDlg>, {.ofNoField = 2}},
     {"Pid", kEverywhere, MakeDialog<CPidDlg, 19>},
 };

@@ -45,6 +45,7 @@ struct SExpectedTemplate
     std::vector<SExpectedItems> items;
     std::vector<SExpectedControl> librariesOnly = {}; ///< what the language libraries' template has more
     size_t before = 0;                                ///< and the position in `controls` where it stands
+    std::vector<SExpectedItems> itemsOfLibraries = {};
 
     /// In tab order, in the module's own resources or in a language library.
     std::vector<SExpectedControl> ControlsIn(bool library) const
@@ -52,6 +53,14 @@ struct SExpectedTemplate
         std::vector<SExpectedControl> all = controls;
         if (library)
             all.insert(all.begin() + static_cast<std::ptrdiff_t>(before), librariesOnly.begin(), librariesOnly.end());
+        return all;
+    }
+
+    std::vector<SExpectedItems> ItemsIn(bool library) const
+    {
+        std::vector<SExpectedItems> all = items;
+        if (library)
+            all.insert(all.end(), itemsOfLibraries.begin(), itemsOfLibraries.end());
         return all;
     }
 };

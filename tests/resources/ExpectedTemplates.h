@@ -26,12 +26,25 @@ inline SExpectedTemplate ExpectedSelect()
 /// Every template that is tested; a template that stands in a script and not here fails a test.
 inline std::vector<SExpectedTemplate> ExpectedTemplates()
 {
-    return {ExpectedSelect(),      ExpectedSpd1Trapezoidal(),
-            ExpectedSpd1Home(),    ExpectedPls(),
-            ExpectedPwm(),         ExpectedSpdhTrapezoidal(),
-            ExpectedSpdhHome(),    ExpectedPlsh(),
-            ExpectedPwmh(),        ExpectedSp0h(),
-            ExpectedSpsh(),        ExpectedSpch(),
-            ExpectedPid(),         ExpectedEPoint(),
-            ExpectedControlCode(), ExpectedControlCodeHex()};
+    return {ExpectedSelect(),
+            ExpectedSpd1Trapezoidal(),
+            ExpectedSpd1Home(),
+            ExpectedPls(),
+            ExpectedPwm(),
+            ExpectedSpdhTrapezoidal(),
+            ExpectedSpdhHome(),
+            ExpectedPlsh(),
+            ExpectedPwmh(),
+            ExpectedSp0h(),
+            ExpectedSpsh(),
+            ExpectedSpch(),
+            ExpectedPid(),
+            ExpectedEPoint(),
+            ExpectedPPoint(),
+            ExpectedJog(),
+            ExpectedJogSpeedChange(),
+            ExpectedHomeReturn(),
+            ExpectedPulsar(),
+            ExpectedControlCode(),
+            ExpectedControlCodeHex()};
 }

@@ -92,14 +92,15 @@ class TemplatesTest : public testing::TestWithParam<SExpectedTemplate>
 protected:
     /// Calls look() with the picture of the template in each language there is.
     template <class TLook>
-    static void InEveryLanguage(const std::vector<unsigned>& texts, TLook look)
+    static void InEveryLanguage(const std::vector<unsigned>& texts, const std::vector<unsigned>& libraryTexts,
+                                TLook look)
     {
         for (int language : BuiltLanguages())
         {
             SCOPED_TRACE("language " + std::to_string(language));
             const CLanguage scope(language);
             ASSERT_TRUE(scope.IsLoaded());
-            SDialogPicture picture = PictureOf(GetParam().id, texts);
+            SDialogPicture picture = PictureOf(GetParam().id, language == kModule ? texts : libraryTexts);
             picture.language = language;
             ASSERT_EQ(picture.failures, std::vector<std::string>());
             ASSERT_FALSE(picture.controls.empty());
@@ -110,7 +111,7 @@ protected:
     template <class TLook>
     static void InEveryLanguage(TLook look)
     {
-        InEveryLanguage({}, look);
+        InEveryLanguage({}, {}, look);
     }
 };
 
@@ -230,9 +231,12 @@ TEST_P(TemplatesTest, ShowsEveryListItemWhole)
     std::vector<unsigned> texts;
     for (const SExpectedItems& items : GetParam().items)
         texts.insert(texts.end(), items.texts.begin(), items.texts.end());
+    std::vector<unsigned> libraryTexts = texts;
+    for (const SExpectedItems& items : GetParam().itemsOfLibraries)
+        libraryTexts.insert(libraryTexts.end(), items.texts.begin(), items.texts.end());
 
-    InEveryLanguage(texts, [](const SDialogPicture& picture) {
-        for (const SExpectedItems& items : GetParam().items)
+    InEveryLanguage(texts, libraryTexts, [](const SDialogPicture& picture) {
+        for (const SExpectedItems& items : GetParam().ItemsIn(picture.language != kModule))
         {
             const SPicturedControl* list = picture.Find(items.combo);
             ASSERT_NE(list, nullptr) << items.combo;

@@ -1,91 +1,11 @@
 #include "tests/dialogs/posunit/EPointModel.h"
 
-#include <limits>
-#include <optional>
+#include "tests/dialogs/posunit/EnteredNumbers.h"
 
 namespace
 {
 
-constexpr unsigned kNoNumber = 20001;
 constexpr int kWordsMoved = 10;
-
-struct SBounds
-{
-    long long low;
-    long long high;
-};
-
-std::string Trimmed(const std::string& text)
-{
-    const char* blanks = " \t\n\v\f\r";
-    const size_t first = text.find_first_not_of(blanks);
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-// A number of more than eighteen digits is more than any range holds.
-std::optional<long long> DecimalNumber(const std::string& text)
-{
-    std::string digits = Trimmed(text);
-    if (digits.empty())
-        return std::nullopt;
-    const long long sign = digits[0] == '-' ? -1 : 1;
-    if (sign < 0)
-        digits.erase(0, 1);
-    if (digits.find_first_not_of("0123456789") != std::string::npos)
-        return std::nullopt;
-    digits.erase(0, digits.find_first_not_of('0'));
-    if (digits.size() > 18)
-        return sign * std::numeric_limits<long long>::max();
-    return digits.empty() ? 0 : sign * std::stoll(digits);
-}
-
-// A decimal word and a hexadecimal bit.
-std::optional<long long> BitNumber(const std::string& text)
-{
-    const std::string number = Trimmed(text);
-    if (number.empty())
-        return std::nullopt;
-    const size_t bit = std::string("0123456789ABCDEF0123456789abcdef").find(number.back());
-    const std::string word = number.substr(0, number.size() - 1);
-    if (bit == std::string::npos || word.find_first_not_of("0123456789") != std::string::npos)
-        return std::nullopt;
-    return (word.empty() ? 0 : std::stoll(word)) * 16 + static_cast<long long>(bit % 16);
-}
-
-std::optional<long long> ContactNumber(int device, const std::string& text)
-{
-    return device == kT || device == kC ? DecimalNumber(text) : BitNumber(text);
-}
-
-/// Nothing lies within the bounds of a device that the controller does not have.
-SBounds DeviceBounds(const CFunWizard& wizard, int device)
-{
-    int low, high;
-    if (!wizard.GetDevRange(-1, static_cast<short>(device), low, high))
-        return {0, -1};
-    return {low, high};
-}
-
-class CChecks
-{
-public:
-    explicit CChecks(SEPointOutcome& outcome) : m_outcome(outcome) {}
-
-    /// The number, or 0 once a check has failed.
-    int Check(unsigned edit, std::optional<long long> number, SBounds bounds, unsigned message)
-    {
-        if (m_outcome.message != 0)
-            return 0;
-        if (number && *number >= bounds.low && *number <= bounds.high)
-            return static_cast<int>(*number);
-        m_outcome.message = number ? message : kNoNumber;
-        m_outcome.edit = edit;
-        return 0;
-    }
-
-private:
-    SEPointOutcome& m_outcome;
-};
 
 unsigned ControlCode(const SEPointEntries& entries)
 {
@@ -141,7 +61,7 @@ int StartBit(EEPointForm form) { return form == kEPointForm ? 0 : form == kPPoin
 SEPointOutcome EPointOutcome(EEPointForm form, const SEPointEntries& entries, const CFunWizard& wizard)
 {
     SEPointOutcome outcome;
-    CChecks checks(outcome);
+    CEntryChecks checks;
     const SBounds registers = DeviceBounds(wizard, kDT);
     const int contact =
         checks.Check(2052, ContactNumber(entries.device, entries.contact), DeviceBounds(wizard, entries.device), 20029);
@@ -167,6 +87,8 @@ SEPointOutcome EPointOutcome(EEPointForm form, const SEPointEntries& entries, co
             *number = *number * 16 + StartBit(form);
         relay = checks.Check(2059, number, {32, DeviceBounds(wizard, kY).high}, 20030);
     }
+    outcome.message = checks.m_message;
+    outcome.edit = checks.m_edit;
     if (outcome.message != 0)
         return outcome;
 

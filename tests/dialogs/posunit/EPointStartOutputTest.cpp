@@ -1,5 +1,6 @@
 // The start output of E point control: what is enabled and shown of it, and the contacts that it leaves.
 #include "tests/dialogs/posunit/EPointTest.h"
+#include "tests/dialogs/posunit/Layout.h"
 
 namespace
 {
@@ -47,95 +48,23 @@ TEST_F(CEPointStartOutputTest, EnablesWhatItsCheckBoxesLeaveToFillIn)
 
 // ---- Layout ---------------------------------------------------------------------------------------------------------
 
-struct SLayout
-{
-    std::vector<SRobotControl> controls;
-    CRect client;
-};
-
 class CEPointLayoutTest : public CEPointStartOutputTest
 {
 protected:
-    SLayout LayoutOf(BYTE startType, EEPointForm form = kEPointForm)
+    SLayout LayoutOfForm(BYTE startType, EEPointForm form = kEPointForm)
     {
         m_wizard.SetStartType(startType);
         SLayout layout;
-        Leave(form, [&](CDialogRobot& dialog) {
-            layout.controls = dialog.Controls();
-            dialog.Dialog()->GetClientRect(&layout.client);
-        });
+        Leave(form, [&](CDialogRobot& dialog) { layout = LayoutOf(dialog); });
         return layout;
     }
 };
-
-size_t IndexOf(const SLayout& layout, UINT id)
-{
-    size_t index = 0;
-    while (index < layout.controls.size() && layout.controls[index].id != id)
-        ++index;
-    return index;
-}
-
-CRect RectOf(const SLayout& layout, UINT id) { return CRect(layout.controls.at(IndexOf(layout, id)).rect); }
-
-bool IsFrame(const SRobotControl& control)
-{
-    return control.className == "Button" && (control.style & BS_TYPEMASK) == BS_GROUPBOX;
-}
-
-bool Overlap(const RECT& one, const RECT& other)
-{
-    return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
-}
-
-void ExpectTidy(const SLayout& layout)
-{
-    for (size_t i = 0; i < layout.controls.size(); ++i)
-    {
-        const SRobotControl& one = layout.controls[i];
-        if (!one.visible)
-            continue;
-        EXPECT_TRUE(one.rect.top >= 0 && one.rect.left >= 0 && one.rect.right <= layout.client.right &&
-                    one.rect.bottom <= layout.client.bottom)
-            << "outside: " << one.id << " " << one.text;
-        for (size_t k = i + 1; k < layout.controls.size(); ++k)
-        {
-            const SRobotControl& other = layout.controls[k];
-            const bool counts = other.visible && !IsFrame(one) && !IsFrame(other);
-            EXPECT_FALSE(counts && Overlap(one.rect, other.rect))
-                << one.id << " " << one.text << " over " << other.id << " " << other.text;
-        }
-    }
-}
-
-/// Compares with what the dialog shows of everything: hidden controls, and the distance by which the buttons moved.
-void ExpectCompacted(const SLayout& layout, const SLayout& full, size_t firstHidden, size_t countHidden, int gained,
-                     const CRect& frame)
-{
-    ASSERT_EQ(layout.controls.size(), full.controls.size());
-    const size_t frameIndex = IndexOf(full, 2054) - 1;
-    for (size_t i = 0; i < full.controls.size(); ++i)
-    {
-        const UINT id = full.controls[i].id;
-        const bool hidden = i >= firstHidden && i < firstHidden + countHidden;
-        CRect expected(full.controls[i].rect);
-        if (id == 1 || id == 2 || id == 3099)
-            expected.OffsetRect(0, -gained);
-        if (i == frameIndex)
-            expected = frame;
-        EXPECT_EQ(layout.controls[i].visible, !hidden) << "control " << i << ", " << id;
-        EXPECT_EQ(CRect(layout.controls[i].rect), expected) << "control " << i << ", " << id;
-    }
-    EXPECT_EQ(layout.client.Width(), full.client.Width());
-    EXPECT_EQ(layout.client.Height(), full.client.Height() - gained);
-    ExpectTidy(layout);
-}
 
 TEST_F(CEPointLayoutTest, ShowsEverythingWhenTheOutputIsChosen)
 {
     for (const EEPointForm form : kForms)
     {
-        const SLayout full = LayoutOf(2, form);
+        const SLayout full = LayoutOfForm(2, form);
         for (const SRobotControl& control : full.controls)
             EXPECT_TRUE(control.visible) << control.id;
         ExpectTidy(full);
@@ -144,18 +73,18 @@ TEST_F(CEPointLayoutTest, ShowsEverythingWhenTheOutputIsChosen)
 
 TEST_F(CEPointLayoutTest, ShowsNothingOfTheGroupWhenTheHostStartsTheAxis)
 {
-    const SLayout full = LayoutOf(2);
+    const SLayout full = LayoutOfForm(2);
     const size_t frame = IndexOf(full, 2054) - 1;
     const CRect frameRect(full.controls[frame].rect);
     const int gained = RectOf(full, 3099).top - frameRect.top;
     ASSERT_GT(gained, 0);
     for (const EEPointForm form : kForms)
-        ExpectCompacted(LayoutOf(0, form), full, frame, 12, gained, frameRect);
+        ExpectCompacted(LayoutOfForm(0, form), full, frame, 12, gained, frameRect);
 }
 
 TEST_F(CEPointLayoutTest, ShowsNoWordWhenTheUnitStartsTheAxis)
 {
-    const SLayout full = LayoutOf(2);
+    const SLayout full = LayoutOfForm(2);
     const size_t word = IndexOf(full, 2059);
     const CRect wordRect = RectOf(full, 2059);
     const int gained = RectOf(full, 3099).top - wordRect.bottom;
@@ -164,7 +93,7 @@ TEST_F(CEPointLayoutTest, ShowsNoWordWhenTheUnitStartsTheAxis)
     frame.bottom = wordRect.top + wordRect.Height() / 4;
     for (const EEPointForm form : kForms)
     {
-        const SLayout layout = LayoutOf(1, form);
+        const SLayout layout = LayoutOfForm(1, form);
         ExpectCompacted(layout, full, word - 3, 5, gained, frame);
         EXPECT_GT(frame.bottom, RectOf(layout, 2057).bottom) << "the frame still holds the second condition";
         EXPECT_LT(frame.bottom, RectOf(layout, 1).top);
@@ -174,13 +103,13 @@ TEST_F(CEPointLayoutTest, ShowsNoWordWhenTheUnitStartsTheAxis)
 TEST_F(CEPointLayoutTest, IsTheSameForEveryStartTypeInATemplateWithoutTheGroup)
 {
     Use(kModule);
-    const SLayout full = LayoutOf(2);
+    const SLayout full = LayoutOfForm(2);
     ExpectTidy(full);
     for (const UINT id : {2054, 2055, 2056, 2057, 2058, 2059, 2060, 2061, 2062})
         EXPECT_EQ(IndexOf(full, id), full.controls.size()) << "control " << id;
     for (const BYTE startType : std::initializer_list<BYTE>{0, 1})
     {
-        const SLayout layout = LayoutOf(startType);
+        const SLayout layout = LayoutOfForm(startType);
         ASSERT_EQ(layout.controls.size(), full.controls.size());
         for (size_t i = 0; i < full.controls.size(); ++i)
         {

@@ -8,8 +8,7 @@ namespace
 {
 
 /// The templates whose dialogs are not written yet: choosing them leads back.
-const std::set<UINT> kNotWritten = {1052, 1053, 1054, 1055, 1056, 1059, 1060, 1061, 1062,
-                                    1063, 1064, 1065, 1067, 1069, 1070, 1071, 1072, 1073};
+const std::set<UINT> kNotWritten = {1059, 1060, 1061, 1062, 1063, 1064, 1065, 1067, 1069, 1070, 1071, 1072, 1073};
 
 struct SItemDialog
 {
