@@ -321,6 +321,7 @@ TEST_P(CUnitFormControlsTest, DoNotOpenWithoutTheirTemplateOrAWizard)
     const SUnitForm& form = GetParam();
     const auto none = form.make(nullptr);
     EXPECT_EQ(Play([&] { return static_cast<int>(none->DoModal()); }, {}), 2);
+    Use(kModule); // lets the library go that the next one takes the place of
     UseLibraryWithoutDialogs();
     EXPECT_EQ(Open(form, {}), -1);
     EXPECT_TRUE(m_robot.MessageBoxes().empty());
