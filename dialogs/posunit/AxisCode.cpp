@@ -50,3 +50,16 @@ void WDX_AxisCode(CWzdExchange* wx, UINT combo, EAxisCode field, EUnselected uns
                   .bits = AxisCodeField(field).bits,
                   .unselected = unselected});
 }
+
+void WDX_HomeInputLogic(CWzdExchange* wx)
+{
+    WDX_AxisCode(wx, IDC_CODE_HOME_LOGIC, EAxisCode::HomeLogic, kCountsAsZero);
+    WDX_AxisCode(wx, IDC_CODE_NEAR_HOME_LOGIC, EAxisCode::NearHomeLogic, kCountsAsZero);
+}
+
+void WDX_PulseOutput(CWzdExchange* wx)
+{
+    WDX_AxisCode(wx, IDC_CODE_OUTPUT_ROTATION, EAxisCode::OutputRotation, kCountsAsZero);
+    WDX_AxisCode(wx, IDC_CODE_OUTPUT_MODE, EAxisCode::OutputMode, kCountsAsZero);
+    WDX_AxisCode(wx, IDC_CODE_DIVIDED_MODE, EAxisCode::DividedMode, kCountsAsZero);
+}

@@ -38,3 +38,7 @@ const SAxisCodeField& AxisCodeField(EAxisCode field);
 
 /// A field of the control code as a row of a dialog's exchange.
 void WDX_AxisCode(CWzdExchange* wx, UINT combo, EAxisCode field, EUnselected unselected = kEndsTheCode);
+
+// Fields that several operations have, in lists of the same ids. Without a selection they count as 0.
+void WDX_HomeInputLogic(CWzdExchange* wx); ///< of the home and the near home input
+void WDX_PulseOutput(CWzdExchange* wx);    ///< rotation, mode and division

@@ -16,14 +16,11 @@ void CHomeReturnDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_AxisCode   (wx, IDC_HOME_ACCELERATION,    EAxisCode::Acceleration);
     WDX_AxisCode   (wx, IDC_HOME_DIRECTION,       EAxisCode::HomeReturnDirection);
     WDX_AxisCode   (wx, IDC_HOME_STARTUP,         EAxisCode::StartupSpeed);
-    WDX_AxisCode   (wx, IDC_CODE_HOME_LOGIC,      EAxisCode::HomeLogic,         kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_NEAR_HOME_LOGIC, EAxisCode::NearHomeLogic,     kCountsAsZero);
+    WDX_HomeInputLogic(wx);
     WDX_AxisCode   (wx, IDC_CODE_HOME_SEARCH,     EAxisCode::HomeSearch);
     WDX_AxisCode   (wx, IDC_CODE_LIMIT_LOGIC,     EAxisCode::LimitLogic,        kCountsAsZero);
     WDX_AxisCode   (wx, IDC_CODE_S_CURVE,         EAxisCode::AccelerationCurve, kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_ROTATION, EAxisCode::OutputRotation,    kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_MODE,     EAxisCode::OutputMode,        kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_DIVIDED_MODE,    EAxisCode::DividedMode,       kCountsAsZero);
+    WDX_PulseOutput(wx);
     WDX_AxisCode   (wx, IDC_HOME_CLEAR_TIME,      EAxisCode::ClearTime,         kCountsAsZero);
 
     WDX_StartupSpeed    (wx, IDC_HOME_STARTUP_SPEED, 2);

@@ -20,12 +20,9 @@ void CPulsarDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_AxisCode   (wx, IDC_CODE_INPUT_MODE,      EAxisCode::InputMode,      kCountsAsZero);
     WDX_AxisCode   (wx, IDC_CODE_INPUT_MULTIPLE,  EAxisCode::InputMultiple,  kCountsAsZero);
     WDX_AxisCode   (wx, IDC_PULSAR_MULTIPLE,      EAxisCode::PulsarMultiple, kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_HOME_LOGIC,      EAxisCode::HomeLogic,      kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_NEAR_HOME_LOGIC, EAxisCode::NearHomeLogic,  kCountsAsZero);
+    WDX_HomeInputLogic(wx);
     WDX_AxisCode   (wx, IDC_CODE_LIMIT_LOGIC,     EAxisCode::LimitLogic,     kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_ROTATION, EAxisCode::OutputRotation, kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_OUTPUT_MODE,     EAxisCode::OutputMode,     kCountsAsZero);
-    WDX_AxisCode   (wx, IDC_CODE_DIVIDED_MODE,    EAxisCode::DividedMode,    kCountsAsZero);
+    WDX_PulseOutput(wx);
 
     WDX_TargetSpeed(wx, IDC_PULSAR_TARGET_SPEED, 4); // The registers between belong to nothing.
 
