@@ -1,5 +1,6 @@
 // What a confirmed pulse-output dialog leaves in the wizard: every control code, comments, the flag, the ladder.
 #include "resources/resource.h"
+#include "tests/dialogs/pulse/LadderStarts.h"
 #include "tests/dialogs/pulse/PulseFormTest.h"
 #include "tests/support/Sampled.h"
 
@@ -296,21 +297,6 @@ TEST_P(CPulseFormResultsTest, AreNotTouchedByClearSettings)
 
 namespace
 {
-
-struct SStart
-{
-    const char* device;
-    const char* number;
-    SInstructionRow contact; // as it stands in the ladder
-    bool takesEdge;
-};
-
-constexpr SStart kStarts[] = {
-    {"R", "10A", {2, 1, 170, 0, 0}, true},
-    {"Sp.R", "9010", {2, 1, 14416, 0, 0}, false}, // always on
-    {"Sp.R", "9013", {2, 1, 14419, 0, 0}, false}, // first scan
-    {"Sp.R", "9011", {2, 1, 14417, 0, 0}, true},
-};
 
 std::vector<SInstructionRow> Ladder(const SPulseForm& form, const SResults& results, const SStart& start, bool stepFive,
                                     bool only)

@@ -1,5 +1,6 @@
 // What a confirmed dialog of F174 leaves in the wizard, and what it restores of it: every control code, steps,
 // comments, and the ladder.
+#include "tests/dialogs/pulse/LadderStarts.h"
 #include "tests/dialogs/pulse/Sp0hTest.h"
 
 namespace
@@ -293,21 +294,6 @@ TEST_F(CSp0hTest, NeedsTwoChannels)
 
 namespace
 {
-
-struct SStart
-{
-    const char* device;
-    const char* number;
-    SInstructionRow contact; // as it stands in the ladder
-    bool takesEdge;
-};
-
-constexpr SStart kStarts[] = {
-    {"R", "10A", {2, 1, 170, 0, 0}, true},
-    {"Sp.R", "9010", {2, 1, 14416, 0, 0}, false}, // always on
-    {"Sp.R", "9013", {2, 1, 14419, 0, 0}, false}, // first scan
-    {"Sp.R", "9011", {2, 1, 14417, 0, 0}, true},
-};
 
 /// The contact stands before every 33 rows again; with `stepFive` one that takes no edge stands before the instruction.
 std::vector<SInstructionRow> Ladder(const SResults& results, const SStart& start, bool stepFive, bool only)
