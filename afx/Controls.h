@@ -76,6 +76,9 @@ class AFX_API CComboBox : public CWnd
         return static_cast<DWORD_PTR>(SendMessage(CB_GETITEMDATA, static_cast<WPARAM>(index)));
     }
     int SetItemData(int index, DWORD_PTR data) { return Send(CB_SETITEMDATA, index, static_cast<LPARAM>(data)); }
+    /// Of the items or, with index -1, of the field that shows the selected one.
+    int GetItemHeight(int index) const { return Send(CB_GETITEMHEIGHT, index); }
+    int SetItemHeight(int index, UINT height) { return Send(CB_SETITEMHEIGHT, index, static_cast<LPARAM>(height)); }
     int GetLBTextLen(int index) const { return Send(CB_GETLBTEXTLEN, index); }
     int GetLBText(int index, LPSTR text) const { return Send(CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text)); }
     /// Empty when there is no such item.

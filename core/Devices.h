@@ -32,6 +32,10 @@ enum EDevice : short
     kDeviceSpecialWR = 20065
 };
 
+/// Relays of special word 901.
+constexpr int kAlwaysOnRelay = 901 * 16 + 0;
+constexpr int kFirstScanRelay = 901 * 16 + 3; ///< on in the first scan alone
+
 /// How a device is addressed.
 enum EBitKind : unsigned char
 {

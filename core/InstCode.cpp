@@ -19,10 +19,6 @@ constexpr int kTransferWord = 0;
 constexpr int kTransferDoubleWord = 1;
 constexpr int kTransferReal = 309;
 
-// Special relay word 901: bit 0 is always on, bit 3 is on in the first scan.
-constexpr int kAlwaysOnRelay = 901 * 16 + 0;
-constexpr int kFirstScanRelay = 901 * 16 + 3;
-
 bool IsSpecialStart(const SContact& contact)
 {
     return contact.Code() == kDeviceSpecialR && (contact.number == kAlwaysOnRelay || contact.number == kFirstScanRelay);

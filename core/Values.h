@@ -56,6 +56,15 @@ CString FormatHex32(DWORD value);
 // Packed real numbers: bits 0..23 an unsigned decimal mantissa, bits 24..30 a decimal exponent biased by 70, bit 31 the
 // sign; the value is mantissa x 10^(exponent - 70).
 
+struct SPackedReal
+{
+    bool negative;
+    DWORD mantissa;
+    int exponent;
+};
+
+SPackedReal UnpackReal(DWORD packed);
+
 constexpr int kPackedRealBuffer = 50;
 
 /// Writes a packed real number, with an exponent ("25E+1") or without ("250"). The buffer holds kPackedRealBuffer
@@ -66,6 +75,12 @@ char* FormatPackedReal(DWORD packed, char* buffer, BOOL exponentNotation);
 /// seven significant digits, else it must fit the packed form. `sign` 0 or 1 is the sign to store; when negative the
 /// text's own sign counts. Returns 0, with `packed` untouched, for anything else.
 int ParsePackedReal(LPCSTR text, DWORD& packed, BYTE realMode, signed char sign);
+
+/// Whether a text, otherwise well-formed, is a number that is too large or too small for single precision; 0 is not.
+bool IsRealOutOfRange(LPCSTR text);
+
+/// As much of a text as so many bytes hold, in whole characters.
+CString LeftWhole(const CString& text, int bytes);
 
 /// Takes the first line that fits into `width` pixels off `text`, broken after the last blank that fits, or before the
 /// first character that does not fit; "\r\n" always ends a line. At least one character is taken.

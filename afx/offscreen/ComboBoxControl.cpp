@@ -214,6 +214,18 @@ LRESULT CopySelectedText(Window& combo, WPARAM size, LPARAM target)
                     reinterpret_cast<LPSTR>(target), size);
 }
 
+LRESULT SetItemHeight(Window& combo, int part, int height)
+{
+    if (height <= 0 || height > UCHAR_MAX)
+        return CB_ERR;
+    if (part == -1)
+        Of(combo).fieldHeight = height;
+    else
+        Of(combo).itemHeight = height;
+    AdjustHeight(combo);
+    return CB_OKAY;
+}
+
 LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lParam)
 {
     ComboState& state = Of(combo);
@@ -254,6 +266,8 @@ LRESULT HandleComboMessage(Window& combo, UINT message, WPARAM wParam, LPARAM lP
         return state.dropped;
     case CB_GETITEMHEIGHT:
         return start == -1 ? state.fieldHeight : state.itemHeight;
+    case CB_SETITEMHEIGHT:
+        return SetItemHeight(combo, start, static_cast<int>(lParam));
     default:
         Fail("not modelled: combo box message 0x%04X", message);
         return CB_ERR;

@@ -308,6 +308,9 @@ struct HELPINFO
 
 #define MAKELONG(low, high)                                                                                            \
     ((LONG)(((WORD)((DWORD_PTR)(low)&0xffff)) | ((DWORD)((WORD)((DWORD_PTR)(high)&0xffff))) << 16))
+#define MAKEWORD(low, high) ((WORD)((BYTE)(low) | (WORD)((BYTE)(high)) << 8))
+#define LOBYTE(w) ((BYTE)((DWORD_PTR)(w)&0xff))
+#define HIBYTE(w) ((BYTE)((DWORD_PTR)(w) >> 8 & 0xff))
 #define LOWORD(l) ((WORD)((DWORD_PTR)(l)&0xffff))
 #define HIWORD(l) ((WORD)((DWORD_PTR)(l) >> 16))
 #define GET_X_LPARAM(lp) ((int)(short)LOWORD(lp))

@@ -6,13 +6,8 @@
 #include "dialogs/base/PosSelectDlg.h"
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
 #include "dialogs/process/PidDlg.h"
-
-namespace
-{
-
-constexpr int kScaling[] = {kInstructionScal, kInstructionDscal, kInstructionFscal};
-
-} // namespace
+#include "dialogs/process/ScalDlg.h"
+#include "dialogs/process/ScrDispDlg.h"
 
 void CFunWizard::EnterWizard(int instruction, int variant)
 {
@@ -77,14 +72,16 @@ int CFunWizard::DoOpenPIDDlg(int workArea, CWnd* parent)
                         [=](CFunWizard* wizard) { return CPidDlg(wizard, workArea, parent).DoModal(); });
 }
 
-int CFunWizard::DoOpenSCRDlg(ULONGLONG*, CWnd* parent)
+int CFunWizard::DoOpenSCRDlg(ULONGLONG* permitted, CWnd* parent)
 {
-    return OpenDirectly(kInstructionScreen, parent, [](CFunWizard*) { return IDCANCEL; });
+    return OpenDirectly(kInstructionScreen, parent,
+                        [=](CFunWizard* wizard) { return CScrDispDlg(wizard, permitted, parent).DoModal(); });
 }
 
-int CFunWizard::DoOpenSCALDlg(ULONGLONG*, int kind, CWnd* parent)
+int CFunWizard::DoOpenSCALDlg(ULONGLONG* permitted, int kind, CWnd* parent)
 {
-    return OpenDirectly(kScaling[kind == 0 || kind == 1 ? kind : 2], parent, [](CFunWizard*) { return IDCANCEL; });
+    return OpenDirectly(CScalDlg::InstructionOf(kind), parent,
+                        [=](CFunWizard* wizard) { return CScalDlg(wizard, permitted, kind, parent).DoModal(); });
 }
 
 int CFunWizard::DoInputPosCtrlDlg(ULONG& code, CWnd* parent)

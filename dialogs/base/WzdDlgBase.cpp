@@ -134,97 +134,6 @@ void CWzdDlgBase::DisableAllButFirstAndBack()
         GotoDlgCtrl(back); // Enter presses it, too.
 }
 
-// ---- Devices --------------------------------------------------------------------------------------------------------
-
-namespace
-{
-
-bool Offers(const SWzdRow& row, short code, BYTE bitKind)
-{
-    if (row.devices != kListAll && (row.devices == kListWords) != (bitKind == kWordDevice))
-        return false;
-    return row.permitted == nullptr || IsDevicePermitted(*row.permitted, code);
-}
-
-} // namespace
-
-bool CWzdDlgBase::FillDeviceCombo(const SWzdRow& row, short wanted)
-{
-    auto* list = static_cast<CComboBox*>(GetDlgItem(row.combo));
-    const int selected = list != nullptr ? ListDevices(list, row, wanted) : CB_ERR;
-    if (selected < 0)
-        return false;
-    list->SetCurSel(selected);
-    return true;
-}
-
-int CWzdDlgBase::ListDevices(CComboBox* list, const SWzdRow& row, short wanted) const
-{
-    const CListFilling filling(list);
-    int wantedItem = -1;
-    int preferredItem = 0;
-    short kind, code;
-    BYTE bitKind = kWordDevice;
-    for (int index = 0, found; (found = Wizard().GetSeqDevInfo(index, kind, code, bitKind, 0)) >= 0; index++)
-    {
-        if (row.devices == kListBits && bitKind == kWordDevice)
-            break; // bit devices come first
-        if (found > 0 || !Offers(row, code, bitKind))
-            continue;
-        const CString name = FormatDeviceName(code);
-        const int item = name.IsEmpty() ? CB_ERR : list->AddString(name);
-        if (item < 0 || list->SetItemData(item, static_cast<DWORD>(MAKELONG(code, kind))) < 0)
-            return CB_ERR;
-        if (code == wanted)
-            wantedItem = item;
-        if (code == row.preferred)
-            preferredItem = item;
-    }
-    return wantedItem >= 0 ? wantedItem : preferredItem;
-}
-
-bool CWzdDlgBase::FillContactCombo(int comboId, int contactIndex)
-{
-    short kind, wanted = -1;
-    int number;
-    if (contactIndex <= 0 || !Wizard().IsSameCondition())
-        Wizard().GetContInfo(contactIndex, kind, wanted, number);
-    return FillDeviceCombo({.combo = static_cast<UINT>(comboId)}, wanted);
-}
-
-bool CWzdDlgBase::GetSelectedDevice(int comboId, short& kind, short& code) const
-{
-    const auto* list = static_cast<CComboBox*>(GetDlgItem(comboId));
-    const int selection = Selection(static_cast<UINT>(comboId));
-    if (selection == CB_ERR)
-        return false;
-    const auto data = static_cast<DWORD>(list->GetItemData(selection));
-    kind = static_cast<short>(HIWORD(data));
-    code = static_cast<short>(LOWORD(data));
-    return code >= 0;
-}
-
-bool CWzdDlgBase::GetSelectedDeviceRange(int comboId, short& kind, short& code, int& low, int& high) const
-{
-    return GetSelectedDevice(comboId, kind, code) && Wizard().GetDevRange(kind, code, low, high);
-}
-
-bool CWzdDlgBase::ShowDeviceRange(const SWzdRow& row)
-{
-    short kind, code;
-    int low, high;
-    if (!GetSelectedDeviceRange(static_cast<int>(row.combo), kind, code, low, high))
-        return false;
-    SetItemText(row.rangeLabel, FillText(IDS_RANGE_TEXT, {FormatDeviceNumber(code, low),
-                                                          FormatDeviceNumber(code, high - row.shownLess)}));
-    return true;
-}
-
-bool CWzdDlgBase::ShowContactRange(int which)
-{
-    return ShowDeviceRange(which == 0 ? kStartingCondition : kSecondCondition);
-}
-
 // ---- The data table -------------------------------------------------------------------------------------------------
 
 BOOL CWzdDlgBase::GetDataTableRange(int& low, int& high)
@@ -275,23 +184,6 @@ bool CWzdDlgBase::ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG&
     if (!format.Parse(ItemText(edit), value))
         return Refuse(edit, IDS_ERR_NOT_A_NUMBER);
     return range.Holds(value) || Refuse(edit, message);
-}
-
-UINT CWzdDlgBase::CheckDevice(const SWzdRow& row, short& code, int& number) const
-{
-    short kind;
-    int low, high;
-    if (!GetSelectedDeviceRange(static_cast<int>(row.combo), kind, code, low, high))
-        return row.message;
-    if (!ParseDeviceNumber(code, ItemText(row.edit), number))
-        return IDS_ERR_NOT_A_NUMBER;
-    return number >= low && number <= high ? 0 : row.message;
-}
-
-bool CWzdDlgBase::ReadDevice(const SWzdRow& row, short& code, int& number)
-{
-    const UINT problem = CheckDevice(row, code, number);
-    return problem == 0 || Refuse(row.edit, problem);
 }
 
 void CWzdDlgBase::AddComment(CWzdResults& results, const SWzdRow& row) const

@@ -45,7 +45,9 @@ public:
     /// Shows the range of the selected device in the label of the row. Without a selection or range the label stays as
     /// it is and the result is false.
     bool ShowDeviceRange(const SWzdRow& row);
-    /// The same for the starting condition (0) or the second one (1).
+    /// The text of a stored device number or constant, as CheckDevice reads it.
+    static CString FormatDevice(const SWzdRow& row, short code, int number);
+    /// The same as ShowDeviceRange for the starting condition (0) or the second one (1).
     bool ShowContactRange(int which);
     bool GetSelectedDevice(int comboId, short& kind, short& code) const;
     bool GetSelectedDeviceRange(int comboId, short& kind, short& code, int& low, int& high) const;
@@ -60,7 +62,7 @@ public:
     /// Reads an entry. False, with the message shown, when it is no number or outside the range.
     [[nodiscard]] bool ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value,
                                   const SWzdFormat& format = kSigned);
-    /// Reads the device selected in the combo of a row and the number in its edit. False, with the message shown, when
+    /// Reads the device or constant selected in the combo of a row and the number in its edit. False, with the message shown, when
     /// it is no number or not of the PLC.
     [[nodiscard]] bool ReadDevice(const SWzdRow& row, short& code, int& number);
     /// The same without a message shown: the message that would be, or 0.
@@ -94,6 +96,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool HasRoom(const SWzdRow& row, short kind, short code) const;
     /// The item to be selected; CB_ERR when the list refuses one.
     int ListDevices(CComboBox* list, const SWzdRow& row, short wanted) const;
 

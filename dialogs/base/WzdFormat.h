@@ -22,9 +22,13 @@ struct SWzdFormat
 
 bool WzdReadSigned(const SWzdFormat& format, LPCSTR text, LONGLONG& value);
 bool WzdReadUnsigned(const SWzdFormat& format, LPCSTR text, LONGLONG& value);
+/// Digits of either case; a number of more than 32 bits becomes one that no range holds.
+bool WzdReadHexadecimal(const SWzdFormat& format, LPCSTR text, LONGLONG& value);
 /// At most so many digits before and behind the point; zeros at the end of the fraction do not count.
 bool WzdReadFixed(const SWzdFormat& format, LPCSTR text, LONGLONG& value);
 CString WzdWriteDecimal(const SWzdFormat& format, LONGLONG value);
+/// The low 32 bits.
+CString WzdWriteHexadecimal(const SWzdFormat& format, LONGLONG value);
 /// All decimals: "50.0".
 CString WzdWriteFixed(const SWzdFormat& format, LONGLONG value);
 /// Without zeros at the end of the fraction: "50".
@@ -33,6 +37,7 @@ CString WzdWriteFixedShort(const SWzdFormat& format, LONGLONG value);
 /// Decimal numbers of any length: those outside of 64 bits become the nearest that is inside.
 constexpr SWzdFormat kSigned = {WzdReadSigned, WzdWriteDecimal};
 constexpr SWzdFormat kUnsigned = {WzdReadUnsigned, WzdWriteDecimal};
+constexpr SWzdFormat kHexadecimal = {WzdReadHexadecimal, WzdWriteHexadecimal};
 
 /// Unsigned numbers with a point, "12.5" with two decimals being 1250.
 constexpr SWzdFormat Fixed(int whole, int decimals) { return {WzdReadFixed, WzdWriteFixedShort, whole, decimals}; }

@@ -1,7 +1,7 @@
 #include "dialogs/base/WzdResults.h"
 
-#include "afx/System.h"
 #include "core/FunWizard.h"
+#include "core/Values.h"
 
 void CWzdResults::AddContact(short kind, short code, int number)
 {
@@ -35,15 +35,7 @@ void CWzdResults::AddToControlCode(DWORD bits)
 
 void CWzdResults::AddComment(const CString& text)
 {
-    if (text.GetLength() <= kLongestComment)
-    {
-        m_comments.push_back(text);
-        return;
-    }
-    int length = 0;
-    for (int next = 0; next <= kLongestComment; next += AfxCharLength(static_cast<LPCSTR>(text) + next))
-        length = next;
-    m_comments.push_back(text.Left(length));
+    m_comments.push_back(LeftWhole(text, kLongestComment));
 }
 
 void CWzdResults::AddCommentFrom(const CWnd* label)
@@ -55,9 +47,20 @@ void CWzdResults::AddCommentFrom(const CWnd* label)
     AddComment(text);
 }
 
+void CWzdResults::SetCommentRecord(bool on)
+{
+    m_commentRecord = on;
+    m_setsCommentRecordFirst = m_contacts.empty();
+}
+
 bool CWzdResults::StoreIn(CFunWizard& wizard) const
 {
-    return StoreContacts(wizard) && StoreOperands(wizard) && StoreData(wizard) && StoreComments(wizard);
+    if (m_commentRecord && m_setsCommentRecordFirst)
+        wizard.SetCmtRec(*m_commentRecord);
+    if (!StoreContacts(wizard) || !StoreOperands(wizard))
+        return false;
+    StoreDialogData(wizard);
+    return StoreData(wizard) && StoreComments(wizard);
 }
 
 bool CWzdResults::StoreContacts(CFunWizard& wizard) const
@@ -77,6 +80,17 @@ bool CWzdResults::StoreOperands(CFunWizard& wizard) const
         if (!wizard.AddOprdInfo(operand.Code(), operand.value))
             return false;
     return true;
+}
+
+// The wizard frees it as untyped memory.
+void CWzdResults::StoreDialogData(CFunWizard& wizard) const
+{
+    if (m_dialogData.empty())
+        return;
+    auto* block = static_cast<WORD*>(::operator new(m_dialogData.size() * sizeof(WORD)));
+    std::copy(m_dialogData.begin(), m_dialogData.end(), block);
+    wizard.RemoveDlgData();
+    wizard.SetDlgDataPtr(block);
 }
 
 bool CWzdResults::StoreData(CFunWizard& wizard) const

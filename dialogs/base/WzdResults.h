@@ -29,6 +29,8 @@ public:
     void KeepContacts() { m_keepsContacts = true; }
     /// Operands are numbered: the order in which fields are checked need not be theirs.
     void SetOperand(int index, short code, int value);
+    /// One that has been set.
+    const SOperand& Operand(int index) const { return m_operands.at(static_cast<size_t>(index)); }
 
     /// The device at which the data table starts: the offsets of the entries that are added from now on count from its
     /// number.
@@ -45,15 +47,20 @@ public:
     void AddComment(const CString& text);
     /// The text of a control; nothing when there is no control.
     void AddCommentFrom(const CWnd* label);
-    /// Sets the wizard's comment flag when the results are stored.
-    void SetCommentRecord(bool on) { m_commentRecord = on; }
+    /// Sets the wizard's comment flag when the results are stored: behind the lists or, when no contact has been added
+    /// yet, before them.
+    void SetCommentRecord(bool on);
+
+    /// The block that keeps the inputs until the next opening, in the wizard's place for it.
+    void SetDialogData(std::span<const WORD> words) { m_dialogData.assign(words.begin(), words.end()); }
 
     /// The positioning unit and the starting condition, if there is one: a start output depends on them.
     SWzdUnitAxis& Unit() { return m_unit; }
     const SContact* StartingCondition() const { return m_contacts.empty() ? nullptr : &m_contacts.front(); }
 
     /// Replaces the contact, operand and data lists and, when the wizard asks for them, the comments. False when the
-    /// wizard ran out of memory: the lists are then as far as they were written.
+    /// wizard ran out of memory: the lists are then as far as they were written. Without memory for the dialog data it
+    /// throws.
     [[nodiscard]] bool StoreIn(CFunWizard& wizard) const;
 
 private:
@@ -68,6 +75,7 @@ private:
 
     [[nodiscard]] bool StoreContacts(CFunWizard& wizard) const;
     [[nodiscard]] bool StoreOperands(CFunWizard& wizard) const;
+    void StoreDialogData(CFunWizard& wizard) const;
     [[nodiscard]] bool StoreData(CFunWizard& wizard) const;
     [[nodiscard]] bool StoreComments(CFunWizard& wizard) const;
 
@@ -76,7 +84,9 @@ private:
     std::vector<SOperand> m_operands;
     std::vector<SData> m_data;
     std::vector<CString> m_comments;
+    std::vector<WORD> m_dialogData;
     std::optional<bool> m_commentRecord;
+    bool m_setsCommentRecordFirst = false;
     bool m_keepsContacts = false;
     SOperand m_tableStart = {0, kDeviceDT};
     std::optional<size_t> m_codeRecord;

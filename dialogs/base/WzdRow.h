@@ -101,6 +101,17 @@ enum EListedDevices
     kListAll
 };
 
+/// A constant that a list offers beside the devices.
+struct SWzdConstant
+{
+    short code;
+    SWzdFormat format;
+    SWzdRange range;
+    UINT rangeText = 0; ///< shown in place of the range
+};
+
+using CWzdConstants = std::span<const SWzdConstant>;
+
 /// A row of a dialog's declaration. The dialog names the members that its kind of row reads, and leaves out the others;
 /// the row is what the field works with, and what it tells about itself. Ids of controls that a field does not have are
 /// 0.
@@ -123,9 +134,11 @@ struct SWzdRow
     EListedDevices devices = kListBits;
     /// Permitted devices, as hosts give them; null permits all.
     const ULONGLONG* permitted = nullptr;
+    CWzdConstants constants = {};
     short preferred = -1; ///< selected as long as nothing is stored; the first one when it is not listed
     int position = 0;     ///< in the wizard's list of contacts or operands
     EWithoutInstruction withoutInstruction = kStillChecked;
+    int less = 0;      ///< by how much the highest number accepted is below that of the device
     int shownLess = 0; ///< by how much the highest number shown is below the one accepted
 
     // A number.

@@ -1,6 +1,10 @@
 #include "dialogs/fields/ChoiceField.h"
 
+#include "core/Devices.h"
+#include "core/FunWizard.h"
 #include "dialogs/base/WzdDlgBase.h"
+#include "dialogs/base/WzdResults.h"
+#include "dialogs/fields/Rows.h"
 
 bool CChoiceField::Open() { return m_dialog.FillCombo(m_row.combo, m_row.choices, StoredIndex()); }
 
@@ -29,3 +33,20 @@ std::optional<DWORD> CChoiceField::SelectedCode() const
         return std::nullopt;
     return m_row.choices[static_cast<size_t>(selection)].code;
 }
+
+bool CConstantChoiceField::Collect(CWzdResults& results)
+{
+    results.SetOperand(m_row.position, kDeviceK, static_cast<int>(SelectedCode().value_or(0)));
+    return true;
+}
+
+int CConstantChoiceField::StoredIndex() const
+{
+    short code;
+    int value;
+    const bool stored = m_dialog.Wizard().GetOprdInfo(m_row.position, code, value);
+    return stored && (code == kDeviceK || code == kDeviceH) ? IndexOfCode(m_row.choices, static_cast<DWORD>(value))
+                                                            : -1;
+}
+
+void WDX_ConstantChoice(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CConstantChoiceField>(wx, row); }

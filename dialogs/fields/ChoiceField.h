@@ -23,3 +23,15 @@ protected:
 private:
     void Refill();
 };
+
+/// A choice whose code is a constant among the operands.
+class CConstantChoiceField : public CChoiceField
+{
+public:
+    using CChoiceField::CChoiceField;
+
+    bool Collect(CWzdResults& results) override;
+
+protected:
+    int StoredIndex() const override;
+};

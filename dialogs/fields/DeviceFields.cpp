@@ -22,7 +22,7 @@ public:
         const bool stored = Restore(code, number) && code >= 0;
         if (!m_dialog.FillDeviceCombo(m_row, code))
             return false;
-        m_dialog.SetItemText(m_row.edit, stored ? FormatDeviceNumber(code, number) : CString());
+        m_dialog.SetItemText(m_row.edit, stored ? CWzdDlgBase::FormatDevice(m_row, code, number) : CString());
         m_dialog.LimitText(m_row.edit, m_row.limit);
         return true;
     }
@@ -111,6 +111,14 @@ class CDeviceOperandField : public CDeviceField
 public:
     using CDeviceField::CDeviceField;
 
+    bool Collect(CWzdResults& results) override
+    {
+        if (!CDeviceField::Collect(results))
+            return false;
+        m_dialog.AddComment(results, m_row);
+        return true;
+    }
+
 protected:
     bool Restore(short& code, int& number) const override
     {
@@ -129,6 +137,8 @@ class CDeviceTableField : public CDeviceOperandField
 {
 public:
     using CDeviceOperandField::CDeviceOperandField;
+
+    bool IsPossible() const override { return m_dialog.Selection(m_row.combo) >= 0; }
 
 protected:
     void Store(CWzdResults& results, short code, int number) const override

@@ -42,11 +42,14 @@ void WDX_Contact(CWzdExchange* wx, UINT message);
 /// A contact that is always the same, appended to those that the wizard has.
 void WDX_FixedContact(CWzdExchange* wx, short code, int number);
 
-/// A device that is an operand: `devices`, `permitted`, `preferred`, `position`, `withoutInstruction`, `limit`,
-/// `shownLess`.
+/// A device that is an operand: `devices`, `permitted`, `constants`, `preferred`, `position`, `withoutInstruction`,
+/// `limit`, `less`, `shownLess`, `comment`.
 void WDX_DeviceOperand(CWzdExchange* wx, const SWzdRow& row);
 /// The same for the device at which the data table starts.
 void WDX_DeviceTable(CWzdExchange* wx, const SWzdRow& row);
+
+/// An operand that is a constant K, chosen from a list: `combo`, `choices`, `position`.
+void WDX_ConstantChoice(CWzdExchange* wx, const SWzdRow& row);
 
 /// An operand that is always the same constant K.
 void WDX_ConstantOperand(CWzdExchange* wx, int position, int value);

@@ -29,7 +29,7 @@ BOOL CGridDlg::PreTranslateMessage(MSG* message)
 // What is still in the editor counts, too.
 bool CGridDlg::Confirm()
 {
-    m_grid.CloseEditor();
+    m_grid.Commit();
     return CWzdDlgBase::Confirm();
 }
 

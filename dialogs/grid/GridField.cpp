@@ -19,9 +19,15 @@ void CGridField::Refresh()
         m_grid.LimitText(column, row.limit);
         if (row.rangeHeading == 0)
             continue;
+        CString range;
+        if (row.rangeText != 0)
+            range.LoadString(row.rangeText);
+        else
+            range = FillText(IDS_RANGE_DECIMAL, {row.range.low, row.range.high});
         const CString heading = m_dialog.ItemText(row.rangeHeading);
-        m_dialog.SetItemText(row.rangeHeading, heading.Left(heading.Find('\n') + 1) +
-                                                   FillText(IDS_RANGE_DECIMAL, {row.range.low, row.range.high}));
+        const int lineBreak = heading.Find('\n');
+        const CString firstLine = lineBreak < 0 ? heading + "\n" : heading.Left(lineBreak + 1);
+        m_dialog.SetItemText(row.rangeHeading, firstLine + range);
     }
     m_grid.Refresh();
 }

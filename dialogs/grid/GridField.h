@@ -11,7 +11,8 @@ struct SGridColumn
     SWzdFormat format = kSigned;
     SWzdRange range = {0, -1};
     UINT message = 0;      ///< when a cell is outside the range
-    UINT rangeHeading = 0; ///< shows the range below its line break, when it is not fixed
+    UINT rangeHeading = 0; ///< shows the range in its second line, when the template does not
+    UINT rangeText = 0;    ///< shown in place of the range
     UINT comment = 0;      ///< with a gap for the number of the row, from 1
 };
 

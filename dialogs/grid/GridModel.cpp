@@ -41,9 +41,15 @@ void CGridModel::SetMostRows(int rows)
     GoTo(m_current);
 }
 
+void CGridModel::SetWantedRows(int rows)
+{
+    m_wantedRows = rows;
+    ScrollTo(m_firstVisible);
+}
+
 int CGridModel::Rows() const
 {
-    const int wanted = std::max({FilledRows() + 1, kVisibleRows, m_current.row + 1});
+    const int wanted = std::max({FilledRows() + 1, kVisibleRows, m_current.row + 1, m_wantedRows});
     return std::max(std::min(wanted, m_mostRows), FilledRows());
 }
 

@@ -54,7 +54,11 @@ public:
     int MostRows() const { return m_mostRows; }
     /// Up to the last row with a filled cell, at least 1.
     int UsedRows() const { return FilledRows() > 0 ? FilledRows() : 1; }
-    /// Those that can be gone to: the used ones and an empty one, but as many as are in view at once.
+    /// How many rows the table is to have; with 0 it has those that are used.
+    void SetWantedRows(int rows);
+    /// Whether a row is one of the table, not one behind it.
+    bool IsWanted(int row) const { return m_wantedRows == 0 || row < m_wantedRows; }
+    /// Those that can be gone to: the used ones and an empty one, the wanted ones, and as many as are in view at once.
     int Rows() const;
     bool IsFull() const { return FilledRows() >= m_mostRows; }
 
@@ -100,6 +104,7 @@ private:
 
     int m_columns;
     int m_mostRows = 1;
+    int m_wantedRows = 0;
     std::vector<CString> m_cells; // row by row; the last row has a filled cell
     SGridCell m_current;
     int m_firstVisible = 0;

@@ -123,8 +123,8 @@ void CGridView::DrawCell(CDC& dc, SGridCell cell) const
     rect.right -= kLine;
     rect.bottom -= kLine;
 
-    const bool usable = IsWindowEnabled() && cell.row < m_model.Rows();
-    const bool current = usable && cell == m_model.Current();
+    const bool usable = IsWindowEnabled() && cell.row < m_model.Rows() && m_model.IsWanted(cell.row);
+    const bool current = IsWindowEnabled() && cell == m_model.Current();
     const bool selected = current && ::GetFocus() == m_hWnd;
     dc.FillSolidRect(rect, ::GetSysColor(selected ? COLOR_HIGHLIGHT : usable ? COLOR_WINDOW : COLOR_BTNFACE));
     if (current)
@@ -160,6 +160,12 @@ void CGridView::CloseEditor()
         return;
     m_model.SetText(m_model.Current(), m_dialog.ItemText(m_controls.editor));
     DropEditor();
+}
+
+void CGridView::Commit()
+{
+    CloseEditor();
+    TellRows();
 }
 
 void CGridView::DropEditor()

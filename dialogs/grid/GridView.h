@@ -34,6 +34,8 @@ public:
     /// To be followed by ShowCells.
     CGridModel& Model() { return m_model; }
     void ShowCells();
+    /// How many rows were used when the dialog was told last.
+    int ToldRows() const { return m_toldRows; }
     /// Shows the cells to a dialog that is in line with the rows: it is told when they become more or fewer.
     void Refresh();
     /// How many characters can be typed into the cells of a column.
@@ -44,6 +46,8 @@ public:
     bool Refuse(SGridCell cell, UINT message);
     /// Takes over what stands in the editor and closes it. Without memory for it, it throws, and the editor stays open.
     void CloseEditor();
+    /// The same for a dialog that then counts on being told of the rows.
+    void Commit();
 
     // ---- What the user does; failures are told to him ---------------------------------------------------------------
 

@@ -12,10 +12,10 @@
 namespace
 {
 
-class COutputField : public CChoiceField
+class COutputField : public CConstantChoiceField
 {
 public:
-    using CChoiceField::CChoiceField;
+    using CConstantChoiceField::CConstantChoiceField;
 
     // Without an instruction there is no output to choose.
     void Refresh() override
@@ -24,22 +24,6 @@ public:
         m_dialog.Enable(m_row.combo, wanted);
         if (CWnd* label = m_dialog.ControlBefore(m_row.combo))
             label->EnableWindow(wanted);
-    }
-
-    bool Collect(CWzdResults& results) override
-    {
-        results.SetOperand(m_row.position, kDeviceK, static_cast<int>(SelectedCode().value_or(0)));
-        return true;
-    }
-
-protected:
-    int StoredIndex() const override
-    {
-        short code;
-        int value;
-        const bool stored = m_dialog.Wizard().GetOprdInfo(m_row.position, code, value);
-        return stored && (code == kDeviceK || code == kDeviceH) ? IndexOfCode(m_row.choices, static_cast<DWORD>(value))
-                                                                : -1;
     }
 };
 
