@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <limits>
 
 namespace
 {
@@ -14,6 +13,7 @@ namespace
 constexpr int kMostDigits = 7;
 constexpr char kLargest[] = "3.402822e+38";
 constexpr char kSmallest[] = "1.175494e-38";
+constexpr double kNearerToSmallest = 1.175494e-38 / 2;
 
 /// d.ddd x 10^exponent, without the point and without zeros at the end.
 struct SDigits
@@ -82,7 +82,7 @@ CString NearestText(float magnitude)
         return text;
     if (magnitude > 1)
         return kLargest;
-    return magnitude < std::numeric_limits<float>::min() / 2 ? "0" : kSmallest;
+    return magnitude < kNearerToSmallest ? "0" : kSmallest;
 }
 
 } // namespace
