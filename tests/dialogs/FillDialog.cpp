@@ -17,8 +17,20 @@ CString Bound(CWzdDlgBase& dialog, const SDeclaredField& field, bool highest)
 {
     short kind, code;
     int low, high;
+    if (field.combo != 0 && dialog.GetSelectedDevice(field.combo, kind, code))
+        for (const SWzdConstant& constant : field.constants)
+        {
+            if (constant.code != code)
+                continue;
+            if (constant.rangeText != 0)
+                return highest ? "3.402822e+38" : "-3.402822e+38";
+            return constant.format.Format(highest ? constant.range.high : constant.range.low);
+        }
     if (field.combo != 0 && dialog.GetSelectedDeviceRange(field.combo, kind, code, low, high))
-        return FormatDeviceNumber(code, highest ? high : low);
+    {
+        const auto behind = field.less > 0 ? static_cast<int>(dialog.TableWords()) - 1 : 0;
+        return FormatDeviceNumber(code, highest ? high - behind : low);
+    }
     if (field.IsEntry() || field.range.low <= field.range.high)
         return field.format.Format(highest ? field.range.high : field.range.low);
     EXPECT_TRUE(dialog.GetDataTableRange(low, high));
@@ -33,8 +45,8 @@ void FillTable(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
         return;
     robot.Focus(kGridCells);
     PressCtrl(robot, VK_HOME);
-    for (int row = 0; row <= round % 12; ++row)
-        TypeCells(robot, {std::to_string(500 + round % 100 + row).c_str(), std::to_string(600 + row).c_str()});
+    for (int row = 0; row <= 1 + round % 11; ++row) // ascending, whatever stood there before
+        TypeCells(robot, {std::to_string(500 + 10 * row + round % 10).c_str(), std::to_string(600 + row).c_str()});
     PressCtrl(robot, VK_HOME);
 }
 
@@ -49,12 +61,16 @@ void FillDialog(CWzdDlgBase& dialog, CDialogRobot& robot, int round)
     for (const SDeclaredField& field : RecordFields(dialog))
         if (field.combo != 0)
             robot.Select(field.combo, choice++ % static_cast<int>(robot.Items(field.combo).size()));
+    for (const SDeclaredField& field : RecordFields(dialog)) // where a table starts, it may have to end soon
+        if (field.less > 0)
+            robot.Type(field.edit, Bound(dialog, field, false));
     FillTable(dialog, robot, round);
     for (const SDeclaredField& field : RecordFields(dialog)) // their ranges may depend on the combos
     {
         if (field.check != 0 && CanBeUsed(robot, field.check))
             robot.Check(field.check);
-        if (field.edit != 0 && CanBeUsed(robot, field.edit))
+        if (field.edit != 0 && field.edit != IDC_SCAL_POINTS && CanBeUsed(robot, field.edit)) // that follows the table
             robot.Type(field.edit, Bound(dialog, field, round % 2 != 0));
     }
+    robot.Focus(IDOK); // leaving an edit may change what else is shown
 }

@@ -9,6 +9,8 @@
 #include "dialogs/posunit/PPointDlg.h"
 #include "dialogs/posunit/PulsarDlg.h"
 #include "dialogs/process/PidDlg.h"
+#include "dialogs/process/ScalDlg.h"
+#include "dialogs/process/ScrDispDlg.h"
 #include "dialogs/pulse/PlsDlg.h"
 #include "dialogs/pulse/PlshDlg.h"
 #include "dialogs/pulse/PwmDlg.h"
@@ -19,6 +21,9 @@
 #include "dialogs/pulse/SpdhDlg.h"
 #include "dialogs/pulse/SpshDlg.h"
 
+#include "tests/support/Results.h"
+
+#include <algorithm>
 #include <memory>
 #include <ostream>
 
@@ -47,6 +52,16 @@ struct SInstructionDialog
     ESources sources;
     std::unique_ptr<CWzdDlgBase> (*make)(CFunWizard* wizard);
     SUnusualRegisters unusual = {};
+    bool appendsContact = false; ///< each OK adds a contact to those that there are
+
+    /// What two confirmations of the same entries have in common.
+    SResults Comparable(SResults results) const
+    {
+        auto& contacts = results.contacts;
+        if (appendsContact)
+            contacts.erase(std::unique(contacts.begin(), contacts.end()), contacts.end());
+        return results;
+    }
 };
 
 inline std::ostream& operator<<(std::ostream& out, const SInstructionDialog& row) { return out << row.name; }
@@ -88,4 +103,8 @@ inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"HomeReturn", kEverywhere, MakeDialog<CHomeReturnDlg>},
     {"Pulsar", kEverywhere, MakeDialog<CPulsarDlg>, {.ofNoField = 2}},
     {"Pid", kEverywhere, MakeDialog<CPidDlg, 19>},
+    {"Scal", kEverywhere, MakeDialog<CScalDlg, nullptr, 0>},
+    {"Dscal", kEverywhere, MakeDialog<CScalDlg, nullptr, 1>},
+    {"Fscal", kEverywhere, MakeDialog<CScalDlg, nullptr, 2>},
+    {"ScrDisp", kEverywhere, MakeDialog<CScrDispDlg, nullptr>, {.ofNoField = 0}, true},
 };

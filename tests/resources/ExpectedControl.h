@@ -18,7 +18,8 @@ enum class EControl
     GroupBox,
     PushButton,
     DefaultButton,
-    ScrollBar
+    ScrollBar,
+    DrawnButton ///< by the dialog
 };
 
 struct SExpectedControl

@@ -32,6 +32,8 @@ EControl KindOf(const SPicturedControl& control)
         return EControl::DefaultButton;
     if (control.className == "Button" && (control.style & 0xF) == BS_GROUPBOX)
         return EControl::GroupBox;
+    if (control.className == "Button" && (control.style & 0xF) == BS_OWNERDRAW)
+        return EControl::DrawnButton;
     if (control.className == "ScrollBar")
         return EControl::ScrollBar;
     EXPECT_EQ(control.className, "Static") << control.id;
@@ -53,7 +55,11 @@ bool Holds(const RECT& a, const RECT& b)
 /// Whether a group box stands around a control.
 bool IsFrameOf(const SPicturedControl& frame, const SPicturedControl& control)
 {
-    return KindOf(frame) == EControl::GroupBox && Holds(frame.rect, control.rect);
+    constexpr DWORD kFrames[] = {SS_ETCHEDFRAME, SS_SUNKEN};
+    const bool isStaticFrame =
+        frame.className == "Static" && frame.text.empty() &&
+        std::find(std::begin(kFrames), std::end(kFrames), frame.style & ~WS_GROUP & 0xFFFF) != std::end(kFrames);
+    return (KindOf(frame) == EControl::GroupBox || isStaticFrame) && Holds(frame.rect, control.rect);
 }
 
 /// What only shows something, or moves what other controls show.
@@ -79,6 +85,8 @@ int RoomForText(const SPicturedControl& control)
     case EControl::PushButton:
     case EControl::DefaultButton:
         return Width(control.rect) - kButtonEdges;
+    case EControl::DrawnButton: // shows no text
+        return INT_MAX;
     default:
         return Width(control.rect);
     }

@@ -67,7 +67,7 @@ protected:
             }
         });
         EXPECT_EQ(result, IDOK);
-        EXPECT_EQ(ReadResults(m_wizard), expected);
+        EXPECT_EQ(GetParam().Comparable(ReadResults(m_wizard)), expected);
         return failed;
     }
 
@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Dialogs, CConfirmingTest, testing::ValuesIn(kInstructio
 TEST_P(CConfirmingTest, SaysThatThereIsNoMemoryAndWorksOnceThereIs)
 {
     Confirm(1);
-    const SResults expected = ReadResults(m_wizard);
+    const SResults expected = GetParam().Comparable(ReadResults(m_wizard));
     for (const int failures : {1, CAllocationFaults::kNever})
     {
         int successes = 0;
@@ -95,6 +95,8 @@ TEST_P(CConfirmingTest, LeavesNothingBehind)
     const auto batch = [this] {
         for (int i = 0; i < kOpenings && !HasFailure(); ++i)
         {
+            if (GetParam().appendsContact)
+                m_wizard.RemoveAllContInfo(); // it may grow
             Confirm(i);
             Open([](CWzdDlgBase&, CDialogRobot& robot) { robot.Click(IDCANCEL); });
         }

@@ -540,7 +540,7 @@ TEST_P(CReentranceOfDialogsTest, EndsWithItsObjectUnderAMessageBox)
 TEST_P(CReentranceOfDialogsTest, EndsWithItsObjectUnderTheMessageBoxOfAnyField)
 {
     constexpr int kMostRefusals = 60;
-    const char* const kValues[] = {"", "1", "100", "1000", "0.5"};
+    const char* const kValues[] = {"", "1", "2", "100", "1000", "0.5"};
     bool isAccepted = false;
     int refusals = 0;
     for (; refusals < kMostRefusals && !isAccepted; ++refusals)
