@@ -62,8 +62,8 @@ public:
     /// Reads an entry. False, with the message shown, when it is no number or outside the range.
     [[nodiscard]] bool ReadNumber(UINT edit, SWzdRange range, UINT message, LONGLONG& value,
                                   const SWzdFormat& format = kSigned);
-    /// Reads the device or constant selected in the combo of a row and the number in its edit. False, with the message shown, when
-    /// it is no number or not of the PLC.
+    /// Reads the device or constant selected in the combo of a row and the number in its edit. False, with the message
+    /// shown, when it is no number or not of the PLC.
     [[nodiscard]] bool ReadDevice(const SWzdRow& row, short& code, int& number);
     /// The same without a message shown: the message that would be, or 0.
     UINT CheckDevice(const SWzdRow& row, short& code, int& number) const;

@@ -41,8 +41,8 @@ CString RangeText(const SWzdConstant& constant)
     if (constant.rangeText != 0)
         text.LoadString(constant.rangeText);
     else
-        text = FillText(IDS_RANGE_TEXT, {constant.format.Format(constant.range.low),
-                                         constant.format.Format(constant.range.high)});
+        text = FillText(IDS_RANGE_TEXT,
+                        {constant.format.Format(constant.range.low), constant.format.Format(constant.range.high)});
     return text;
 }
 

@@ -33,10 +33,7 @@ void CWzdResults::AddToControlCode(DWORD bits)
         m_data[*m_codeRecord].value |= static_cast<LONG>(bits);
 }
 
-void CWzdResults::AddComment(const CString& text)
-{
-    m_comments.push_back(LeftWhole(text, kLongestComment));
-}
+void CWzdResults::AddComment(const CString& text) { m_comments.push_back(LeftWhole(text, kLongestComment)); }
 
 void CWzdResults::AddCommentFrom(const CWnd* label)
 {

@@ -52,14 +52,24 @@ struct SScaling
 namespace
 {
 
-constexpr SScaling kScalings[] = {
-    {kInstructionScal, IDS_CAPTION_SCAL, IDS_HEADING_SCAL, kWords,
-     {kOneRegister, kDecimalConstant, WholeNumber}, {.limit = 6, .range = kAnyWord}},
-    {kInstructionDscal, IDS_CAPTION_DSCAL, IDS_HEADING_DSCAL, kDoubleWords,
-     {kTwoRegisters, kDecimalConstant, WholeNumber}, {.limit = 11, .range = kAnyDoubleWord}},
-    {kInstructionFscal, IDS_CAPTION_FSCAL, IDS_HEADING_FSCAL, kReals,
-     {kRealNumber, kRealConstant, RealNumber},
-     {.format = kReal, .range = kAnyDoubleWord, .rangeText = IDS_RANGE_REAL}}};
+constexpr SScaling kScalings[] = {{kInstructionScal,
+                                   IDS_CAPTION_SCAL,
+                                   IDS_HEADING_SCAL,
+                                   kWords,
+                                   {kOneRegister, kDecimalConstant, WholeNumber},
+                                   {.limit = 6, .range = kAnyWord}},
+                                  {kInstructionDscal,
+                                   IDS_CAPTION_DSCAL,
+                                   IDS_HEADING_DSCAL,
+                                   kDoubleWords,
+                                   {kTwoRegisters, kDecimalConstant, WholeNumber},
+                                   {.limit = 11, .range = kAnyDoubleWord}},
+                                  {kInstructionFscal,
+                                   IDS_CAPTION_FSCAL,
+                                   IDS_HEADING_FSCAL,
+                                   kReals,
+                                   {kRealNumber, kRealConstant, RealNumber},
+                                   {.format = kReal, .range = kAnyDoubleWord, .rangeText = IDS_RANGE_REAL}}};
 
 const SScaling& ScalingOf(int kind) { return kScalings[kind == 0 || kind == 1 ? kind : 2]; }
 
@@ -120,7 +130,8 @@ int CScalDlg::MostPoints() const
     const LONGLONG registers = m_scaling.Registers(1);
     const LONGLONG last = high - m_scaling.Registers(kFewestPoints);
     const bool entered = ParseDeviceNumber(code, ItemText(IDC_SCAL_START), start) && start >= low && start <= last;
-    return static_cast<int>(std::min<LONGLONG>((static_cast<LONGLONG>(high) - (entered ? start : low)) / registers, kMostPoints));
+    return static_cast<int>(
+        std::min<LONGLONG>((static_cast<LONGLONG>(high) - (entered ? start : low)) / registers, kMostPoints));
 }
 
 int CScalDlg::Points(int most) const

@@ -9,10 +9,8 @@
 namespace
 {
 
-constexpr SWzdChoice kScreens[] = {{IDS_SCREEN_N_MODE_1ST, 0},
-                                   {IDS_SCREEN_N_MODE_2ND, 1},
-                                   {IDS_SCREEN_S_MODE_1ST, 2},
-                                   {IDS_SCREEN_S_MODE_2ND, 3}};
+constexpr SWzdChoice kScreens[] = {
+    {IDS_SCREEN_N_MODE_1ST, 0}, {IDS_SCREEN_N_MODE_2ND, 1}, {IDS_SCREEN_S_MODE_1ST, 2}, {IDS_SCREEN_S_MODE_2ND, 3}};
 
 /// A device of the instruction, by its operand.
 struct SScreenDevice

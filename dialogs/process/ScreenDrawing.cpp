@@ -37,7 +37,8 @@ CRect CScreenLayout::Digit(int line, int position) const
     const int pitch = std::min(m_lines.Width() / kScreenDigits, height);
     const int width = pitch * 13 / 20;
     const int top = line == kUpsideLine ? m_lines.top : m_lines.bottom - height;
-    const int left = m_lines.left + (m_lines.Width() - kScreenDigits * pitch) / 2 + position * pitch + (pitch - width) / 2;
+    const int left =
+        m_lines.left + (m_lines.Width() - kScreenDigits * pitch) / 2 + position * pitch + (pitch - width) / 2;
     return {left, top, left + width, top + height};
 }
 

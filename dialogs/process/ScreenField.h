@@ -11,6 +11,6 @@ struct SScreenInput
     int line = kUpsideLine; ///< that the controls show
 };
 
-/// Declared behind the operands: the control data (1) and the display data of the lines (2, 3). It keeps `input` in step
-/// with the controls.
+/// Declared behind the operands: the control data (1) and the display data of the lines (2, 3). It keeps `input` in
+/// step with the controls.
 void WDX_Screen(CWzdExchange* wx, SScreenInput& input);

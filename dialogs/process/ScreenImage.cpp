@@ -39,7 +39,8 @@ CString TextOf(const SScreenLine& line)
     CString text = CString(' ', kScreenDigits - sample.places) + sample.text;
     const int last = kScreenDigits - HighestPoint(line.Get(kScreenPoints));
     const bool suppressed = line.Get(kScreenAllDigits) == 0;
-    for (int position = 0; suppressed && position < last && (text[position] == '0' || text[position] == ' '); ++position)
+    for (int position = 0; suppressed && position < last && (text[position] == '0' || text[position] == ' ');
+         ++position)
         text.SetAt(position, ' ');
     return text;
 }
@@ -59,7 +60,7 @@ SScreenImage ScreenImage(const SScreenLine& line)
         SScreenDigit& digit = image[static_cast<size_t>(position)];
         const int number = DigitNumber(position);
         if ((line.Get(kScreenHidden) & 1u << (number - 1)) == 0)
-            digit.segments = isRaw                       ? kSegmentSample[static_cast<size_t>(position)]
+            digit.segments = isRaw                         ? kSegmentSample[static_cast<size_t>(position)]
                              : position < text.GetLength() ? SegmentsOf(text[position])
                                                            : BYTE{0};
         digit.point = number > 1 && (points & 1u << (number - 2)) != 0;
