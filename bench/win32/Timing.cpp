@@ -13,6 +13,8 @@
 #include "dialogs/posunit/PosCtrlCodeDlg.h"
 #include "dialogs/posunit/PulsarDlg.h"
 #include "dialogs/process/PidDlg.h"
+#include "dialogs/process/ScalDlg.h"
+#include "dialogs/process/ScrDispDlg.h"
 #include "dialogs/pulse/PlsDlg.h"
 #include "dialogs/pulse/PlshDlg.h"
 #include "dialogs/pulse/PwmDlg.h"
@@ -135,6 +137,9 @@ constexpr SOpening kOpenings[] = {
     {"home return", IDD_HOME_RETURN, Open<CHomeReturnDlg>},
     {"pulsar", IDD_PULSAR, Open<CPulsarDlg>},
     {"PID", IDD_PID, Open<CPidDlg, 30>},
+    {"F282", IDD_SCALING, Open<CScalDlg, nullptr, 0>},
+    {"F354", IDD_SCALING, Open<CScalDlg, nullptr, 2>},
+    {"screen", IDD_SCREEN, Open<CScrDispDlg, nullptr>},
 };
 
 std::string Limit(double ratio, double limit)

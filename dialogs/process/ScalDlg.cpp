@@ -52,24 +52,15 @@ struct SScaling
 namespace
 {
 
-constexpr SScaling kScalings[] = {{kInstructionScal,
-                                   IDS_CAPTION_SCAL,
-                                   IDS_HEADING_SCAL,
-                                   kWords,
-                                   {kOneRegister, kDecimalConstant, WholeNumber},
-                                   {.limit = 6, .range = kAnyWord}},
-                                  {kInstructionDscal,
-                                   IDS_CAPTION_DSCAL,
-                                   IDS_HEADING_DSCAL,
-                                   kDoubleWords,
-                                   {kTwoRegisters, kDecimalConstant, WholeNumber},
-                                   {.limit = 11, .range = kAnyDoubleWord}},
-                                  {kInstructionFscal,
-                                   IDS_CAPTION_FSCAL,
-                                   IDS_HEADING_FSCAL,
-                                   kReals,
-                                   {kRealNumber, kRealConstant, RealNumber},
-                                   {.format = kReal, .range = kAnyDoubleWord, .rangeText = IDS_RANGE_REAL}}};
+// clang-format off
+constexpr SScaling kScalings[] = {
+    {kInstructionScal,  IDS_CAPTION_SCAL,  IDS_HEADING_SCAL,  kWords,
+     {kOneRegister,  kDecimalConstant, WholeNumber}, {.limit = 6,  .range = kAnyWord}},
+    {kInstructionDscal, IDS_CAPTION_DSCAL, IDS_HEADING_DSCAL, kDoubleWords,
+     {kTwoRegisters, kDecimalConstant, WholeNumber}, {.limit = 11, .range = kAnyDoubleWord}},
+    {kInstructionFscal, IDS_CAPTION_FSCAL, IDS_HEADING_FSCAL, kReals,
+     {kRealNumber,   kRealConstant,    RealNumber},  {.format = kReal, .range = kAnyDoubleWord, .rangeText = IDS_RANGE_REAL}}};
+// clang-format on
 
 const SScaling& ScalingOf(int kind) { return kScalings[kind == 0 || kind == 1 ? kind : 2]; }
 
