@@ -120,7 +120,8 @@ bool CWzdDlgBase::GetSelectedDeviceRange(int comboId, short& kind, short& code, 
 bool CWzdDlgBase::HasRoom(const SWzdRow& row, short kind, short code) const
 {
     int low, high;
-    return row.less == 0 || !Wizard().GetDevRange(kind, code, low, high) || Lowered(high, row.less) >= low;
+    return row.less == 0 || !Wizard().GetDevRange(kind, code, low, high) ||
+           static_cast<LONGLONG>(high) - row.less >= low;
 }
 
 bool CWzdDlgBase::ShowDeviceRange(const SWzdRow& row)
