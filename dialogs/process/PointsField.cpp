@@ -70,8 +70,8 @@ protected:
         const CFunWizard& wizard = m_dialog.Wizard();
         if (m_record == CWzdExchange::kNoRecord || !wizard.GetDataInfo(m_record - 1, &data))
             return;
-        const int points = data.value;
-        const int rows = std::min({points, m_grid.Model().MostRows(), wizard.GetDataInfoCount()});
+        const int points = std::min<int>(data.value, wizard.GetDataInfoCount()); // hosts may say more
+        const int rows = std::min(points, m_grid.Model().MostRows());
         const auto read = [&](int column, int row) {
             return wizard.GetDataInfo(m_record + column * points + row, &data) && data.format == m_values.format;
         };
