@@ -1,5 +1,10 @@
 #include "tests/dialogs/grid/GridRobot.h"
 
+#include "tests/support/DialogChecks.h"
+#include "tests/support/PrintTo.h"
+
+#include <gtest/gtest.h>
+
 CGridView& GridOf(const CDialogRobot& dialog) { return dynamic_cast<CGridDlg&>(*dialog.Dialog()).Grid(); }
 
 void TypeHere(CDialogRobot& dialog, const std::string& text)
@@ -103,4 +108,24 @@ std::vector<std::string> RowLabels(CDialogRobot& dialog)
     for (const UINT label : GridOf(dialog).Controls().rowLabels)
         labels.emplace_back(dialog.Text(label));
     return labels;
+}
+
+void SetCell(CDialogRobot& dialog, int row, int column, const std::string& text)
+{
+    if (dialog.Visible(EditorOf(dialog)))
+        dialog.PressKey(VK_ESCAPE);
+    GridOf(dialog).Model().SetText({row, column}, text.c_str());
+}
+
+void ExpectCellRefusal(CDialogRobot& dialog, unsigned message, int row, int column)
+{
+    ExpectRefusal(dialog, message, EditorOf(dialog));
+    const CGridModel& cells = CellsOf(dialog);
+    const SGridCell cell = {row, column};
+    EXPECT_EQ(cells.Current().row, row);
+    EXPECT_EQ(cells.Current().column, column);
+    EXPECT_LE(cells.FirstVisible(), row);
+    EXPECT_LT(row, cells.FirstVisible() + 5);
+    EXPECT_TRUE(dialog.Visible(EditorOf(dialog)));
+    EXPECT_EQ(dialog.Text(EditorOf(dialog)), cells.Text(cell));
 }

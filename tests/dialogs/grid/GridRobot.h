@@ -36,3 +36,9 @@ void ChooseInMenu(CDialogRobot& dialog, char accessKey);
 
 /// What stands beside the rows in view.
 std::vector<std::string> RowLabels(CDialogRobot& dialog);
+
+/// Puts a text in a cell, past the limit of its editor, as the clipboard does. An editor that is open is dropped.
+void SetCell(CDialogRobot& dialog, int row, int column, const std::string& text);
+/// Clicks OK, which must be refused with this message: the cell is current, in view, and its editor is open with all of
+/// its text selected.
+void ExpectCellRefusal(CDialogRobot& dialog, unsigned message, int row, int column);

@@ -1,5 +1,6 @@
 // The table of a dialog under the hands of a user: keys, mouse, wheel, scroll bar, menu, clipboard and editor.
 #include "dialogs/pulse/Sp0hDlg.h"
+#include "tests/dialogs/grid/PaintCounter.h"
 #include "tests/dialogs/pulse/Sp0hTest.h"
 
 namespace
@@ -31,32 +32,6 @@ protected:
         EXPECT_EQ(dialog.Visible(kEditor), dialog.FocusId() == kEditor);
         return dialog.Visible(kEditor);
     }
-};
-
-/// How often a window was painted, counted at the window itself.
-class CPaintCounter : public CWnd
-{
-public:
-    explicit CPaintCounter(HWND window) : m_window(window)
-    {
-        s_previous = reinterpret_cast<WNDPROC>(
-            ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountingProc)));
-        s_count = 0;
-    }
-    ~CPaintCounter() override { ::SetWindowLongPtrA(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_previous)); }
-
-    int Count() const { return s_count; }
-
-private:
-    static LRESULT CALLBACK CountingProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-    {
-        s_count += message == WM_PAINT;
-        return ::CallWindowProcA(s_previous, window, message, wParam, lParam);
-    }
-
-    static inline WNDPROC s_previous = nullptr;
-    static inline int s_count = 0;
-    HWND m_window;
 };
 
 } // namespace

@@ -4,14 +4,6 @@
 namespace
 {
 
-/// Puts a text in a cell, past the limit of its editor, as the clipboard does. An editor that is open is dropped.
-void SetCell(CDialogRobot& dialog, int row, int column, const std::string& text)
-{
-    if (dialog.Visible(EditorOf(dialog)))
-        dialog.PressKey(VK_ESCAPE);
-    GridOf(dialog).Model().SetText({row, column}, text.c_str());
-}
-
 /// Everything but the last target is accepted: only that is refused.
 void ExpectAllAcceptedBeforeTheLast(CDialogRobot& dialog)
 {

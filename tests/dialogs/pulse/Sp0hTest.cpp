@@ -101,16 +101,3 @@ void FillIn(CDialogRobot& dialog, const SSp0hEntries& entries)
     PasteCells(dialog, AsText(entries.steps));
     dialog.Type(2401, entries.start.c_str());
 }
-
-void ExpectCellRefusal(CDialogRobot& dialog, unsigned message, int row, int column)
-{
-    ExpectRefusal(dialog, message, EditorOf(dialog));
-    const CGridModel& cells = CellsOf(dialog);
-    const SGridCell cell = {row, column};
-    EXPECT_EQ(cells.Current().row, row);
-    EXPECT_EQ(cells.Current().column, column);
-    EXPECT_LE(cells.FirstVisible(), row);
-    EXPECT_LT(row, cells.FirstVisible() + 5);
-    EXPECT_TRUE(dialog.Visible(EditorOf(dialog)));
-    EXPECT_EQ(dialog.Text(EditorOf(dialog)), cells.Text(cell));
-}

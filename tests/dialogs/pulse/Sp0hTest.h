@@ -68,6 +68,3 @@ protected:
 
 /// Fills the dialog in; the steps are pasted.
 void FillIn(CDialogRobot& dialog, const SSp0hEntries& entries);
-/// Clicks OK, which must be refused with this message: the cell is current, in view, and its editor is open with all of
-/// its text selected.
-void ExpectCellRefusal(CDialogRobot& dialog, unsigned message, int row, int column);
