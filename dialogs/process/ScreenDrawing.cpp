@@ -26,8 +26,9 @@ CScreenLayout::CScreenLayout(const CRect& place, int nameHeight)
 CRect CScreenLayout::Mark(int position) const
 {
     const int pitch = m_marks.Width() / kScreenMarks;
-    const int left = m_marks.left + position * pitch + (pitch - m_marks.Height()) / 2;
-    return {left, m_marks.top, left + m_marks.Height(), m_marks.bottom};
+    const int side = std::min(pitch, m_marks.Height());
+    const int left = m_marks.left + position * pitch + (pitch - side) / 2;
+    return {left, m_marks.top, left + side, m_marks.top + side};
 }
 
 // A digit takes two thirds of its place: beside it are its points.
