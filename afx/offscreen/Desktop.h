@@ -92,5 +92,11 @@ struct DrawnText
     COLORREF color;
 };
 std::vector<DrawnText> TextDrawnIn(HWND window);
+
+// The color with which a pixel of a memory context has been filled last (by FillRect, ExtTextOut, Rectangle, Ellipse,
+// Polygon; frames are not filled, and focus rectangles are black); CLR_INVALID where nothing has been.
+COLORREF ColorAt(HDC dc, int x, int y);
+
+// Both are only noted while this is on.
 void RecordDrawing(bool on);
 } // namespace offscreen

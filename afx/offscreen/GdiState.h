@@ -26,11 +26,19 @@ struct DcSettings
     POINT position{};
 };
 
+struct Fill
+{
+    std::vector<POINT> corners; // Of a polygon, or the two of the rectangle around an ellipse.
+    bool ellipse;
+    COLORREF color;
+};
+
 struct Dc : DcSettings
 {
     HWND window = nullptr;
     bool memory = false;
     std::vector<DcSettings> saved;
+    std::vector<Fill> fills;
 };
 
 struct GdiState
@@ -46,6 +54,7 @@ struct GdiState
 GdiState& Gdi();
 Dc* DcOf(HDC handle);
 void NoteText(const Dc& dc, int x, int y, std::string_view text);
+void NoteRect(Dc& dc, const RECT& rect, COLORREF color);
 
 inline std::string_view View(LPCSTR text, int length)
 {

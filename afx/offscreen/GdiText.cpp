@@ -54,10 +54,12 @@ BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int length)
     return ExtTextOutA(dc, x, y, 0, nullptr, text, static_cast<UINT>(length), nullptr);
 }
 
-BOOL ExtTextOutA(HDC dc, int x, int y, UINT, const RECT*, LPCSTR text, UINT length, const INT*)
+BOOL ExtTextOutA(HDC dc, int x, int y, UINT options, const RECT* rect, LPCSTR text, UINT length, const INT*)
 {
     Inside inside;
-    const Dc* found = DcOf(dc);
+    Dc* found = DcOf(dc);
+    if (found && rect && (options & ETO_OPAQUE))
+        NoteRect(*found, *rect, found->backgroundColor);
     if (found && text && length)
         NoteText(*found, x, y, std::string_view(text, length));
     return found != nullptr;
