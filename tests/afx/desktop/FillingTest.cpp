@@ -73,7 +73,7 @@ TEST_F(FillingTest, WhatIsDrawnLastIsSeen)
     Dc().FillSolidRect(CRect(10, 10, 30, 30), kSecond);
     Dc().Ellipse(CRect(15, 15, 25, 25));
     ExpectInk({{20, 20}});
-    ExpectInk({{11, 11}, {16, 16}}, kSecond);
+    ExpectInk({{11, 11}, {15, 15}}, kSecond);
     Dc().FillSolidRect(CRect(10, 10, 30, 30), kGround);
     ExpectInk({{20, 20}}, kGround);
 }
