@@ -235,7 +235,7 @@ TEST_F(CFieldsTest, OutputIsRestoredFromAConstant)
     {
         int code, value;
         int selected;
-    } const rows[] = {{kK, 4, 0}, {kK, 7, 1}, {kH, 9, 2}, {kK, 5, 0}, {kK, -1, 0}, {kDT, 7, 0}, {kReal, 7, 0}};
+    } const rows[] = {{kK, 4, 0}, {kK, 7, 1}, {kH, 9, 2}, {kK, 5, 0}, {kK, -1, 0}, {kDT, 7, 0}, {kF, 7, 0}};
     InProbe(DeclareOutput, [](CDialogRobot& robot) {
         EXPECT_EQ(robot.Items(IDC_PROBE_OUTPUT), Texts({"Y0", "Y1", "Y2"}));
         EXPECT_EQ(robot.Selection(IDC_PROBE_OUTPUT), 0);

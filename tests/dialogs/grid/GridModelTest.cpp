@@ -277,6 +277,83 @@ TEST_F(CGridModelTest, ScrollsNothingOutOfSightWhenItShrinks)
     EXPECT_EQ(m_grid.FirstVisible(), 0);
 }
 
+// ---- Rows that are wanted
+// --------------------------------------------------------------------------------------------
+
+TEST_F(CGridModelTest, HasTheWantedRowsBesideTheUsedOnes)
+{
+    const struct
+    {
+        int wanted;
+        int used;
+        int rows;
+    } kSizes[] = {{0, 0, 5},    {1, 0, 5},    {5, 0, 5},   {6, 0, 6},   {20, 0, 20},   {20, 3, 20},   {20, 19, 20},
+                  {20, 20, 21}, {20, 25, 26}, {2, 10, 11}, {0, 10, 11}, {100, 4, 100}, {101, 4, 100}, {40000, 4, 100}};
+    for (const auto& [wanted, used, rows] : kSizes)
+    {
+        m_grid.Clear();
+        Fill(used);
+        m_grid.SetWantedRows(wanted);
+        EXPECT_EQ(m_grid.Rows(), rows) << wanted << " wanted, " << used << " used";
+        EXPECT_EQ(m_grid.UsedRows(), std::max(used, 1));
+        EXPECT_EQ(m_grid.IsFull(), false);
+        m_grid.GoTo({1000, 0});
+        EXPECT_EQ(m_grid.Current().row, rows - 1);
+        EXPECT_EQ(m_grid.FirstVisible(), rows - 5);
+        m_grid.GoTo({0, 0});
+        m_grid.ScrollTo(1000);
+        EXPECT_EQ(m_grid.FirstVisible(), rows - 5);
+    }
+}
+
+TEST_F(CGridModelTest, KnowsWhichRowsAreWanted)
+{
+    Fill(6);
+    for (const int row : {0, 5, 99})
+        EXPECT_TRUE(m_grid.IsWanted(row)) << "without a number all are";
+    m_grid.SetWantedRows(4);
+    EXPECT_TRUE(m_grid.IsWanted(0));
+    EXPECT_TRUE(m_grid.IsWanted(3));
+    EXPECT_FALSE(m_grid.IsWanted(4));
+    EXPECT_FALSE(m_grid.IsWanted(5));
+    m_grid.SetWantedRows(0);
+    EXPECT_TRUE(m_grid.IsWanted(5));
+    EXPECT_EQ(m_grid.UsedRows(), 6) << "whatever is wanted";
+}
+
+TEST_F(CGridModelTest, ScrollsBackWhenFewerRowsAreWanted)
+{
+    Fill(8);
+    m_grid.SetWantedRows(50);
+    m_grid.ScrollTo(45);
+    m_grid.SetWantedRows(20);
+    EXPECT_EQ(m_grid.FirstVisible(), 15);
+    m_grid.SetWantedRows(0);
+    EXPECT_EQ(m_grid.FirstVisible(), 4); // 8 rows and an empty one
+    m_grid.SetWantedRows(50);
+    m_grid.GoTo({40, 1});
+    m_grid.SetWantedRows(10); // the current row stays
+    EXPECT_EQ(m_grid.Current(), (SGridCell{40, 1}));
+    EXPECT_EQ(m_grid.Rows(), 41);
+    m_grid.SetMostRows(30);
+    EXPECT_EQ(m_grid.Current(), (SGridCell{29, 1}));
+}
+
+TEST_F(CGridModelTest, MovesThroughWantedRows)
+{
+    m_grid.SetWantedRows(12);
+    EXPECT_TRUE(m_grid.Move(kPageDown));
+    EXPECT_EQ(m_grid.Current(), (SGridCell{5, 0}));
+    EXPECT_TRUE(m_grid.Move(kPageDown));
+    EXPECT_TRUE(m_grid.Move(kPageDown));
+    EXPECT_EQ(m_grid.Current(), (SGridCell{11, 0}));
+    EXPECT_FALSE(m_grid.Move(kCellDown));
+    m_grid.SetText({11, 0}, "x");
+    EXPECT_EQ(m_grid.UsedRows(), 12);
+    EXPECT_TRUE(m_grid.Move(kCellDown)); // to the empty one below
+    EXPECT_EQ(m_grid.Current(), (SGridCell{12, 0}));
+}
+
 // ---- Everything at random, against a plain model --------------------------------------------------------------------
 
 TEST_F(CGridModelTest, DoesAtRandomWhatAPlainListOfRowsDoes)

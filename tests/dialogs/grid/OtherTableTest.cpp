@@ -115,3 +115,110 @@ TEST_F(COtherTableTest, ReadsStoresAndRestoresItsOwnWay)
         dialog.Click(IDCANCEL);
     });
 }
+
+// ---- What headings say, and what the dialog is told -----------------------------------------------------------------
+
+namespace
+{
+
+/// A table that says what it is told of, and shows ranges in headings that have no second line yet.
+class CTellingDlg : public CGridDlg
+{
+public:
+    explicit CTellingDlg(CFunWizard* wizard) : CGridDlg(wizard, IDD_SP0H, kTable, nullptr) {}
+
+    void DoFieldExchange(CWzdExchange* wx) override
+    {
+        const SGridColumn columns[] = {
+            {.range = {-7, m_highest}, .rangeHeading = IDC_SP0H_STEP_FREQUENCY},
+            {.range = {-7, 99}, .rangeHeading = IDC_SP0H_CORNER, .rangeText = IDS_RANGE_REAL}};
+        WzdDeclare<CPairsField>(wx, {}, *this, columns);
+    }
+
+    void OnChanged(UINT id) override
+    {
+        if (id == IDC_SP0H_CELL_EDITOR)
+            m_told.push_back({Grid().ToldRows(), Grid().Model().UsedRows()});
+        CGridDlg::OnChanged(id);
+    }
+
+    struct STold
+    {
+        int before;
+        int now;
+
+        bool operator==(const STold&) const = default;
+    };
+    std::vector<STold> m_told;
+    LONGLONG m_highest = 9;
+};
+
+std::ostream& operator<<(std::ostream& out, const CTellingDlg::STold& told)
+{
+    return out << told.before << " to " << told.now;
+}
+
+} // namespace
+
+TEST_F(COtherTableTest, ShowsRangesBelowTheTextsOfHeadings)
+{
+    CTellingDlg table(&m_wizard);
+    Play([&] { return static_cast<int>(table.DoModal()); }, {[&](CDialogRobot& dialog) {
+             EXPECT_EQ(dialog.Text(IDC_SP0H_STEP_FREQUENCY), CString("Frequency (Hz)\n(-7 - 9)"));
+             EXPECT_EQ(dialog.Text(IDC_SP0H_CORNER), CString("\n+-1.175494e-38 - 3.402823e+38"));
+             dialog.Dialog()->SetDlgItemText(IDC_SP0H_STEP_FREQUENCY, "One line");
+             table.m_highest = 12;
+             table.OnChanged(IDC_SP0H_START);
+             EXPECT_EQ(dialog.Text(IDC_SP0H_STEP_FREQUENCY), CString("One line\n(-7 - 12)"));
+             table.m_highest = 5;
+             table.OnChanged(IDC_SP0H_START);
+             EXPECT_EQ(dialog.Text(IDC_SP0H_STEP_FREQUENCY), CString("One line\n(-7 - 5)"));
+             EXPECT_EQ(dialog.Text(IDC_SP0H_CORNER), CString("\n+-1.175494e-38 - 3.402823e+38"));
+             dialog.Click(IDCANCEL);
+         }});
+}
+
+TEST_F(COtherTableTest, TellsTheDialogWhenRowsBecomeMoreOrFewer)
+{
+    CTellingDlg table(&m_wizard);
+    Play([&] { return static_cast<int>(table.DoModal()); }, {[&](CDialogRobot& dialog) {
+             using Told = std::vector<CTellingDlg::STold>;
+             dialog.Focus(kGridCells);
+             TypeCells(dialog, {"1", "2"}); // the first row is one that there always is
+             EXPECT_EQ(table.m_told, Told());
+             TypeCells(dialog, {"3"});
+             EXPECT_EQ(table.m_told, (Told{{1, 2}}));
+             TypeCells(dialog, {"4", "5"});
+             EXPECT_EQ(table.m_told, (Told{{1, 2}, {2, 3}}));
+             PressCtrl(dialog, VK_HOME);
+             PressCtrl(dialog, 'D');
+             EXPECT_EQ(table.m_told, (Told{{1, 2}, {2, 3}, {3, 2}}));
+             table.m_told.clear();
+             PressCtrl(dialog, VK_END); // the third row again, still in the editor
+             dialog.PressKey(VK_DOWN);
+             TypeHere(dialog, "7");
+             EXPECT_EQ(table.m_told, Told());
+             EXPECT_EQ(dialog.ClickAndAnswer(IDOK), CString(MessageText(20001).c_str()));
+             EXPECT_EQ(table.m_told, (Told{{2, 3}})) << "once, by OK";
+             dialog.PressKey(VK_ESCAPE);
+             dialog.Click(IDCANCEL);
+         }});
+}
+
+TEST_F(COtherTableTest, CommitsToldOnce)
+{
+    CTellingDlg table(&m_wizard);
+    Play([&] { return static_cast<int>(table.DoModal()); }, {[&](CDialogRobot& dialog) {
+             using Told = std::vector<CTellingDlg::STold>;
+             dialog.Focus(kGridCells);
+             dialog.PressKey(VK_DOWN);
+             TypeHere(dialog, "7");
+             table.Grid().Commit();
+             EXPECT_EQ(table.m_told, (Told{{1, 2}}));
+             EXPECT_FALSE(dialog.Visible(IDC_SP0H_CELL_EDITOR));
+             table.Grid().Commit();
+             EXPECT_EQ(table.m_told, (Told{{1, 2}}));
+             EXPECT_EQ(TextsOf(CellsOf(dialog)), (GridTexts{{"", ""}, {"7", ""}}));
+             dialog.Click(IDCANCEL);
+         }});
+}

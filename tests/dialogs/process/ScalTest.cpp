@@ -80,7 +80,7 @@ SOperandRow Operand(const std::string& device, const std::string& text)
     if (device == "f")
     {
         const float value = std::strtof(text.c_str(), nullptr);
-        return {kReal, value == 0 ? 0 : std::bit_cast<int>(value)};
+        return {kF, value == 0 ? 0 : std::bit_cast<int>(value)};
     }
     const auto* row = std::find_if(std::begin(kWordDevices), std::end(kWordDevices),
                                    [&device](const SWordDevice& word) { return device == word.name; });

@@ -70,7 +70,7 @@ inline constexpr SWordDevice kWordDevices[] = {
     {"LD", kLD, 0x1000000}, {"INDEX", kIndex, 0x10000000}};
 /// The lowest number of a device of AddAllWords.
 int LowestOf(const SWordDevice& device);
-inline constexpr SWordDevice kInputConstants[] = {{"K", kK, 1}, {"H", kH, 2}, {"f", kReal, 4}};
+inline constexpr SWordDevice kInputConstants[] = {{"K", kK, 1}, {"H", kH, 2}, {"f", kF, 4}};
 // clang-format on
 
 struct SPointEntry

@@ -1,0 +1,105 @@
+// The largest table of scaling: 32,767 points.
+#include "tests/dialogs/grid/PaintCounter.h"
+#include "tests/dialogs/process/ScalTest.h"
+
+namespace
+{
+
+constexpr int kMost = 32767;
+
+class CScalLargeTest : public CScalTest
+{
+protected:
+    CScalLargeTest() { SetDeviceRange(m_wizard, kDT, 0, 1000000); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Kinds, CScalLargeTest, testing::ValuesIn(kScalKinds), ScalKindName);
+
+TEST_P(CScalLargeTest, IsPastedTypedIntoConfirmedAndRestored)
+{
+    SScalEntries entries = {.points = Points(kMost)};
+    Confirm([&](CDialogRobot& dialog) {
+        FillIn(dialog, entries);
+        EXPECT_EQ(dialog.Text(3371), CString("32767"));
+        EXPECT_EQ(dialog.Text(3372), CString("(2 - 32767)"));
+        EXPECT_EQ(CellsOf(dialog).UsedRows(), kMost);
+        EXPECT_TRUE(CellsOf(dialog).IsFull());
+        dialog.Focus(kGridCells);
+        PressCtrl(dialog, VK_END);
+        EXPECT_EQ(CellsOf(dialog).Current(), (SGridCell{kMost - 1, 1}));
+        EXPECT_EQ(RowLabels(dialog).back(), "32767");
+        TypeHere(dialog, "7");
+        dialog.PressKey(VK_RETURN);
+        entries.points.back().y = "7";
+        EXPECT_STREQ(CellsOf(dialog).Text({kMost - 1, 1}), "7");
+    });
+    EXPECT_EQ(ReadResults(m_wizard), ScalResults(GetParam(), entries));
+    Confirm([](CDialogRobot& dialog) {
+        EXPECT_EQ(CellsOf(dialog).UsedRows(), kMost);
+        EXPECT_EQ(dialog.Text(3371), CString("32767"));
+        EXPECT_STREQ(CellsOf(dialog).Text({kMost - 1, 1}), "7");
+    });
+    EXPECT_EQ(ReadResults(m_wizard), ScalResults(GetParam(), entries));
+    EXPECT_EQ(m_wizard.CreateInstCode(), 1);
+}
+
+TEST_P(CScalLargeTest, TakesNoPointMore)
+{
+    Leave([](CDialogRobot& dialog) {
+        FillIn(dialog, {});
+        PressCtrl(dialog, VK_HOME);
+        const CString message = dialog.Answering(IDOK, [&] { PasteCells(dialog, AsText(Points(kMost + 2))); });
+        EXPECT_NE(message.Find("Lines left out: 2\n"), -1);
+        EXPECT_EQ(dialog.Text(3371), CString("32767"));
+        dialog.Type(3371, "32768");
+        ExpectRefusal(dialog, 20042, 3371);
+    });
+}
+
+TEST_P(CScalLargeTest, FindsItsLastCellBad)
+{
+    Leave([](CDialogRobot& dialog) {
+        FillIn(dialog, {.points = Points(kMost)});
+        SetCell(dialog, kMost - 1, 1, "x");
+        ExpectCellRefusal(dialog, 20001, kMost - 1, 1);
+        dialog.PressKey(VK_ESCAPE);
+        SetCell(dialog, kMost - 1, 1, "1");
+        SetCell(dialog, kMost - 1, 0, "0");
+        ExpectCellRefusal(dialog, 20045, kMost - 1, 0);
+        dialog.PressKey(VK_ESCAPE);
+    });
+}
+
+TEST_P(CScalLargeTest, IsPaintedNoMoreThanOnceByAKey)
+{
+    Leave([](CDialogRobot& dialog) {
+        FillIn(dialog, {.points = Points(kMost)});
+        dialog.Focus(kGridCells);
+        PressCtrl(dialog, VK_END);
+        dialog.Pump();
+        const struct
+        {
+            const char* name;
+            std::function<void()> press;
+        } kKeys[] = {
+            {"up", [&] { dialog.PressKey(VK_UP); }},
+            {"a digit that opens the editor", [&] { TypeHere(dialog, "1"); }},
+            {"a digit in the editor", [&] { TypeHere(dialog, "2"); }},
+            {"Enter", [&] { dialog.PressKey(VK_RETURN); }},
+            {"Tab", [&] { dialog.PressKey(VK_TAB, {VK_SHIFT}); }},
+            {"page up", [&] { dialog.PressKey(VK_PRIOR); }},
+            {"delete a row", [&] { PressCtrl(dialog, 'D'); }},
+            {"insert a row", [&] { PressCtrl(dialog, 'I'); }},
+            {"home", [&] { PressCtrl(dialog, VK_HOME); }},
+        };
+        for (const auto& [name, press] : kKeys)
+        {
+            const CPaintCounter paints(GridOf(dialog).m_hWnd);
+            press();
+            dialog.Pump();
+            EXPECT_LE(paints.Count(), 1) << name;
+        }
+    });
+}
+
+} // namespace
