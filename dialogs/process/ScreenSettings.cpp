@@ -16,10 +16,11 @@ constexpr int kHiddenLine = 8; // the bit of the upside line in the first word
 
 WORD SScreenLine::TextWord(int index) const
 {
-    const auto character = [this](int position) {
-        return position < text.GetLength() ? static_cast<BYTE>(text[position]) : BYTE{0};
-    };
-    return MAKEWORD(character(2 * index), character(2 * index + 1));
+    const LPCSTR bytes = text;
+    const int first = 2 * index, length = text.GetLength();
+    if (first >= length)
+        return 0;
+    return MAKEWORD(bytes[first], first + 1 < length ? bytes[first + 1] : 0);
 }
 
 WORD SScreenSettings::FirstWord() const
