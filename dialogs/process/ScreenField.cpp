@@ -128,11 +128,11 @@ private:
             button->Invalidate(FALSE);
     }
 
-    // What the controls showed of the other line is stored already.
     void SwitchTo(int line)
     {
         if (m_input.line == line)
             return;
+        Store();
         m_input.line = line;
         Load();
     }

@@ -2,10 +2,13 @@
 #include "tests/dialogs/process/ScrDispTest.h"
 #include "tests/support/Sampled.h"
 
+#include "dialogs/process/ScrDispDlg.h"
 #include "dialogs/process/ScreenDrawing.h"
 #include "tests/support/Canvas.h"
 
 #include <functional>
+#include <map>
+#include <utility>
 
 namespace
 {
@@ -162,6 +165,67 @@ TEST_F(CScrDispLinesTest, ShowASwatchForEachColor)
     });
 }
 
+/// Tells how often its controls are painted.
+class CPaintedDlg : public CScrDispDlg
+{
+public:
+    using CScrDispDlg::CScrDispDlg;
+
+    /// Whether a control has been painted since this was asked last.
+    bool IsPainted(CDialogRobot& dialog, UINT id)
+    {
+        dialog.Dialog()->GetDlgItem(id)->UpdateWindow();
+        return std::exchange(m_painted[id], 0) > 0;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_DRAWITEM)
+            ++m_painted[static_cast<UINT>(wParam)];
+        return CScrDispDlg::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    std::map<UINT, int> m_painted;
+};
+
+TEST_F(CScrDispLinesTest, PaintWhatHasChangedAndNothingElse)
+{
+    m_wizard.CreateDlgFont(nullptr);
+    CPaintedDlg painted(&m_wizard, nullptr, nullptr);
+    const auto play = [&](CDialogRobot& dialog) {
+        EXPECT_TRUE(painted.IsPainted(dialog, 2888));
+        EXPECT_FALSE(painted.IsPainted(dialog, 2888)) << "only when something changes";
+        for (UINT mark = kFirstMark; mark < kFirstMark + kMarks; ++mark)
+            EXPECT_TRUE(painted.IsPainted(dialog, mark));
+        for (UINT mark = kFirstMark; mark < kFirstMark + kMarks; ++mark)
+        {
+            EXPECT_FALSE(painted.IsPainted(dialog, mark));
+            dialog.Dialog()->SendMessage(WM_COMMAND, MAKEWPARAM(mark, BN_CLICKED));
+            EXPECT_TRUE(painted.IsPainted(dialog, mark)) << "button " << mark;
+            EXPECT_TRUE(painted.IsPainted(dialog, 2888)) << "for button " << mark;
+            EXPECT_FALSE(painted.IsPainted(dialog, mark == 2860 ? 2861 : 2860)) << "another button";
+        }
+        for (const UINT combo : {2850, 2869, 2884, 2883})
+        {
+            dialog.Select(combo, 1);
+            EXPECT_TRUE(painted.IsPainted(dialog, 2888)) << "for list " << combo;
+        }
+        dialog.Select(2869, 3);
+        painted.IsPainted(dialog, 2888);
+        dialog.Type(2872, "A");
+        EXPECT_TRUE(painted.IsPainted(dialog, 2888)) << "for a key";
+        for (const UINT button : {2878, 2879, 2880, 2881, 2882, 2873, 2874, 2875, 2876, 2877, 2887, 2886, 2870, 2870})
+        {
+            dialog.Click(button);
+            EXPECT_TRUE(painted.IsPainted(dialog, 2888)) << "for button " << button;
+        }
+        dialog.Click(IDCANCEL);
+    };
+    EXPECT_EQ(Play([&] { return static_cast<int>(painted.DoModal()); }, {play}), IDCANCEL);
+}
+
 // ---- One line and the other -----------------------------------------------------------------------------------------
 
 TEST_F(CScrDispLinesTest, AreStoredAndLoadedWhenTheyAreSwitched)
@@ -231,6 +295,33 @@ TEST_F(CScrDispLinesTest, AreStoredFromEitherSide)
             dialog.Click(2874);
         });
         entries.lines[edited].points ^= 2;
+        EXPECT_EQ(ReadResults(m_wizard), ScrDispResults(entries));
+        EXPECT_EQ(Block(), BlockOf(entries));
+    }
+}
+
+// What a control does not tell of, as a list that is closed by Esc may not, is stored when the line is left.
+TEST_F(CScrDispLinesTest, AreStoredAsTheControlsStand)
+{
+    for (const bool switched : {false, true})
+    {
+        SScrDispEntries entries;
+        Forget();
+        Confirm([&](CDialogRobot& dialog) {
+            FillIn(dialog, entries);
+            for (const ELine line : {kUpside, kDownside})
+            {
+                if (!switched && line == kDownside)
+                    break;
+                EditLine(dialog, line);
+                SelectSilently(dialog, 2869, 4);
+                SelectSilently(dialog, 2884, 1);
+                SelectSilently(dialog, 2883, 2);
+                for (const UINT box : {2879, 2874, 2877})
+                    dialog.Dialog()->SendDlgItemMessage(box, BM_SETCHECK, BST_CHECKED);
+                entries.lines[line] = {.mode = 4, .allDigits = 1, .color = 2, .hiddenDigits = 0x02, .points = 0x12};
+            }
+        });
         EXPECT_EQ(ReadResults(m_wizard), ScrDispResults(entries));
         EXPECT_EQ(Block(), BlockOf(entries));
     }
