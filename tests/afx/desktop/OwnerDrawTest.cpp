@@ -97,6 +97,25 @@ TEST_F(OwnerDraw, ComboBoxesMeasureBeforeTheDialogIsInitialized)
     EXPECT_EQ(GetWindowTextA(GetDlgItem(dialog, 7), text, sizeof text), 3);
 }
 
+TEST_F(OwnerDraw, ComboBoxesCanBeGivenTheHeightOfTheirParts)
+{
+    Open(TemplateBuilder(kDialog).Control(kComboBox, 7, "", CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0,
+                                          0, 60, 80));
+    // Wine makes the closed field two pixels higher than it is told to.
+    const auto height = [this] { return RectIn(dialog, 7).bottom - RectIn(dialog, 7).top; };
+    EXPECT_NE(Send(7, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), 20), CB_ERR);
+    const LRESULT field = Send(7, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1));
+    const LONG whole = height();
+    EXPECT_TRUE(field == 20 || field == 22) << field;
+    EXPECT_NE(Send(7, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), 25), CB_ERR);
+    EXPECT_EQ(Send(7, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)), field + 5);
+    EXPECT_EQ(height(), whole + 5);
+    EXPECT_NE(Send(7, CB_SETITEMHEIGHT, 0, 23), CB_ERR);
+    EXPECT_EQ(Send(7, CB_GETITEMHEIGHT, 0), 23);
+    EXPECT_EQ(Send(7, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)), field + 5);
+    EXPECT_EQ(height(), whole + 5);
+}
+
 TEST_F(OwnerDraw, ComboBoxesTellOfDeletedItems)
 {
     Open(TemplateBuilder(kDialog).Control(kComboBox, 7, "", CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0,

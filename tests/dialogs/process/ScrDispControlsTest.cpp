@@ -95,6 +95,22 @@ TEST_F(CScrDispControlsTest, ListTheirItems)
     });
 }
 
+// The list that is drawn by the dialog looks like the others, but for the two pixels by which Wine makes the field of
+// such a list higher than it is told to.
+TEST_F(CScrDispControlsTest, HaveListsOfOneHeight)
+{
+    Leave([](CDialogRobot& dialog) {
+        const auto height = [&](UINT list, int part) {
+            return static_cast<int>(
+                dialog.Dialog()->SendDlgItemMessage(list, CB_GETITEMHEIGHT, static_cast<WPARAM>(part)));
+        };
+        EXPECT_GT(height(2869, 0), 5);
+        EXPECT_EQ(height(2883, 0), height(2869, 0));
+        EXPECT_GE(height(2883, -1), height(2869, -1));
+        EXPECT_LE(height(2883, -1), height(2869, -1) + 2);
+    });
+}
+
 TEST_F(CScrDispControlsTest, HaveNoneOfTheSharedOnesThatDoNotBelongHere)
 {
     Leave([](CDialogRobot& dialog) {

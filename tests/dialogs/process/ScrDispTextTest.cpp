@@ -206,6 +206,24 @@ TEST_F(CScrDispTextTest, AreCutWhenTheyAreTooLong)
     EXPECT_EQ(Block(), (CScreenBlock{0, 0x2020, 0x2000, 0x7878, 0x7878, 0x0078, 0, 0, 0, 0}));
 }
 
+TEST_F(CScrDispTextTest, AreCutBehindAWholeCharacter)
+{
+    for (const auto& [codePage, character] : kDoubleByte)
+    {
+        UseCodePage(codePage);
+        if (::GetACP() != codePage)
+            continue; // the desktop stays with its own
+        Leave([&, text = character](CDialogRobot& dialog) {
+            dialog.Select(2869, 3);
+            for (const SCutText& row : kCutTexts)
+            {
+                SetTextByProgram(dialog, 2872, row.Entered(text));
+                EXPECT_EQ(dialog.Text(2872), CString(row.Kept(text).c_str())) << row.entered;
+            }
+        });
+    }
+}
+
 // Every keystroke changes the picture.
 TEST_F(CScrDispTextTest, AreShownWhileTheyAreTyped)
 {
