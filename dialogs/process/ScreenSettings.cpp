@@ -58,11 +58,12 @@ SScreenSettings SScreenSettings::FromBlock(const WORD* words)
         if (line.Get(kScreenColor) < kScreenGreen)
             line.Set(kScreenColor, kScreenGreen);
         char text[2 * kWordsOfText + 1] = {};
+        char* character = text;
         for (int word = 0; word < kWordsOfText; ++word)
         {
             const WORD pair = words[kTexts + index * kWordsOfText + word];
-            text[2 * word] = static_cast<char>(LOBYTE(pair));
-            text[2 * word + 1] = static_cast<char>(HIBYTE(pair));
+            *character++ = static_cast<char>(LOBYTE(pair));
+            *character++ = static_cast<char>(HIBYTE(pair));
         }
         line.text = LeftWhole(text, kScreenDigits);
     }
