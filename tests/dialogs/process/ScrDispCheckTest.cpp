@@ -48,53 +48,53 @@ TEST_F(CScrDispCheckTest, ShowsTheMessages)
 struct SNumber
 {
     int code;
+    bool isNumber;
     const char* text;
-    std::optional<int> number; // none: it is refused
-    bool isNumber = true;
+    std::optional<int> number = {}; // none: it is refused
 };
 
 const SNumber kNumbers[] = {
     // Words in decimal.
-    {kDT, "0", 0},
-    {kDT, "32764", 32764},
-    {kDT, "32763", 32763}, // above what the label of the control data shows
-    {kDT, "32762", 32762},
-    {kDT, "00077", 77},
-    {kDT, " 7 ", 7},
-    {kDT, "32765", {}},
-    {kDT, "99999999999", {}},
-    {kDT, "-1", {}},
-    {kDT, "", {}, false},
-    {kDT, "x", {}, false},
-    {kDT, "1.5", {}, false},
-    {kDT, "1A", {}, false},
-    {kDT, "1 2", {}, false},
-    {kWR, "255", 255},
-    {kWR, "256", {}},
-    {kSpecialDT, "90000", 90000},
-    {kSpecialDT, "89999", {}},
-    {kSpecialDT, "90511", 90511},
-    {kSpecialDT, "90512", {}},
+    {kDT, true, "0", 0},
+    {kDT, true, "32764", 32764},
+    {kDT, true, "32763", 32763}, // above what the label of the control data shows
+    {kDT, true, "32762", 32762},
+    {kDT, true, "00077", 77},
+    {kDT, true, " 7 ", 7},
+    {kDT, true, "32765"},
+    {kDT, true, "99999999999"},
+    {kDT, true, "-1"},
+    {kDT, false, ""},
+    {kDT, false, "x"},
+    {kDT, false, "1.5"},
+    {kDT, false, "1A"},
+    {kDT, false, "1 2"},
+    {kWR, true, "255", 255},
+    {kWR, true, "256"},
+    {kSpecialDT, true, "90000", 90000},
+    {kSpecialDT, true, "89999"},
+    {kSpecialDT, true, "90511", 90511},
+    {kSpecialDT, true, "90512"},
     // Bits as word and hexadecimal digit.
-    {kR, "0", 0},
-    {kR, "A", 10},
-    {kR, "10a", 170},
-    {kR, "255F", 4095},
-    {kR, "255D", 4093},
-    {kR, "2560", {}},
-    {kR, "1G", {}, false},
-    {kR, "", {}, false},
-    {kX, "109F", 1759},
-    {kX, "1100", {}},
-    {kSpecialR, "9000", 14400},
-    {kSpecialR, "899F", {}},
-    {kSpecialR, "9120", {}},
+    {kR, true, "0", 0},
+    {kR, true, "A", 10},
+    {kR, true, "10a", 170},
+    {kR, true, "255F", 4095},
+    {kR, true, "255D", 4093},
+    {kR, true, "2560"},
+    {kR, false, "1G"},
+    {kR, false, ""},
+    {kX, true, "109F", 1759},
+    {kX, true, "1100"},
+    {kSpecialR, true, "9000", 14400},
+    {kSpecialR, true, "899F"},
+    {kSpecialR, true, "9120"},
     // Contacts in decimal.
-    {kT, "1007", 1007},
-    {kT, "1008", {}},
-    {kT, "10A", {}, false},
-    {kC, "1008", 1008},
-    {kC, "1007", {}},
+    {kT, true, "1007", 1007},
+    {kT, true, "1008"},
+    {kT, false, "10A"},
+    {kC, true, "1008", 1008},
+    {kC, true, "1007"},
 };
 
 TEST_F(CScrDispCheckTest, ReadsNumbersInTheNotationOfTheirDevice)
@@ -119,7 +119,7 @@ TEST_F(CScrDispCheckTest, ReadsNumbersInTheNotationOfTheirDevice)
                 continue;
             SCOPED_TRACE(testing::Message() << "operand " << operand << ": " << row.code << ' ' << row.text);
             SScrDispEntries entries;
-            entries.devices[operand] = {row.code, row.text, *row.number};
+            entries.devices[operand] = {row.code, *row.number, row.text};
             ASSERT_EQ(Confirmed(entries), ScrDispResults(entries));
         }
 }
@@ -132,8 +132,8 @@ TEST_F(CScrDispCheckTest, AcceptsControlDataInTheWholeRange)
     {
         SScrDispEntries entries;
         for (SDeviceEntry& device : entries.devices)
-            device = {kDT, "15", 15};
-        entries.devices[0] = {kDT, text, number};
+            device = {kDT, 15, "15"};
+        entries.devices[0] = {kDT, number, text};
         EXPECT_EQ(Confirmed(entries), ScrDispResults(entries));
     }
     Leave([](CDialogRobot& dialog) {
@@ -147,7 +147,7 @@ TEST_F(CScrDispCheckTest, AcceptsControlDataInTheWholeRange)
     SetDeviceRange(m_wizard, kDT, 0, 1); // no room at all, by the label
     SScrDispEntries entries;
     for (SDeviceEntry& device : entries.devices)
-        device = {kDT, "1", 1};
+        device = {kDT, 1, "1"};
     EXPECT_EQ(Confirmed(entries), ScrDispResults(entries));
 }
 
@@ -190,7 +190,7 @@ TEST_F(CScrDispCheckTest, AcceptsOperandsThatOverlap)
 {
     SScrDispEntries entries;
     for (SDeviceEntry& device : entries.devices)
-        device = {kDT, "7", 7};
+        device = {kDT, 7, "7"};
     entries.lines[kUpside] = {.mode = 3, .text = "12345"};
     EXPECT_EQ(Confirmed(entries), ScrDispResults(entries));
 }

@@ -146,8 +146,8 @@ TEST_F(CScrDispRestoreTest, ConfirmAgainToTheSame)
     const auto below = [&](unsigned count) { return static_cast<unsigned>(random()) % count; };
     const int rounds = IsThorough() ? 150 : 8;
     const SDeviceEntry devices[] = {
-        {kDT, "0", 0},      {kDT, "32764", 32764},     {kR, "F", 15}, {kWR, "7", 7}, {kX, "10A", 170},
-        {kC, "1008", 1008}, {kSpecialR, "9013", 14419}};
+        {kDT, 0, "0"},      {kDT, 32764, "32764"},     {kR, 15, "F"}, {kWR, 7, "7"}, {kX, 170, "10A"},
+        {kC, 1008, "1008"}, {kSpecialR, 14419, "9013"}};
     const std::string texts[] = {"", "A", "no", "oFF", "Er 4", "HELLO", "     ", "a-b_c"};
     for (int round = 0; round < rounds && !HasFailure(); ++round)
     {

@@ -83,8 +83,8 @@ TEST_F(CScrDispResultsTest, HoldTheOperands)
     {
         SScrDispEntries entries;
         entries.screen = screen;
-        entries.devices = {SDeviceEntry{kWR, "5", 5}, SDeviceEntry{kR, "1F", 31},
-                           SDeviceEntry{kSpecialR, "9010", 14416}};
+        entries.devices = {SDeviceEntry{kWR, 5, "5"}, SDeviceEntry{kR, 31, "1F"},
+                           SDeviceEntry{kSpecialR, 14416, "9010"}};
         const SResults results = Confirmed(entries);
         EXPECT_EQ(results.operands, (std::vector<SOperandRow>{{11, screen}, {65, 5}, {1, 31}, {20001, 14416}}));
         EXPECT_EQ(results.data,
@@ -343,7 +343,7 @@ TEST_F(CScrDispResultsTest, LeadToTheLadder)
 {
     SScrDispEntries entries;
     entries.screen = 2;
-    entries.devices[1] = {kSpecialDT, "90100", 90100};
+    entries.devices[1] = {kSpecialDT, 90100, "90100"};
     entries.marks = 0x80;
     entries.lines[kUpside] = {.mode = 3, .allDigits = 1, .color = 1, .text = "abc"};
     entries.lines[kDownside] = {.hidden = true};

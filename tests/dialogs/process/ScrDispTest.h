@@ -30,8 +30,8 @@ struct SLineEntries
 struct SDeviceEntry
 {
     int code = kDT;
-    std::string text;
     int number = 0; // what the text says
+    std::string text = {};
 };
 
 constexpr size_t kScreenOperands = 3; // control data, upside, downside display data
@@ -50,8 +50,8 @@ enum ELine
 struct SScrDispEntries
 {
     int screen = 0;
-    std::array<SDeviceEntry, kScreenOperands> devices = {SDeviceEntry{kDT, "100", 100}, SDeviceEntry{kDT, "200", 200},
-                                                         SDeviceEntry{kDT, "300", 300}};
+    std::array<SDeviceEntry, kScreenOperands> devices = {SDeviceEntry{kDT, 100, "100"}, SDeviceEntry{kDT, 200, "200"},
+                                                         SDeviceEntry{kDT, 300, "300"}};
     unsigned marks = 0; // bit 0: the first one, 2860
     std::array<SLineEntries, 2> lines;
     bool comments = true;

@@ -73,8 +73,8 @@ TEST_F(CScrDispTextTest, GoToTheDisplayDataOfTheirLine)
         for (const ELine line : {kUpside, kDownside})
         {
             SScrDispEntries entries;
-            entries.devices[1] = {kWR, "20", 20};
-            entries.devices[2] = {kR, "3F", 63};
+            entries.devices[1] = {kWR, 20, "20"};
+            entries.devices[2] = {kR, 63, "3F"};
             entries.lines[line] = {.mode = 3, .text = row.text};
             const SResults results = Confirmed(entries);
             std::vector<SDataRow> expected = {{9, 100, 0, 1, 0},
@@ -90,7 +90,7 @@ TEST_F(CScrDispTextTest, GoToTheDisplayDataOfTheirLine)
 TEST_F(CScrDispTextTest, StandOneBehindTheOther)
 {
     SScrDispEntries entries;
-    entries.devices[1] = {kWL, "7", 7};
+    entries.devices[1] = {kWL, 7, "7"};
     entries.lines[kUpside] = {.mode = 3, .text = "HELLO"};
     entries.lines[kDownside] = {.mode = 3, .text = "you"};
     EXPECT_EQ(Confirmed(entries).data, (std::vector<SDataRow>{{9, 100, 0, 1, 0},

@@ -14,12 +14,12 @@ inline std::string SegmentText(BYTE segments)
 {
     struct SPlace
     {
-        BYTE segment;
         size_t place;
+        BYTE segment;
         char sign;
     };
-    constexpr SPlace kPlaces[] = {{0x01, 1, '_'}, {0x20, 3, '|'}, {0x40, 4, '_'}, {0x02, 5, '|'},
-                                  {0x10, 6, '|'}, {0x08, 7, '_'}, {0x04, 8, '|'}};
+    constexpr SPlace kPlaces[] = {{1, 0x01, '_'}, {3, 0x20, '|'}, {4, 0x40, '_'}, {5, 0x02, '|'},
+                                  {6, 0x10, '|'}, {7, 0x08, '_'}, {8, 0x04, '|'}};
     std::string text(9, ' ');
     for (const SPlace& place : kPlaces)
         if ((segments & place.segment) != 0)
