@@ -5,7 +5,15 @@
 
 #include <gtest/gtest.h>
 
-CGridView& GridOf(const CDialogRobot& dialog) { return dynamic_cast<CGridDlg&>(*dialog.Dialog()).Grid(); }
+#include <stdexcept>
+
+CGridView& GridOf(const CDialogRobot& dialog)
+{
+    auto* table = dynamic_cast<CGridDlg*>(dialog.Dialog());
+    if (table == nullptr)
+        throw std::logic_error("no dialog with a table is open");
+    return table->Grid();
+}
 
 void TypeHere(CDialogRobot& dialog, const std::string& text)
 {

@@ -10,7 +10,7 @@
 
 inline constexpr UINT kGridCells = IDC_GRID_CELLS;
 
-/// The table of the dialog that is being played.
+/// The table of the dialog that is being played. Without one it throws, which ends the scene.
 CGridView& GridOf(const CDialogRobot& dialog);
 inline const CGridModel& CellsOf(const CDialogRobot& dialog) { return GridOf(dialog).Model(); }
 inline UINT EditorOf(const CDialogRobot& dialog) { return GridOf(dialog).Controls().editor; }

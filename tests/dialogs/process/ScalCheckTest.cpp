@@ -198,7 +198,7 @@ TEST_P(CScalCheckTest, KeepsTheNumberOfPointsBetweenTwoAndWhatTheRegistersHold)
                    {"FL", 1000000, 1000000 - 65534 * width + 1}};
     Leave([&](CDialogRobot& dialog) {
         FillIn(dialog, {});
-        for (const auto& [device, last, start] : kStarts)
+        for (const auto& [device, last, start] : Sampled(kStarts, 4))
         {
             const int most = std::min(32767, (last - start) / (2 * width));
             SCOPED_TRACE(testing::Message() << device << start << ", " << most);
@@ -212,9 +212,9 @@ TEST_P(CScalCheckTest, KeepsTheNumberOfPointsBetweenTwoAndWhatTheRegistersHold)
                 dialog.Type(3371, std::to_string(n).c_str());
                 ExpectRefusal(dialog, 20042, 3371);
             }
-            for (const char* text : {"", " ", "x", "1.5", "2A", "--2", "+2"})
+            for (const std::string& text : Sampled(std::vector<std::string>{"", " ", "x", "1.5", "2A", "--2", "+2"}, 3))
             {
-                dialog.Type(3371, text);
+                dialog.Type(3371, text.c_str());
                 ExpectRefusal(dialog, 20001, 3371);
             }
             for (const int n : {2, most})
@@ -297,22 +297,22 @@ TEST_P(CScalCheckTest, KeepsCellsInTheRangeOfTheInstruction)
 
     Leave([&](CDialogRobot& dialog) {
         FillIn(dialog, {});
-        for (const int row : {0, 1, 2})
-            for (const int column : {0, 1})
-            {
-                const CString good = CellsOf(dialog).Text({row, column});
-                const auto expect = [&](const std::vector<std::string>& texts, UINT message) {
-                    for (const std::string& text : texts)
-                    {
-                        SCOPED_TRACE(testing::Message() << '"' << text << "\" in " << row << '/' << column);
-                        SetCell(dialog, row, column, text);
-                        ExpectCellRefusal(dialog, message, row, column);
-                    }
-                };
-                expect(kind.outside, column == 0 ? 20043 : 20044);
-                expect(kind.unreadable, 20001);
-                SetCell(dialog, row, column, static_cast<LPCSTR>(good));
-            }
+        for (const unsigned cell : SampledNumbers(0, 5, 5))
+        {
+            const int row = static_cast<int>(cell / 2), column = static_cast<int>(cell % 2);
+            const CString good = CellsOf(dialog).Text({row, column});
+            const auto expect = [&](const std::vector<std::string>& texts, UINT message) {
+                for (const std::string& text : texts)
+                {
+                    SCOPED_TRACE(testing::Message() << '"' << text << "\" in " << row << '/' << column);
+                    SetCell(dialog, row, column, text);
+                    ExpectCellRefusal(dialog, message, row, column);
+                }
+            };
+            expect(kind.outside, column == 0 ? 20043 : 20044);
+            expect(kind.unreadable, 20001);
+            SetCell(dialog, row, column, static_cast<LPCSTR>(good));
+        }
     });
 }
 
@@ -323,14 +323,14 @@ TEST_P(CScalCheckTest, SelectsTheBadCellScrollsItIntoViewAndOpensIt)
     const std::string outside = GetParam().outside.front();
     Leave([&](CDialogRobot& dialog) {
         FillIn(dialog, {.points = Points(kRows)});
-        for (const unsigned cell : SampledNumbers(0, 2 * kRows - 1, 5))
-            for (const int first : {0, 4, 7})
+        for (const unsigned cell : SampledNumbers(0, 2 * kRows - 1, 9))
+            for (const unsigned first : SampledNumbers(0, 7, 7))
                 for (const std::string& text : {std::string(), std::string("x"), outside})
                 {
                     const int row = static_cast<int>(cell / 2), column = static_cast<int>(cell % 2);
                     SCOPED_TRACE(testing::Message() << '"' << text << "\" in " << row << '/' << column);
                     const CString good = CellsOf(dialog).Text({row, column});
-                    Scroll(dialog, SB_THUMBPOSITION, first);
+                    Scroll(dialog, SB_THUMBPOSITION, static_cast<int>(first));
                     SetCell(dialog, row, column, text);
                     ExpectCellRefusal(dialog, text != outside ? 20001 : column == 0 ? 20043 : 20044, row, column);
                     SetTextByProgram(dialog, EditorOf(dialog), static_cast<LPCSTR>(good));
@@ -528,7 +528,7 @@ TEST_P(CScalCheckTest, PointsAtTheFirstBadEntry)
         };
         const auto good = [](int field) { return field < kFirstX ? kGood[field] : kGoodCells[field - kFirstX]; };
         const auto outside = [&](int field) { return field < kFirstX ? kOutside[field] : outsideCell; };
-        for (const unsigned pair : SampledNumbers(0, kWrongs * kWrongs - 1, 7))
+        for (const unsigned pair : SampledNumbers(0, kWrongs * kWrongs - 1, 11))
             for (const unsigned ways : {0u, 1u, 2u, 3u})
             {
                 const int first = static_cast<int>(pair / kWrongs), second = static_cast<int>(pair % kWrongs);

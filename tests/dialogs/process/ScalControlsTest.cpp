@@ -210,7 +210,7 @@ TEST_P(CScalControlsTest, ListsWhatTheHostPermits)
 {
     AddAllWords();
     for (const unsigned operand : {0u, 1u, 2u})
-        for (const unsigned bit : SampledNumbers(0, 32, 3))
+        for (const unsigned bit : SampledNumbers(0, 32, 8))
             for (const bool alone : {true, false})
             {
                 SCOPED_TRACE(testing::Message() << "mask " << operand << ", bit " << bit << " alone " << alone);

@@ -54,7 +54,7 @@ TEST_P(CScalResultsTest, StoresTheTableRegisterByRegister)
 TEST_P(CScalResultsTest, StoresEverySizeInEveryDevice)
 {
     AddAllWords();
-    for (const SWordDevice& device : Sampled(kWordDevices, 4))
+    for (const SWordDevice& device : Sampled(kWordDevices, 6))
         for (const int count : {2, 3, 11})
         {
             const SScalEntries entries = {.inputDevice = device.name,
@@ -133,7 +133,7 @@ TEST_P(CScalResultsTest, StoresTheContactAndItsDifferential)
         int number;
     } kContacts[] = {{kX, "0", 0},       {kY, "109F", kLastInput},         {kR, "10A", 170}, {kT, "1007", 1007},
                      {kC, "1008", 1008}, {kSpecialR, "9013", Bit(901, 3)}, {kL, "7F", 127}};
-    for (const auto& [device, text, number] : kContacts)
+    for (const auto& [device, text, number] : Sampled(kContacts, 3))
         for (const bool differential : {false, true})
         {
             const SScalEntries entries = {
@@ -304,7 +304,7 @@ std::vector<SInstructionRow> Ladder(const SScalKind& kind, const SScalEntries& e
 TEST_P(CScalResultsTest, LeadsToTheLadderOfItsPoints)
 {
     const SScalConstant& constant = GetParam().constants.back();
-    for (const int count : {2, 3, 32, 33, 34, 66, 67, 100})
+    for (const int count : Sampled(std::vector<int>{2, 3, 32, 33, 34, 66, 67, 100}, 4))
         for (const unsigned way : SampledNumbers(0, 7, 3))
         {
             SScalEntries entries = {.onlyDataTable = (way & 1) != 0, .differential = (way & 2) != 0};
