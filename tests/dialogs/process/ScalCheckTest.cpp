@@ -274,7 +274,7 @@ TEST_P(CScalCheckTest, TakesATableThatEndsAtTheHighestRegister)
         const int start = kLastRegister - 2 * count * GetParam().width;
         const SScalEntries entries = {.start = std::to_string(start), .points = Points(count)};
         EXPECT_EQ(Confirmed(entries), ScalResults(GetParam(), entries));
-        const SDataRow last = ReadResults(m_wizard).data.back();
+        const SDataRow last = ReadResults(m_wizard).data.at(2 * static_cast<size_t>(count));
         EXPECT_EQ(last.number + GetParam().width - 1, kLastRegister);
         Leave([&](CDialogRobot& dialog) {
             dialog.Type(3369, std::to_string(start + 1).c_str());

@@ -251,7 +251,7 @@ TEST_P(CScalRestoreTest, RestoresATableOfItsOwnDeviceAndFormatOnly)
     });
     WriteTable(2, {1, 2, 3, 4});
     SResults other = ReadResults(m_wizard);
-    other.operands[1] = {kWR, 100}; // the operand says one device, the records another
+    other.operands.at(1) = {kWR, 100}; // the operand says one device, the records another
     WriteResults(m_wizard, other);
     Leave([](CDialogRobot& dialog) { ExpectRestored(dialog, "", {{"", ""}}); });
     other.operands = {};

@@ -65,7 +65,7 @@ TEST_P(CScalResultsTest, StoresEverySizeInEveryDevice)
                                           .start = "303",
                                           .points = Points(count)};
             EXPECT_EQ(Confirmed(entries), ScalResults(GetParam(), entries)) << device.name;
-            EXPECT_EQ(ReadResults(m_wizard).operands[1], (SOperandRow{device.code, 303}));
+            EXPECT_EQ(ReadResults(m_wizard).operands.at(1), (SOperandRow{device.code, 303}));
             Confirm([](CDialogRobot&) {}); // and again, untouched
             EXPECT_EQ(ReadResults(m_wizard), ScalResults(GetParam(), entries)) << device.name;
             WriteResults(m_wizard, {});
@@ -105,7 +105,7 @@ TEST_P(CScalResultsTest, StoresConstantsOfTheInput)
          {"f", "-2.5E-3", {20, std::bit_cast<int>(-2.5e-3F)}}}};
     for (const auto& [device, text, operand] : kStored[GetParam().argument])
     {
-        EXPECT_EQ(Confirmed({.inputDevice = device, .input = text}).operands[0], operand) << device << text;
+        EXPECT_EQ(Confirmed({.inputDevice = device, .input = text}).operands.at(0), operand) << device << text;
         WriteResults(m_wizard, {});
     }
 }
@@ -116,10 +116,10 @@ TEST_P(CScalResultsTest, RoundsRealsOnceAndStoresTheirBits)
         return;
     const SResults results =
         Confirmed({.count = "2", .points = {{"-0.1", "7038531e-32"}, {" 1e-1 ", "3.402822e38"}, {"0.10000000", "x"}}});
-    EXPECT_EQ(results.data[1].value, static_cast<int>(0xBDCCCCCD));
-    EXPECT_EQ(results.data[2].value, 0x3DCCCCCD);
-    EXPECT_EQ(results.data[3].value, 0x15AE43FD);
-    EXPECT_EQ(results.data[4].value, 0x7F7FFFF8);
+    EXPECT_EQ(results.data.at(1).value, static_cast<int>(0xBDCCCCCD));
+    EXPECT_EQ(results.data.at(2).value, 0x3DCCCCCD);
+    EXPECT_EQ(results.data.at(3).value, 0x15AE43FD);
+    EXPECT_EQ(results.data.at(4).value, 0x7F7FFFF8);
 }
 
 // ---- Contacts -------------------------------------------------------------------------------------------------------

@@ -185,6 +185,23 @@ TEST_P(CScalRowsTest, CountsTheRowThatIsStillInTheEditorWhenOkIsPressed)
     EXPECT_EQ(ReadResults(m_wizard), ScalResults(GetParam(), entries));
 }
 
+// Without the focus leaving the editor first.
+TEST_P(CScalRowsTest, CountsThatRowWhenAProgramPressesOk)
+{
+    Confirm([](CDialogRobot& dialog) {
+        FillIn(dialog, {.points = {{"1", "2"}, {"3", "4"}}});
+        dialog.Focus(kGridCells);
+        PressCtrl(dialog, VK_END);
+        dialog.PressKey(VK_TAB);
+        TypeHere(dialog, "5");
+        const auto press = [&dialog] { dialog.Dialog()->SendMessage(WM_COMMAND, IDOK); };
+        EXPECT_EQ(dialog.Answering(IDOK, press), CString(MessageText(20001).c_str())); // its Y is missing
+        EXPECT_EQ(dialog.Text(kPoints), CString("3"));
+        TypeHere(dialog, "6");
+    });
+    EXPECT_EQ(ReadResults(m_wizard), ScalResults(GetParam(), {.points = {{"1", "2"}, {"3", "4"}, {"5", "6"}}}));
+}
+
 TEST_P(CScalRowsTest, CountsOnFromTheRowsThatAreRestored)
 {
     Confirmed({});
