@@ -66,11 +66,12 @@ TEST_P(CScalCheckTest, KeepsDevicesOfTheInputAndTheOutputInTheirRanges)
         UINT edit;
         UINT message;
     } kOperands[] = {{3362, 3363, 20040}, {3365, 3366, 20041}};
+    const char* const kUnreadable[] = {"", " ", "x", "1A", "1.5", "1e2", "+1", "--1", "1 2"};
     Leave([&](CDialogRobot& dialog) {
         FillInAllButTheLast(dialog);
         for (const auto& [list, edit, message] : kOperands)
         {
-            for (const SWordDevice& device : Sampled(kWordDevices, 4))
+            for (const SWordDevice& device : Sampled(kWordDevices, 6))
             {
                 const int low = LowestOf(device);
                 SCOPED_TRACE(testing::Message() << device.name << " in " << list);
@@ -87,7 +88,7 @@ TEST_P(CScalCheckTest, KeepsDevicesOfTheInputAndTheOutputInTheirRanges)
                     dialog.Type(edit, text.c_str());
                     ExpectRefusal(dialog, message, edit);
                 }
-                for (const char* text : {"", " ", "x", "1A", "1.5", "1e2", "+1", "--1", "1 2"})
+                for (const char* text : Sampled(kUnreadable, 4))
                 {
                     SCOPED_TRACE(text);
                     dialog.Type(edit, text);

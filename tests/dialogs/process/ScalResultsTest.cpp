@@ -128,12 +128,12 @@ TEST_P(CScalResultsTest, StoresTheContactAndItsDifferential)
 {
     const struct
     {
-        int device;
         const char* text;
+        int device;
         int number;
-    } kContacts[] = {{kX, "0", 0},       {kY, "109F", kLastInput},         {kR, "10A", 170}, {kT, "1007", 1007},
-                     {kC, "1008", 1008}, {kSpecialR, "9013", Bit(901, 3)}, {kL, "7F", 127}};
-    for (const auto& [device, text, number] : Sampled(kContacts, 3))
+    } kContacts[] = {{"0", kX, 0},       {"109F", kY, kLastInput},         {"10A", kR, 170}, {"1007", kT, 1007},
+                     {"1008", kC, 1008}, {"9013", kSpecialR, Bit(901, 3)}, {"7F", kL, 127}};
+    for (const auto& [text, device, number] : Sampled(kContacts, 3))
         for (const bool differential : {false, true})
         {
             const SScalEntries entries = {
