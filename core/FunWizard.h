@@ -76,12 +76,13 @@ public:
     /// Returns 1 on OK, else 2. F355 becomes the last wizard in either case.
     int DoOpenPIDDlg(int workArea, CWnd* parent);
 
-    /// Opens the screen display wizard. `permitted` points to the masks of permitted devices; null permits all.
-    /// Returns 1 on OK, else 2.
+    /// Opens the screen display wizard. `permitted` points to four masks of permitted devices, one for each operand:
+    /// the screen (not read), the control data, the upside and the downside display data; null permits all. Of a mask
+    /// the low 32 bits count, those of IsDevicePermitted. Returns 1 on OK, else 2.
     int DoOpenSCRDlg(ULONGLONG* permitted, CWnd* parent);
 
-    /// Opens the scaling wizard: `kind` 0 = F282, 1 = F283, any other = F354. `permitted` as in DoOpenSCRDlg.
-    /// Returns 1 on OK, else 2.
+    /// Opens the scaling wizard: `kind` 0 = F282, 1 = F283, any other = F354. `permitted` points to three such masks:
+    /// for the input X, the table and the output Y; null permits all. Returns 1 on OK, else 2.
     int DoOpenSCALDlg(ULONGLONG* permitted, int kind, CWnd* parent);
 
     // ---- The PLC ----------------------------------------------------------------------------------------------------

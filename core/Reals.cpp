@@ -54,23 +54,34 @@ SDigits ShortestDigits(float magnitude)
     return nearest.length == kMostDigits && ValueOf(shorter) == magnitude ? shorter : nearest;
 }
 
-// With an exponent where there would be many zeros.
-CString TextOf(const SDigits& parts)
+CString PlainText(const SDigits& parts)
 {
-    constexpr int kMostZerosAhead = 4;
     const CString digits = parts.digits;
     const int whole = parts.exponent + 1;
-    if (whole > kMostDigits || whole <= -kMostZerosAhead)
-    {
-        CString text;
-        text.Format("%s%s%se%s%d", static_cast<LPCSTR>(digits.Left(1)), parts.length > 1 ? "." : "",
-                    static_cast<LPCSTR>(digits.Mid(1)), parts.exponent < 0 ? "-" : "+", std::abs(parts.exponent));
-        return text;
-    }
     if (whole <= 0)
         return "0." + CString('0', -whole) + digits;
     return whole >= parts.length ? digits + CString('0', whole - parts.length)
                                  : digits.Left(whole) + "." + digits.Mid(whole);
+}
+
+CString ExponentText(const SDigits& parts)
+{
+    CString text;
+    text.Format("%c%s%se%s%d", parts.digits[0], parts.length > 1 ? "." : "", parts.digits + 1,
+                parts.exponent < 0 ? "-" : "+", std::abs(parts.exponent));
+    return text;
+}
+
+// With an exponent where there would be many zeros and it saves some.
+CString TextOf(const SDigits& parts)
+{
+    constexpr int kMostZerosAhead = 4;
+    const CString plain = PlainText(parts);
+    const int whole = parts.exponent + 1;
+    if (whole <= kMostDigits && whole > -kMostZerosAhead)
+        return plain;
+    const CString withExponent = ExponentText(parts);
+    return withExponent.GetLength() < plain.GetLength() ? withExponent : plain;
 }
 
 // Of a number above 0.

@@ -44,20 +44,19 @@ void CWzdResults::AddCommentFrom(const CWnd* label)
     AddComment(text);
 }
 
-void CWzdResults::SetCommentRecord(bool on)
-{
-    m_commentRecord = on;
-    m_setsCommentRecordFirst = m_contacts.empty();
-}
-
 bool CWzdResults::StoreIn(CFunWizard& wizard) const
 {
-    if (m_commentRecord && m_setsCommentRecordFirst)
-        wizard.SetCmtRec(*m_commentRecord);
+    SetCommentRecordIn(wizard, kBeforeTheLists);
     if (!StoreContacts(wizard) || !StoreOperands(wizard))
         return false;
     StoreDialogData(wizard);
     return StoreData(wizard) && StoreComments(wizard);
+}
+
+void CWzdResults::SetCommentRecordIn(CFunWizard& wizard, ECommentFlag when) const
+{
+    if (m_commentRecord && m_setsCommentRecord == when)
+        wizard.SetCmtRec(*m_commentRecord);
 }
 
 bool CWzdResults::StoreContacts(CFunWizard& wizard) const
@@ -102,8 +101,7 @@ bool CWzdResults::StoreData(CFunWizard& wizard) const
 
 bool CWzdResults::StoreComments(CFunWizard& wizard) const
 {
-    if (m_commentRecord)
-        wizard.SetCmtRec(*m_commentRecord);
+    SetCommentRecordIn(wizard, kBehindTheLists);
     if (!wizard.IsCmtRec())
         return true;
     wizard.RemoveAllCmtInfo();

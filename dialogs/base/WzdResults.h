@@ -47,9 +47,12 @@ public:
     void AddComment(const CString& text);
     /// The text of a control; nothing when there is no control.
     void AddCommentFrom(const CWnd* label);
-    /// Sets the wizard's comment flag when the results are stored: behind the lists or, when no contact has been added
-    /// yet, before them.
-    void SetCommentRecord(bool on);
+    /// Sets the wizard's comment flag when the results are stored, before the lists or behind them.
+    void SetCommentRecord(bool on, ECommentFlag when)
+    {
+        m_commentRecord = on;
+        m_setsCommentRecord = when;
+    }
 
     /// The block that keeps the inputs until the next opening, in the wizard's place for it.
     void SetDialogData(std::span<const WORD> words) { m_dialogData.assign(words.begin(), words.end()); }
@@ -75,6 +78,7 @@ private:
 
     [[nodiscard]] bool StoreContacts(CFunWizard& wizard) const;
     [[nodiscard]] bool StoreOperands(CFunWizard& wizard) const;
+    void SetCommentRecordIn(CFunWizard& wizard, ECommentFlag when) const;
     void StoreDialogData(CFunWizard& wizard) const;
     [[nodiscard]] bool StoreData(CFunWizard& wizard) const;
     [[nodiscard]] bool StoreComments(CFunWizard& wizard) const;
@@ -86,7 +90,7 @@ private:
     std::vector<CString> m_comments;
     std::vector<WORD> m_dialogData;
     std::optional<bool> m_commentRecord;
-    bool m_setsCommentRecordFirst = false;
+    ECommentFlag m_setsCommentRecord = kBehindTheLists;
     bool m_keepsContacts = false;
     SOperand m_tableStart = {0, kDeviceDT};
     std::optional<size_t> m_codeRecord;

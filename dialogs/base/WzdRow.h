@@ -48,9 +48,9 @@ struct SWzdBits
     int shift;
     int width;
 
-    DWORD Mask() const { return ((width < 32 ? 1u << width : 0u) - 1u) << shift; }
-    DWORD Extract(DWORD word) const { return (word & Mask()) >> shift; }
-    DWORD Place(DWORD code) const { return code << shift & Mask(); }
+    constexpr DWORD Mask() const { return ((width < 32 ? 1u << width : 0u) - 1u) << shift; }
+    constexpr DWORD Extract(DWORD word) const { return (word & Mask()) >> shift; }
+    constexpr DWORD Place(DWORD code) const { return code << shift & Mask(); }
 };
 
 /// A control code of one register that is a single field.
@@ -91,6 +91,13 @@ enum EWithoutInstruction
     kStillChecked,
     kLeftOut,  ///< disabled and not checked: no contact is stored, and an operand that is none
     kBestKnown ///< a contact, stored unchecked: the entry when it can be used, else the lowest number of the device
+};
+
+/// When the wizard's comment flag is set: the lists may not all be written for want of memory.
+enum ECommentFlag
+{
+    kBeforeTheLists,
+    kBehindTheLists
 };
 
 /// The devices that a list offers, of those that the PLC has.

@@ -10,7 +10,7 @@ namespace
 class CCommentsField : public CWzdField
 {
 public:
-    using CWzdField::CWzdField;
+    CCommentsField(CWzdDlgBase& dialog, const SWzdRow& row, ECommentFlag when) : CWzdField(dialog, row), m_when(when) {}
 
     bool Open() override
     {
@@ -20,9 +20,12 @@ public:
 
     bool Collect(CWzdResults& results) override
     {
-        results.SetCommentRecord(m_dialog.IsChecked(IDC_REGISTER_COMMENTS));
+        results.SetCommentRecord(m_dialog.IsChecked(IDC_REGISTER_COMMENTS), m_when);
         return true;
     }
+
+private:
+    ECommentFlag m_when;
 };
 
 class CCommentField : public CWzdField
@@ -39,6 +42,6 @@ public:
 
 } // namespace
 
-void WDX_RegisterComments(CWzdExchange* wx) { WzdDeclare<CCommentsField>(wx, {}); }
+void WDX_RegisterComments(CWzdExchange* wx, ECommentFlag when) { WzdDeclare<CCommentsField>(wx, {}, when); }
 
 void WDX_Comment(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CCommentField>(wx, row); }

@@ -111,6 +111,19 @@ class CDeviceOperandField : public CDeviceField
 public:
     using CDeviceField::CDeviceField;
 
+    // The number of a device that is not listed is none of the one that is selected instead.
+    bool Open() override
+    {
+        short stored, kind, selected;
+        int number;
+        if (!CDeviceField::Open())
+            return false;
+        if (Restore(stored, number) && m_dialog.GetSelectedDevice(static_cast<int>(m_row.combo), kind, selected) &&
+            selected != stored)
+            m_dialog.SetItemText(m_row.edit, "");
+        return true;
+    }
+
     bool Collect(CWzdResults& results) override
     {
         if (!CDeviceField::Collect(results))
@@ -148,43 +161,6 @@ protected:
     }
 };
 
-class CFixedContactField : public CWzdField
-{
-public:
-    CFixedContactField(CWzdDlgBase& dialog, const SWzdRow& row, short code, int number)
-        : CWzdField(dialog, row), m_code(code), m_number(number)
-    {
-    }
-
-    bool Collect(CWzdResults& results) override
-    {
-        results.KeepContacts();
-        results.AddContact(kInstContact, m_code, m_number);
-        return true;
-    }
-
-private:
-    short m_code;
-    int m_number;
-};
-
-class CConstantOperandField : public CWzdField
-{
-public:
-    CConstantOperandField(CWzdDlgBase& dialog, const SWzdRow& row, int value) : CWzdField(dialog, row), m_value(value)
-    {
-    }
-
-    bool Collect(CWzdResults& results) override
-    {
-        results.SetOperand(m_row.position, kDeviceK, m_value);
-        return true;
-    }
-
-private:
-    int m_value;
-};
-
 } // namespace
 
 void WDX_Contact(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CContactField>(wx, row); }
@@ -196,20 +172,10 @@ void WDX_Contact(CWzdExchange* wx, UINT message)
     WDX_Contact(wx, row);
 }
 
-void WDX_FixedContact(CWzdExchange* wx, short code, int number)
-{
-    WzdDeclare<CFixedContactField>(wx, {}, code, number);
-}
-
 void WDX_DeviceOperand(CWzdExchange* wx, const SWzdRow& row) { WzdDeclare<CDeviceOperandField>(wx, row); }
 
 void WDX_DeviceTable(CWzdExchange* wx, const SWzdRow& row)
 {
     wx->SetTableStart({row.edit, row.format, row.position, true});
     WzdDeclare<CDeviceTableField>(wx, row);
-}
-
-void WDX_ConstantOperand(CWzdExchange* wx, int position, int value)
-{
-    WzdDeclare<CConstantOperandField>(wx, {.position = position}, value);
 }

@@ -31,7 +31,7 @@ void WDX_Label(CWzdExchange* wx, UINT label, UINT text, std::initializer_list<CG
 void WDX_Comment(CWzdExchange* wx, const SWzdRow& row);
 
 /// The check box "I/O comment is registered automatically.".
-void WDX_RegisterComments(CWzdExchange* wx);
+void WDX_RegisterComments(CWzdExchange* wx, ECommentFlag when);
 
 // ---- Devices --------------------------------------------------------------------------------------------------------
 

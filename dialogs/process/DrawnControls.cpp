@@ -1,5 +1,6 @@
 #include "dialogs/process/DrawnControls.h"
 
+#include "dialogs/process/Fill.h"
 #include "dialogs/process/MarkShape.h"
 #include "dialogs/process/ScreenDrawing.h"
 
@@ -8,10 +9,7 @@ namespace
 
 CRect Smaller(CRect rect, int by)
 {
-    rect.left += by;
-    rect.top += by;
-    rect.right -= by;
-    rect.bottom -= by;
+    rect.DeflateRect(by, by);
     return rect;
 }
 
@@ -34,13 +32,10 @@ void DrawMarkButton(const DRAWITEMSTRUCT& item, int mark, bool shown)
     dc.FillSolidRect(Smaller(button, kEdge), ::GetSysColor(COLOR_BTNFACE));
     const CRect glass = Smaller(button, kFace);
     dc.FillSolidRect(glass, kScreenBackground);
-    CBrush brush;
-    brush.CreateSolidBrush(shown ? kScreenMark : kScreenDark);
-    CBrush* const previousBrush = dc.SelectObject(&brush);
-    CGdiObject* const previousPen = dc.SelectStockObject(NULL_PEN);
-    DrawMark(dc, mark, Smaller(glass, kMargin));
-    dc.SelectObject(previousPen);
-    dc.SelectObject(previousBrush);
+    {
+        const CFill fill(dc, shown ? kScreenMark : kScreenDark);
+        DrawMark(dc, mark, Smaller(glass, kMargin));
+    }
     if ((item.itemState & ODS_FOCUS) != 0)
         dc.DrawFocusRect(Smaller(button, kEdge));
 }

@@ -50,7 +50,7 @@ void CPidDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_Number(wx, {.edit = IDC_PID_TS,    .entry = {9}, .format = Fixed(2, 2), .limit = 4, .range = {1, 6000},
                     .message = IDS_ERR_CONTROL_CYCLE, .check = IDC_PID_TS_USED, .used = true});
 
-    WDX_RegisterComments(wx);
+    WDX_RegisterComments(wx, kBehindTheLists);
 }
 // clang-format on
 

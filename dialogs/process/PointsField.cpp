@@ -81,15 +81,15 @@ protected:
     }
 
 private:
-    // A number that is not entered, or that was the number of rows, is theirs. Another one grows with them, so that no
-    // row that is entered behind it is left out.
+    // An empty number, or one equal to the number of rows, follows the rows. A larger one stays until they pass it, and
+    // a smaller one is the user's own choice. No table has a single row.
     void Count(int before, int now) const
     {
         const CString text = m_dialog.ItemText(m_count.edit);
         LONGLONG entered = 0;
-        const bool theirs = Trimmed(text).IsEmpty() || (kUnsigned.Parse(text, entered) && entered == before);
-        if (theirs || (entered > 0 && now > before && now > entered))
-            m_dialog.SetItemText(m_count.edit, FormatDecimal64(now));
+        const bool follows = Trimmed(text).IsEmpty() || (kUnsigned.Parse(text, entered) && entered == before);
+        if (follows || (entered > before && now > entered))
+            m_dialog.SetItemText(m_count.edit, now > 1 ? FormatDecimal64(now) : CString());
     }
 
     bool CheckOrder(const std::vector<LONGLONG>& x)

@@ -49,7 +49,7 @@ int CScrDispDlg::HelpTopic() const { return HELP_TOPIC_SCREEN; }
 
 void CScrDispDlg::DoFieldExchange(CWzdExchange* wx)
 {
-    WDX_RegisterComments(wx);
+    WDX_RegisterComments(wx, kBeforeTheLists);
     WDX_FixedContact(wx, kDeviceSpecialR, kFirstScanRelay);
     WDX_ConstantChoice(wx, {.combo = IDC_SCREEN, .choices = kScreens, .position = 0});
     for (const SScreenDevice& device : kDevices)

@@ -1,5 +1,6 @@
 #include "dialogs/process/ScreenDrawing.h"
 
+#include "dialogs/process/Fill.h"
 #include "dialogs/process/MarkShape.h"
 
 #include <algorithm>
@@ -10,10 +11,7 @@ CScreenLayout::CScreenLayout(const CRect& place, int nameHeight)
 {
     const int gap = std::max<int>(place.Height() / 24, 2);
     CRect inner = place;
-    inner.left += gap;
-    inner.top += gap;
-    inner.right -= gap;
-    inner.bottom -= gap;
+    inner.DeflateRect(gap, gap);
     m_name = inner;
     m_name.bottom = m_name.top + (nameHeight * 4 <= inner.Height() ? nameHeight : 0);
     m_marks = inner;
@@ -111,26 +109,6 @@ COLORREF ScreenColor(DWORD color)
 namespace
 {
 
-/// Selects a brush for as long as it lives.
-class CFill
-{
-public:
-    CFill(CDC& dc, COLORREF color) : m_dc(dc)
-    {
-        m_brush.CreateSolidBrush(color);
-        m_previous = dc.SelectObject(&m_brush);
-    }
-    ~CFill() { m_dc.SelectObject(m_previous); }
-
-    CFill(const CFill&) = delete;
-    CFill& operator=(const CFill&) = delete;
-
-private:
-    CDC& m_dc;
-    CBrush m_brush;
-    CBrush* m_previous;
-};
-
 /// What is lit of a screen, or what is not.
 class CScreenPainter
 {
@@ -156,16 +134,16 @@ public:
 private:
     void DrawDigit(int line, int position, const SScreenDigit& digit)
     {
-        const int number = kScreenDigits - position;
+        const int number = DigitAt(position);
         for (int segment = 0; segment < kSegments; ++segment)
             if (((digit.segments & 1 << segment) != 0) == m_lit)
             {
                 const auto corners = m_layout.Segment(line, position, segment);
                 m_dc.Polygon(corners.data(), static_cast<int>(corners.size()));
             }
-        if (number > 1 && digit.point == m_lit)
+        if (SScreenLine::HasPoint(number) && digit.point == m_lit)
             m_dc.Ellipse(m_layout.Point(line, position));
-        if (number == 3 && digit.upperPoint == m_lit)
+        if (SScreenLine::HasUpperPoint(number) && digit.upperPoint == m_lit)
             m_dc.Ellipse(m_layout.UpperPoint(line, position));
     }
 
@@ -186,7 +164,6 @@ void DrawScreen(CDC& dc, const CRect& place, const SScreenSettings& settings, co
     dc.SetTextColor(RGB(200, 204, 212));
     CRect nameRect = layout.Name();
     dc.DrawText(name, nameRect, DT_SINGLELINE | DT_CENTER | DT_NOPREFIX);
-    CGdiObject* const pen = dc.SelectStockObject(NULL_PEN);
     for (const bool lit : {false, true})
     {
         CScreenPainter painter(dc, layout, lit);
@@ -194,5 +171,4 @@ void DrawScreen(CDC& dc, const CRect& place, const SScreenSettings& settings, co
         for (int line = 0; line < kScreenLines; ++line)
             painter.DrawLine(line, settings.lines[static_cast<size_t>(line)]);
     }
-    dc.SelectObject(pen);
 }

@@ -58,7 +58,8 @@ public:
         // The list that is drawn is as high as the others.
         auto* colors = static_cast<CComboBox*>(m_dialog.GetDlgItem(IDC_SCREEN_COLOR));
         const auto* modes = static_cast<CComboBox*>(m_dialog.GetDlgItem(IDC_SCREEN_MODE));
-        for (const int part : {-1, 0})
+        constexpr int kClosedField = -1, kItems = 0;
+        for (const int part : {kClosedField, kItems})
             colors->SetItemHeight(part, static_cast<UINT>(modes->GetItemHeight(part)));
         m_dialog.LimitText(IDC_SCREEN_TEXT, kScreenDigits);
         m_dialog.Check(IDC_SCREEN_UPSIDE_LINE, true);
@@ -83,11 +84,15 @@ public:
     void Refresh() override
     {
         const SScreenLine& line = Line();
-        for (CWnd* item = m_dialog.ControlAfter(IDC_SCREEN_NONDISPLAY);
-             item != nullptr && item->GetDlgCtrlID() != IDC_REGISTER_COMMENTS; item = item->GetWindow(GW_HWNDNEXT))
-            item->EnableWindow(!line.hidden);
-        for (const UINT id : {IDC_SCREEN_TEXT_LABEL, IDC_SCREEN_TEXT})
-            m_dialog.Enable(id, !line.hidden && line.IsText());
+        for (CWnd* item = m_dialog.ControlAfter(IDC_SCREEN_NONDISPLAY); item != nullptr;
+             item = item->GetWindow(GW_HWNDNEXT))
+        {
+            const auto id = static_cast<UINT>(item->GetDlgCtrlID());
+            if (id == IDC_REGISTER_COMMENTS)
+                break;
+            const bool isOfText = id == IDC_SCREEN_TEXT_LABEL || id == IDC_SCREEN_TEXT;
+            item->EnableWindow(!line.hidden && (!isOfText || line.IsText()));
+        }
         if (CWnd* preview = m_dialog.GetDlgItem(IDC_SCREEN_PREVIEW))
             preview->Invalidate(FALSE);
     }
@@ -166,11 +171,12 @@ private:
         StoreText(line);
     }
 
-    // The limit of an edit counts characters; that of a line, bytes.
+    // The limit of an edit counts characters; that of a line, bytes. What is appended is cut; else there is no room.
     void StoreText(SScreenLine& line)
     {
         const CString entered = m_dialog.ItemText(IDC_SCREEN_TEXT);
-        line.text = LeftWhole(entered, kScreenDigits);
+        if (entered.Left(line.text.GetLength()) == line.text || entered.GetLength() <= kScreenDigits)
+            line.text = LeftWhole(entered, kScreenDigits);
         if (line.text == entered)
             return;
         auto* edit = static_cast<CEdit*>(m_dialog.GetDlgItem(IDC_SCREEN_TEXT));

@@ -3,44 +3,31 @@
 namespace
 {
 
-/// A value that stands for any of its mode, in as many places as the mode has. Where leading zeros can be left out it
-/// begins with one.
-struct SSample
+/// A value of each mode but texts and segments, with leading zeros in as many places as the mode has.
+constexpr const char* kSamples[] = {"00123", "02AF", "00101"};
+
+// Segments that make up no characters.
+constexpr std::array<BYTE, kScreenDigits> kSegmentSample = {0x11, 0x24, 0x42, 0x14, 0x21};
+
+/// The leftmost digit with a decimal point, or the last one: zeros from there on belong to the number.
+int FirstDigitOfNumber(const SScreenLine& line)
 {
-    const char* text;
-    int places;
-    bool hasZeros;
-};
-
-constexpr SSample kSamples[] = {{"00123", 5, true}, {"02AF", 4, true}, {"00101", 5, true}};
-
-// Lit at random, as segments are that stand for no character.
-constexpr std::array<BYTE, kScreenDigits> kSegmentSample = {0x01, 0x03, 0x07, 0x0F, 0x5C};
-
-/// The digit at a position from the left, counted from the right and from 1.
-int DigitNumber(int position) { return kScreenDigits - position; }
-
-/// The leftmost digit with a decimal point: zeros from there on belong to the number.
-int HighestPoint(DWORD points)
-{
-    constexpr int kFirstWithPoint = 2;
-    for (int digit = kScreenDigits; digit >= kFirstWithPoint; --digit)
-        if ((points & 1u << (digit - kFirstWithPoint)) != 0)
-            return digit;
-    return 1;
+    int digit = kScreenDigits;
+    while (digit > 1 && !line.IsPointShown(digit))
+        --digit;
+    return digit;
 }
 
-// From the left, blanks for what is dark.
+// From the left; behind its end the digits are dark.
 CString TextOf(const SScreenLine& line)
 {
     if (line.IsText())
         return line.text;
-    const SSample& sample = kSamples[line.Get(kScreenMode)];
-    CString text = CString(' ', kScreenDigits - sample.places) + sample.text;
-    const int last = kScreenDigits - HighestPoint(line.Get(kScreenPoints));
+    const CString sample = kSamples[line.Get(kScreenMode)];
+    CString text = CString(' ', kScreenDigits - sample.GetLength()) + sample;
+    const int end = kScreenDigits - FirstDigitOfNumber(line);
     const bool suppressed = line.Get(kScreenAllDigits) == 0;
-    for (int position = 0; suppressed && position < last && (text[position] == '0' || text[position] == ' ');
-         ++position)
+    for (int position = 0; suppressed && position < end && (text[position] == ' ' || text[position] == '0'); ++position)
         text.SetAt(position, ' ');
     return text;
 }
@@ -54,17 +41,18 @@ SScreenImage ScreenImage(const SScreenLine& line)
         return image;
     const bool isRaw = line.Get(kScreenMode) == kScreenSegments;
     const CString text = isRaw ? CString() : TextOf(line);
-    const DWORD points = line.Get(kScreenPoints);
     for (int position = 0; position < kScreenDigits; ++position)
     {
-        SScreenDigit& digit = image[static_cast<size_t>(position)];
-        const int number = DigitNumber(position);
-        if ((line.Get(kScreenHidden) & 1u << (number - 1)) == 0)
-            digit.segments = isRaw                         ? kSegmentSample[static_cast<size_t>(position)]
-                             : position < text.GetLength() ? SegmentsOf(text[position])
-                                                           : BYTE{0};
-        digit.point = number > 1 && (points & 1u << (number - 2)) != 0;
-        digit.upperPoint = number == 3 && (points & 1u << 4) != 0;
+        const auto index = static_cast<size_t>(position);
+        const int digit = DigitAt(position);
+        if (isRaw)
+            image[index].segments = kSegmentSample[index];
+        else if (position < text.GetLength())
+            image[index].segments = SegmentsOf(text[position]);
+        if (line.IsDigitHidden(digit))
+            image[index].segments = 0;
+        image[index].point = line.IsPointShown(digit);
+        image[index].upperPoint = line.IsUpperPointShown(digit);
     }
     return image;
 }

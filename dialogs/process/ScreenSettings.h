@@ -43,12 +43,19 @@ constexpr SWzdBits kScreenAllDigits = {15, 1}; ///< else leading zeros are suppr
 struct SScreenLine
 {
     bool hidden = false;
-    WORD control = kScreenGreen << 13;
+    WORD control = static_cast<WORD>(kScreenColor.Place(kScreenGreen));
     CString text; ///< at most kScreenDigits bytes
 
     DWORD Get(SWzdBits field) const { return field.Extract(control); }
     void Set(SWzdBits field, DWORD code) { control = static_cast<WORD>((control & ~field.Mask()) | field.Place(code)); }
     bool IsText() const { return Get(kScreenMode) == kScreenText; }
+
+    // Digits count from 1.
+    bool IsDigitHidden(int digit) const { return (Get(kScreenHidden) >> (digit - 1) & 1) != 0; }
+    bool IsPointShown(int digit) const { return HasPoint(digit) && (Get(kScreenPoints) >> (digit - 2) & 1) != 0; }
+    bool IsUpperPointShown(int digit) const { return HasUpperPoint(digit) && (Get(kScreenPoints) >> 4) != 0; }
+    static bool HasPoint(int digit) { return digit > 1; }
+    static bool HasUpperPoint(int digit) { return digit == 3; }
 
     /// How many registers the text takes, and what they hold: two characters each, the first in the low byte.
     int TextWords() const { return (text.GetLength() + 1) / 2; }
