@@ -58,11 +58,8 @@ bool CWzdDlgBase::IsPossible()
     return ForEachField(kActiveFields, [](CWzdField& field) { return field.IsPossible(); });
 }
 
-// Enter leaves no edit: what follows the one with the focus has not been told yet.
 bool CWzdDlgBase::Confirm()
 {
-    if (m_state == kOpen)
-        RefreshFields();
     CWzdResults results;
     if (!ForEachField(kActiveFields, [&results](CWzdField& field) { return field.Collect(results); }))
         return false;

@@ -55,8 +55,10 @@ void CGridView::OnEditorLeft()
         TellRows();
 }
 
+// Enter has left no edit: what follows the one with the focus, the rows of the table perhaps, is not told before.
 bool CGridView::Refuse(SGridCell cell, UINT message)
 {
+    SetFocus();
     m_model.GoTo(cell);
     EditCell();
     return m_dialog.Refuse(m_controls.editor, message);

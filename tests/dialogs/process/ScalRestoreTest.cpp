@@ -175,9 +175,8 @@ TEST_P(CScalRestoreTest, FallsBackToTheRegistersWhenADeviceIsNoLongerListed)
     Leave([](CDialogRobot& dialog) {
         for (const UINT list : {3362u, 3365u, 3368u})
             EXPECT_EQ(dialog.Text(list), CString("DT")) << list;
-        EXPECT_EQ(dialog.Text(3363), CString("1"));
-        EXPECT_EQ(dialog.Text(3366), CString("2"));
-        EXPECT_EQ(dialog.Text(3369), CString("3"));
+        for (const UINT edit : {3363u, 3366u, 3369u}) // the numbers were of another device
+            EXPECT_EQ(dialog.Text(edit), CString()) << edit;
     });
 }
 

