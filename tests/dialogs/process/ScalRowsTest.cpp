@@ -327,3 +327,56 @@ TEST_P(CScalRowsTest, WorksByKeysMenuAndClipboardAsOtherTables)
         EXPECT_EQ(CellsOf(dialog).FirstVisible(), 0); // all in view
     });
 }
+
+// ---- Refused cells --------------------------------------------------------------------------------------------------
+
+namespace
+{
+
+/// Enter, which leaves no edit: whatever follows the one with the focus has not been told yet.
+void ExpectRefusedByEnter(CDialogRobot& dialog, int row)
+{
+    dialog.Answering(IDOK, [&] { dialog.PressKey(VK_RETURN); });
+    ASSERT_TRUE(dialog.IsOpen());
+    EXPECT_EQ(CellsOf(dialog).Current(), (SGridCell{row, 0}));
+    EXPECT_TRUE(dialog.Visible(3381));
+    EXPECT_EQ(dialog.FocusId(), 3381u);
+    EXPECT_EQ(dialog.Text(3381), CString());
+    CRect cells, editor;
+    dialog.Dialog()->GetDlgItem(kGridCells)->GetWindowRect(cells);
+    dialog.Dialog()->GetDlgItem(3381)->GetWindowRect(editor);
+    const int line = row - CellsOf(dialog).FirstVisible();
+    EXPECT_EQ((editor.top - cells.top + 2) * CGridModel::kVisibleRows / cells.Height(), line);
+}
+
+} // namespace
+
+TEST_P(CScalRowsTest, OpensARefusedCellWhereTheNumberJustTypedHasMovedIt)
+{
+    InTable(3, "100", [](CDialogRobot& dialog) {
+        dialog.Check(2061);
+        dialog.Focus(kGridCells);
+        for (int i = 0; i < 3; ++i)
+            dialog.PressKey(VK_NEXT);
+        dialog.Focus(kPoints);
+        dialog.Type(kPoints, "4");
+        ExpectRefusedByEnter(dialog, 3);
+    });
+}
+
+TEST_P(CScalRowsTest, OpensARefusedCellThatTheStartJustTypedMakesRoomFor)
+{
+    Leave([this](CDialogRobot& dialog) {
+        dialog.Check(2061);
+        dialog.Type(3369, std::to_string(kLastRegister - 6 * GetParam().width).c_str());
+        dialog.Focus(kGridCells);
+        dialog.Paste(AsText(Points(3)).c_str());
+        dialog.Focus(kPoints);
+        dialog.Type(kPoints, "10");
+        dialog.Focus(3369);
+        dialog.Type(3369, "1");
+        ExpectRefusedByEnter(dialog, 3);
+        dialog.Focus(kGridCells);
+        EXPECT_EQ(TextsOf(CellsOf(dialog)).size(), 3u) << "nothing is lost";
+    });
+}

@@ -217,6 +217,7 @@ TEST_F(CScrDispTextTest, AreCutBehindAWholeCharacter)
             dialog.Select(2869, 3);
             for (const SCutText& row : kCutTexts)
             {
+                SetTextByProgram(dialog, 2872, "");
                 SetTextByProgram(dialog, 2872, row.Entered(text));
                 EXPECT_EQ(dialog.Text(2872), CString(row.Kept(text).c_str())) << row.entered;
             }
@@ -260,6 +261,30 @@ TEST_F(CScrDispTextTest, AreEditedInTheMiddle)
         EXPECT_EQ(dialog.Text(2872), CString("ABCD"));
         EXPECT_EQ(dialog.SelectedRange(2872), (std::pair{3, 3}));
     });
+}
+
+// What is typed before other characters finds no room, and pushes none of them out.
+TEST_F(CScrDispTextTest, KeepTheirEnd)
+{
+    for (const auto& [codePage, character] : kDoubleByte)
+    {
+        UseCodePage(codePage);
+        if (::GetACP() != codePage)
+            continue; // the desktop stays with its own
+        Leave([&, text = std::string(character)](CDialogRobot& dialog) {
+            dialog.Select(2869, 3);
+            SetTextByProgram(dialog, 2872, "abcd");
+            for (const std::string& entered : {text + "abcd", "ab" + text + "cd", "abc" + text + "d"})
+            {
+                SetTextByProgram(dialog, 2872, entered);
+                EXPECT_EQ(dialog.Text(2872), CString("abcd")) << entered;
+            }
+            SetTextByProgram(dialog, 2872, "abcd" + text);
+            EXPECT_EQ(dialog.Text(2872), CString("abcd"));
+            SetTextByProgram(dialog, 2872, "abc" + text);
+            EXPECT_EQ(dialog.Text(2872), CString(("abc" + text).c_str()));
+        });
+    }
 }
 
 } // namespace
