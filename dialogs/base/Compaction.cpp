@@ -21,15 +21,15 @@ void HideControls(CWnd* first, int count)
         control->ShowWindow(SW_HIDE);
 }
 
-void ShowControls(CWnd* first, UINT last, bool shown)
+void ShowControls(CWnd* first, const CWnd* last, bool shown)
 {
-    if (first == nullptr || first->GetParent()->GetDlgItem(static_cast<int>(last)) == nullptr)
+    if (last == nullptr)
         return;
     for (CWnd* control = first; control != nullptr; control = control->GetWindow(GW_HWNDNEXT))
     {
         control->ShowWindow(shown ? SW_SHOW : SW_HIDE);
         control->EnableWindow(shown);
-        if (control->GetDlgCtrlID() == static_cast<int>(last))
+        if (control->m_hWnd == last->m_hWnd)
             break;
     }
 }

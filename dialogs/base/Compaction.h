@@ -15,7 +15,7 @@ CWnd* Neighbour(CWnd* control, UINT direction, int steps);
 void HideControls(CWnd* first, int count);
 
 /// Shows and enables, or hides and disables, the controls up to and including `last` in tab order.
-void ShowControls(CWnd* first, UINT last, bool shown);
+void ShowControls(CWnd* first, const CWnd* last, bool shown);
 
 /// Moves controls up by `height` pixels, up to and including `last` in tab order, and makes their dialog as much
 /// shorter.

@@ -1,6 +1,11 @@
 #include "dialogs/base/DialogTable.h"
 
 #include "core/Memory.h"
+#include "dialogs/channel/F177Dlg.h"
+#include "dialogs/channel/PlshChDlg.h"
+#include "dialogs/channel/PwmhChDlg.h"
+#include "dialogs/channel/PwmhFrequencyDlg.h"
+#include "dialogs/channel/SpdhChDlg.h"
 #include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/posunit/HomeReturnDlg.h"
 #include "dialogs/posunit/JogDlg.h"
@@ -47,6 +52,19 @@ constexpr SDialogRow kDialogs[] = {
     {IDD_SP0H, kAnyVariant, Make<CSp0hDlg>},
     {IDD_SPSH, kAnyVariant, Make<CSpshDlg>},
     {IDD_SPCH, kAnyVariant, Make<CSpchDlg>},
+    {IDD_B_SPDH_TRAPEZOIDAL, kAnyVariant, Make<CSpdhChDlg, false>},
+    {IDD_B_SPDH_HOME, kAnyVariant, Make<CSpdhChDlg, true>},
+    {IDD_B_PLSH, kAnyVariant, Make<CPlshChDlg>},
+    {IDD_B_PWMH, kAnyVariant, Make<CPwmhChDlg>},
+    {IDD_B_SP0H, kAnyVariant, Make<CSp0hDlg, IDD_B_SP0H>},
+    {IDD_B_SPSH, kAnyVariant, Make<CSpshDlg, IDD_B_SPSH>},
+    {IDD_B_F177, kAnyVariant, Make<CF177Dlg>},
+    {IDD_C_SPDH_TRAPEZOIDAL, kAnyVariant, Make<CSpdhDlg, false, IDD_C_SPDH_TRAPEZOIDAL>},
+    {IDD_C_SPDH_HOME, kAnyVariant, Make<CSpdhDlg, true, IDD_C_SPDH_HOME>},
+    {IDD_C_PLSH, kAnyVariant, Make<CPlshDlg, IDD_C_PLSH>},
+    {IDD_C_PWMH, kAnyVariant, Make<CPwmhFrequencyDlg>},
+    {IDD_C_SP0H, kAnyVariant, Make<CSp0hDlg, IDD_C_SP0H>},
+    {IDD_C_SPSH, kAnyVariant, Make<CSpshDlg, IDD_C_SPSH>},
     {IDD_EPOINT, kUnitEPoint, Make<CEPointDlg, kEPointForm>},
     {IDD_EPOINT, kUnitPPointStart, Make<CEPointDlg, kPPointStartForm>},
     {IDD_EPOINT, kUnitJogPositioning, Make<CEPointDlg, kJogPositioningForm>},

@@ -7,6 +7,7 @@
 #include "core/Memory.h"
 #include "core/OpenWizard.h"
 #include "core/ResourceScope.h"
+#include "dialogs/base/Compaction.h"
 #include "dialogs/base/ListFilling.h"
 #include "resources/resource.h"
 
@@ -168,19 +169,9 @@ void CWzdDialog::TakeDigitsOnly(UINT edit, bool digitsOnly)
         item->ModifyStyle(digitsOnly ? 0 : ES_NUMBER, digitsOnly ? ES_NUMBER : 0);
 }
 
-CWnd* CWzdDialog::ControlBefore(UINT id, int steps) const
-{
-    CWnd* item = GetDlgItem(id);
-    while (item != nullptr && steps-- > 0)
-        item = item->GetWindow(GW_HWNDPREV);
-    return item;
-}
+CWnd* CWzdDialog::ControlBefore(UINT id, int steps) const { return Neighbour(GetDlgItem(id), GW_HWNDPREV, steps); }
 
-CWnd* CWzdDialog::ControlAfter(UINT id) const
-{
-    const CWnd* item = GetDlgItem(id);
-    return item != nullptr ? item->GetWindow(GW_HWNDNEXT) : nullptr;
-}
+CWnd* CWzdDialog::ControlAfter(UINT id, int steps) const { return Neighbour(GetDlgItem(id), GW_HWNDNEXT, steps); }
 
 bool CWzdDialog::FillCombo(UINT combo, CWzdChoices choices, int selected)
 {

@@ -40,7 +40,7 @@ public:
     void TakeDigitsOnly(UINT edit, bool digitsOnly);
     /// The control before or after another one in tab order; null when there is none.
     CWnd* ControlBefore(UINT id, int steps = 1) const;
-    CWnd* ControlAfter(UINT id) const;
+    CWnd* ControlAfter(UINT id, int steps = 1) const;
 
     /// Empties a combo, adds an item for every choice, its code as item data, and selects the item `selected`, or the
     /// first one when there is no such item. False when a text is missing or the list refuses an item.

@@ -10,7 +10,8 @@
 class CWzdSection
 {
 public:
-    CWzdSection(CWzdExchange* wx, bool active, CWnd* first = nullptr, UINT last = 0);
+    CWzdSection(CWzdExchange* wx, bool active, CWnd* first = nullptr, const CWnd* last = nullptr);
+    CWzdSection(CWzdExchange* wx, bool active, CWnd* first, UINT last);
     ~CWzdSection() { m_exchange.SetActive(m_outerActive); }
 
     CWzdSection(const CWzdSection&) = delete;

@@ -9,7 +9,7 @@ namespace
 class CSectionField : public CWzdField
 {
 public:
-    CSectionField(CWzdDlgBase& dialog, const SWzdRow& row, bool active, CWnd* first, UINT last)
+    CSectionField(CWzdDlgBase& dialog, const SWzdRow& row, bool active, CWnd* first, const CWnd* last)
         : CWzdField(dialog, row), m_active(active), m_first(first), m_last(last)
     {
     }
@@ -19,12 +19,17 @@ public:
 private:
     bool m_active;
     CWnd* m_first;
-    UINT m_last;
+    const CWnd* m_last;
 };
 
 } // namespace
 
 CWzdSection::CWzdSection(CWzdExchange* wx, bool active, CWnd* first, UINT last)
+    : CWzdSection(wx, active, first, wx->Dialog().GetDlgItem(last))
+{
+}
+
+CWzdSection::CWzdSection(CWzdExchange* wx, bool active, CWnd* first, const CWnd* last)
     : m_exchange(*wx), m_outerActive(wx->IsActive())
 {
     if (first != nullptr)

@@ -6,7 +6,9 @@
 class CPlshDlg : public CWzdDlgBase
 {
 public:
-    CPlshDlg(CFunWizard* wizard, CWnd* parent);
+    CPlshDlg(CFunWizard* wizard, CWnd* parent) : CPlshDlg(wizard, IDD_PLSH, parent) {}
+    /// The same with the template of another family of controllers.
+    CPlshDlg(CFunWizard* wizard, UINT templateId, CWnd* parent);
 
     void DoFieldExchange(CWzdExchange* wx) override;
 };

@@ -83,6 +83,19 @@ void WDX_Channel(CWzdExchange* wx, UINT combo, int instruction, int operand)
     WzdDeclare<CChannelField>(wx, {.combo = combo, .choices = channels, .position = operand});
 }
 
+void WDX_StopTarget(CWzdExchange* wx, LONGLONG offset)
+{
+    constexpr int kStops = 1;
+    const CWzdDlgBase& dialog = wx->Dialog();
+    const CWzdSection target(wx, dialog.Selection(IDC_PLSH_STOP_MODE) == kStops, dialog.ControlBefore(IDC_PLSH_TARGET),
+                             dialog.ControlAfter(IDC_PLSH_TARGET, 2));
+    WDX_Number(wx, {.edit = IDC_PLSH_TARGET,
+                    .entry = {offset, kTwoRegisters},
+                    .limit = 11,
+                    .range = kAnyDoubleWord,
+                    .message = IDS_ERR_TARGET_VALUE});
+}
+
 SWzdRange SpeedRange(int frequency, int channel)
 {
     if (frequency < 0 || frequency >= static_cast<int>(std::size(kSpeeds)))

@@ -10,6 +10,10 @@ void WDX_Output(CWzdExchange* wx, UINT combo, CWzdChoices choices, int operand =
 /// the dialog does not open.
 void WDX_Channel(CWzdExchange* wx, UINT combo, int instruction, int operand = 1);
 
+/// The target value of F172, behind everything else in the table. Its label, edit, unit and range are there only in the
+/// mode that stops at it.
+void WDX_StopTarget(CWzdExchange* wx, LONGLONG offset);
+
 // ---- Lists ----------------------------------------------------------------------------------------------------------
 
 /// The built-in outputs.
@@ -28,6 +32,39 @@ constexpr SWzdChoice kMoveModes[] = {
     {IDS_ABSOLUTE_CW_CCW, 0x10},              //
     {IDS_ABSOLUTE_SIGN_FORWARD_OFF, 0x12},    //
     {IDS_ABSOLUTE_SIGN_FORWARD_ON, 0x13},
+};
+
+/// Whether F172 stops at a target value, and its output methods.
+constexpr SWzdChoice kStopModes[] = {{IDS_PLSH_NO_TARGET, 0}, {IDS_PLSH_TARGET_MATCH_STOP, 1}};
+
+constexpr SWzdChoice kJogMethods[] = {
+    {IDS_PLSH_NO_COUNTING_CW, 0x00},            //
+    {IDS_PLSH_NO_COUNTING_CCW, 0x01},           //
+    {IDS_PLSH_ADDITION_CW, 0x10},               //
+    {IDS_PLSH_ADDITION_DIRECTION_OFF, 0x12},    //
+    {IDS_PLSH_ADDITION_DIRECTION_ON, 0x13},     //
+    {IDS_PLSH_SUBTRACTION_CCW, 0x21},           //
+    {IDS_PLSH_SUBTRACTION_DIRECTION_OFF, 0x22}, //
+    {IDS_PLSH_SUBTRACTION_DIRECTION_ON, 0x23},
+};
+
+constexpr SWzdChoice kChannelHomeModes[] = {
+    {IDS_HOMING1_CW, 0x20},
+    {IDS_HOMING1_CCW, 0x21},
+    {IDS_HOMING1_DIRECTION_OFF, 0x22},
+    {IDS_HOMING1_DIRECTION_ON, 0x23},
+    {IDS_HOMING1_CW_RESET, 0x24},
+    {IDS_HOMING1_CCW_RESET, 0x25},
+    {IDS_HOMING1_DIRECTION_OFF_RESET, 0x26},
+    {IDS_HOMING1_DIRECTION_ON_RESET, 0x27},
+    {IDS_HOMING2_CW, 0x30},
+    {IDS_HOMING2_CCW, 0x31},
+    {IDS_HOMING2_DIRECTION_OFF, 0x32},
+    {IDS_HOMING2_DIRECTION_ON, 0x33},
+    {IDS_HOMING2_CW_RESET, 0x34},
+    {IDS_HOMING2_CCW_RESET, 0x35},
+    {IDS_HOMING2_DIRECTION_OFF_RESET, 0x36},
+    {IDS_HOMING2_DIRECTION_ON_RESET, 0x37},
 };
 
 // ---- Ranges ---------------------------------------------------------------------------------------------------------

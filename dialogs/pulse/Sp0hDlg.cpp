@@ -18,7 +18,7 @@ constexpr SGridControls kTable = {kHeadings, kRowLabels, IDC_SP0H_CELL_EDITOR, I
 
 } // namespace
 
-CSp0hDlg::CSp0hDlg(CFunWizard* wizard, CWnd* parent) : CGridDlg(wizard, IDD_SP0H, kTable, parent) {}
+CSp0hDlg::CSp0hDlg(CFunWizard* wizard, UINT templateId, CWnd* parent) : CGridDlg(wizard, templateId, kTable, parent) {}
 
 // clang-format off
 void CSp0hDlg::DoFieldExchange(CWzdExchange* wx)

@@ -6,7 +6,9 @@
 class CSp0hDlg : public CGridDlg
 {
 public:
-    CSp0hDlg(CFunWizard* wizard, CWnd* parent);
+    CSp0hDlg(CFunWizard* wizard, CWnd* parent) : CSp0hDlg(wizard, IDD_SP0H, parent) {}
+    /// The same with the template of another family of controllers.
+    CSp0hDlg(CFunWizard* wizard, UINT templateId, CWnd* parent);
 
     void DoFieldExchange(CWzdExchange* wx) override;
 };

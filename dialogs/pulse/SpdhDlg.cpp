@@ -7,29 +7,10 @@ namespace
 
 constexpr SWzdChoice kSteps[] = {{IDS_STEPS, 0, 30}, {IDS_STEPS, 1, 60}};
 
-constexpr SWzdChoice kHomeModes[] = {
-    {IDS_HOMING1_CW, 0x20},
-    {IDS_HOMING1_CCW, 0x21},
-    {IDS_HOMING1_DIRECTION_OFF, 0x22},
-    {IDS_HOMING1_DIRECTION_ON, 0x23},
-    {IDS_HOMING1_CW_RESET, 0x24},
-    {IDS_HOMING1_CCW_RESET, 0x25},
-    {IDS_HOMING1_DIRECTION_OFF_RESET, 0x26},
-    {IDS_HOMING1_DIRECTION_ON_RESET, 0x27},
-    {IDS_HOMING2_CW, 0x30},
-    {IDS_HOMING2_CCW, 0x31},
-    {IDS_HOMING2_DIRECTION_OFF, 0x32},
-    {IDS_HOMING2_DIRECTION_ON, 0x33},
-    {IDS_HOMING2_CW_RESET, 0x34},
-    {IDS_HOMING2_CCW_RESET, 0x35},
-    {IDS_HOMING2_DIRECTION_OFF_RESET, 0x36},
-    {IDS_HOMING2_DIRECTION_ON_RESET, 0x37},
-};
-
 } // namespace
 
-CSpdhDlg::CSpdhDlg(CFunWizard* wizard, bool homeReturn, CWnd* parent)
-    : CWzdDlgBase(wizard, homeReturn ? IDD_SPDH_HOME : IDD_SPDH_TRAPEZOIDAL, parent), m_homeReturn(homeReturn)
+CSpdhDlg::CSpdhDlg(CFunWizard* wizard, bool homeReturn, UINT templateId, CWnd* parent)
+    : CWzdDlgBase(wizard, templateId, parent), m_homeReturn(homeReturn)
 {
 }
 
@@ -46,7 +27,7 @@ void CSpdhDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_Code       (wx, {.combo = IDC_SPDH_STEPS,     .choices = kSteps,       .bits = {16, 4}});
     WDX_Code       (wx, {.combo = IDC_SPDH_DUTY,      .choices = kDuties,      .bits = {12, 4}});
     WDX_Code       (wx, {.combo = IDC_SPDH_FREQUENCY, .choices = kFrequencies, .bits = {8, 4}});
-    WDX_Code       (wx, IDC_SPDH_MODE, {0, 8}, m_homeReturn, kMoveModes, kHomeModes);
+    WDX_Code       (wx, IDC_SPDH_MODE, {0, 8}, m_homeReturn, kMoveModes, kChannelHomeModes);
 
     WDX_Number(wx, {.edit = IDC_SPDH_INITIAL, .entry = {2, kTwoRegisters}, .limit = 6, .range = speeds,
                     .message = IDS_ERR_INITIAL_SPEED, .rangeLabel = IDC_SPDH_INITIAL_RANGE});

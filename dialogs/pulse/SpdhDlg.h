@@ -7,7 +7,12 @@ class CSpdhDlg : public CWzdDlgBase
 {
 public:
     /// `homeReturn` selects home position return instead of trapezoidal control.
-    CSpdhDlg(CFunWizard* wizard, bool homeReturn, CWnd* parent);
+    CSpdhDlg(CFunWizard* wizard, bool homeReturn, CWnd* parent)
+        : CSpdhDlg(wizard, homeReturn, homeReturn ? IDD_SPDH_HOME : IDD_SPDH_TRAPEZOIDAL, parent)
+    {
+    }
+    /// The same with the template of another family of controllers.
+    CSpdhDlg(CFunWizard* wizard, bool homeReturn, UINT templateId, CWnd* parent);
 
     void DoFieldExchange(CWzdExchange* wx) override;
 

@@ -26,7 +26,10 @@ constexpr UINT kYLabels[] = {IDC_SPSH_TARGET_Y_LABEL, IDC_SPSH_RESULT_SPEED_Y_LA
 
 } // namespace
 
-CSpshDlg::CSpshDlg(CFunWizard* wizard, CWnd* parent) : CWzdDlgBase(wizard, IDD_SPSH, parent) {}
+CSpshDlg::CSpshDlg(CFunWizard* wizard, UINT templateId, CWnd* parent)
+    : CWzdDlgBase(wizard, templateId, parent), m_twoTimes(templateId == IDD_B_SPSH)
+{
+}
 
 // clang-format off
 void CSpshDlg::DoFieldExchange(CWzdExchange* wx)
@@ -59,22 +62,26 @@ void CSpshDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_Number(wx, {.edit = IDC_SPSH_INITIAL,  .entry = {2, kTwoRegisters},  .limit = 6, .range = speeds,
                     .message = IDS_ERR_INITIAL_SPEED, .comment = {IDC_SPSH_SPEED_LABEL, IDC_SPSH_INITIAL_LABEL}});
     WDX_Number(wx, {.edit = IDC_SPSH_MAXIMUM,  .entry = {4, kTwoRegisters},  .limit = 6, .range = speeds,
-                    .message = IDS_ERR_MAXIMUM_SPEED, .comment = {IDC_SPSH_SPEED_LABEL, IDC_SPSH_MAXIMUM_LABEL}});
+                    .message = static_cast<UINT>(m_twoTimes ? IDS_ERR_TARGET_SPEED : IDS_ERR_MAXIMUM_SPEED), .comment = {IDC_SPSH_SPEED_LABEL, IDC_SPSH_MAXIMUM_LABEL}});
     WDX_Number(wx, {.edit = IDC_SPSH_TIME,     .entry = {6, kTwoRegisters},  .limit = 5, .range = {0, 32767},
-                    .message = IDS_ERR_ACCELERATION_TIME});
-    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_X, .entry = {8, kTwoRegisters},  .limit = 8, .range = kTargets,
+                    .message = static_cast<UINT>(m_twoTimes ? IDS_ERR_B_ACCELERATION_TIME : IDS_ERR_ACCELERATION_TIME)});
+    if (m_twoTimes)
+        WDX_Number(wx, {.edit = IDC_SPSH_DECELERATION, .entry = {8, kTwoRegisters}, .limit = 5, .range = {0, 32767},
+                        .message = IDS_ERR_B_DECELERATION_TIME});
+    const LONGLONG behind = m_twoTimes ? 10 : 8;
+    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_X, .entry = {behind, kTwoRegisters},     .limit = 8, .range = kTargets,
                     .message = IDS_ERR_TARGET_VALUE_X, .comment = {IDC_SPSH_TARGET_LABEL, IDC_SPSH_TARGET_X_LABEL}});
-    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_Y, .entry = {10, kTwoRegisters}, .limit = 8, .range = kTargets,
+    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_Y, .entry = {behind + 2, kTwoRegisters}, .limit = 8, .range = kTargets,
                     .message = IDS_ERR_TARGET_VALUE_Y, .comment = {IDC_SPSH_TARGET_LABEL, IDC_SPSH_TARGET_Y_LABEL}});
 
-    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_X,   {12, kTwoRegisters}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_X,   {14, kTwoRegisters}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_Y,   {16, kTwoRegisters}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_Y,   {18, kTwoRegisters}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_X, {20}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_Y, {21}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_X,     {22}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_Y,     {23}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_X,   {behind + 4, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_X,   {behind + 6, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_Y,   {behind + 8, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_Y,   {behind + 10, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_X, {behind + 12}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_Y, {behind + 13}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_X,     {behind + 14}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_Y,     {behind + 15}, true);
 }
 // clang-format on
 

@@ -6,7 +6,10 @@
 class CSpshDlg : public CWzdDlgBase
 {
 public:
-    CSpshDlg(CFunWizard* wizard, CWnd* parent);
+    CSpshDlg(CFunWizard* wizard, CWnd* parent) : CSpshDlg(wizard, IDD_SPSH, parent) {}
+    /// The same with the template of another family of controllers. That of family B has a target speed in place of the
+    /// maximum speed, and a time for each of acceleration and deceleration.
+    CSpshDlg(CFunWizard* wizard, UINT templateId, CWnd* parent);
 
     void DoFieldExchange(CWzdExchange* wx) override;
 
@@ -16,4 +19,6 @@ protected:
 
 private:
     void LeaveOutChannel();
+
+    bool m_twoTimes;
 };
