@@ -24,6 +24,14 @@ constexpr UINT kXLabels[] = {IDC_SPSH_TARGET_X_LABEL, IDC_SPSH_RESULT_SPEED_X_LA
 constexpr UINT kYLabels[] = {IDC_SPSH_TARGET_Y_LABEL, IDC_SPSH_RESULT_SPEED_Y_LABEL, IDC_SPSH_RESULT_FREQUENCY_Y_LABEL,
                              IDC_SPSH_RESULT_STEPS_Y_LABEL};
 
+// Those of the results are nothing but texts in the templates of other families.
+void DeclareLabels(CWzdExchange* wx, std::span<const UINT> labels, UINT text)
+{
+    for (const UINT label : labels)
+        if (wx->Dialog().GetDlgItem(label) != nullptr)
+            WDX_Label(wx, label, text);
+}
+
 } // namespace
 
 CSpshDlg::CSpshDlg(CFunWizard* wizard, UINT templateId, CWnd* parent)
@@ -46,10 +54,8 @@ void CSpshDlg::DoFieldExchange(CWzdExchange* wx)
     const bool first = displayType == kFirstChannel || Selection(IDC_SPSH_CHANNEL) == 0;
     if (displayType <= kFirstChannel)
     {
-        for (const UINT label : kXLabels)
-            WDX_Label(wx, label, first ? IDS_X_AXIS_CH0 : IDS_X_AXIS_CH2);
-        for (const UINT label : kYLabels)
-            WDX_Label(wx, label, first ? IDS_Y_AXIS_CH1 : IDS_Y_AXIS_CH3);
+        DeclareLabels(wx, kXLabels, first ? IDS_X_AXIS_CH0 : IDS_X_AXIS_CH2);
+        DeclareLabels(wx, kYLabels, first ? IDS_Y_AXIS_CH1 : IDS_Y_AXIS_CH3);
         WDX_Label(wx, IDC_SPSH_SPEED_RANGE, IDS_RANGE_DECIMAL, {1, (first ? kFastSpeeds : kSlowSpeeds).high});
     }
 

@@ -3,6 +3,11 @@
 
 #include "core/FunWizard.h"
 #include "dialogs/base/WzdDlgBase.h"
+#include "dialogs/channel/F177Dlg.h"
+#include "dialogs/channel/PlshChDlg.h"
+#include "dialogs/channel/PwmhChDlg.h"
+#include "dialogs/channel/PwmhFrequencyDlg.h"
+#include "dialogs/channel/SpdhChDlg.h"
 #include "dialogs/posunit/EPointDlg.h"
 #include "dialogs/posunit/HomeReturnDlg.h"
 #include "dialogs/posunit/JogDlg.h"
@@ -80,6 +85,15 @@ std::unique_ptr<CWzdDlgBase> MakeSpsh(CFunWizard* wizard)
     return MakeDialog<CSpshDlg>(wizard);
 }
 
+/// A dialog whose template only language libraries have: without one, the English library is set.
+template <typename TDialog, auto... arguments>
+std::unique_ptr<CWzdDlgBase> MakeOfLibrary(CFunWizard* wizard)
+{
+    if (wizard->GetLoadInstance() == nullptr)
+        wizard->SetLanguageInfo(0);
+    return MakeDialog<TDialog, arguments...>(wizard);
+}
+
 inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"Spd1Trapezoidal", kEverywhere, MakeDialog<CSpd1Dlg, false>},
     {"Spd1Home", kEverywhere, MakeDialog<CSpd1Dlg, true>},
@@ -94,6 +108,19 @@ inline constexpr SInstructionDialog kInstructionDialogs[] = {
     {"SpshFirstChannel", kEverywhere, MakeSpsh<1>},
     {"SpshOtherAxes", kEverywhere, MakeSpsh<2>},
     {"Spch", kEverywhere, MakeDialog<CSpchDlg>},
+    {"SpdhTrapezoidalB", kLibrariesOnly, MakeOfLibrary<CSpdhChDlg, false>},
+    {"SpdhHomeB", kLibrariesOnly, MakeOfLibrary<CSpdhChDlg, true>},
+    {"PlshB", kLibrariesOnly, MakeOfLibrary<CPlshChDlg>},
+    {"PwmhB", kLibrariesOnly, MakeOfLibrary<CPwmhChDlg>},
+    {"Sp0hB", kLibrariesOnly, MakeOfLibrary<CSp0hDlg, IDD_B_SP0H>},
+    {"SpshB", kLibrariesOnly, MakeOfLibrary<CSpshDlg, IDD_B_SPSH>},
+    {"F177", kLibrariesOnly, MakeOfLibrary<CF177Dlg>},
+    {"SpdhTrapezoidalC", kLibrariesOnly, MakeOfLibrary<CSpdhDlg, false, IDD_C_SPDH_TRAPEZOIDAL>},
+    {"SpdhHomeC", kLibrariesOnly, MakeOfLibrary<CSpdhDlg, true, IDD_C_SPDH_HOME>},
+    {"PlshC", kLibrariesOnly, MakeOfLibrary<CPlshDlg, IDD_C_PLSH>},
+    {"PwmhC", kLibrariesOnly, MakeOfLibrary<CPwmhFrequencyDlg>},
+    {"Sp0hC", kLibrariesOnly, MakeOfLibrary<CSp0hDlg, IDD_C_SP0H>},
+    {"SpshC", kLibrariesOnly, MakeOfLibrary<CSpshDlg, IDD_C_SPSH>},
     {"EPoint", kEverywhere, MakeDialog<CEPointDlg, kEPointForm>},
     {"PPointStart", kEverywhere, MakeDialog<CEPointDlg, kPPointStartForm>},
     {"JogPositioning", kEverywhere, MakeDialog<CEPointDlg, kJogPositioningForm>},

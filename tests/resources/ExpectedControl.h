@@ -47,6 +47,7 @@ struct SExpectedTemplate
     std::vector<SExpectedControl> librariesOnly = {}; ///< what the language libraries' template has more
     size_t before = 0;                                ///< and the position in `controls` where it stands
     std::vector<SExpectedItems> itemsOfLibraries = {};
+    bool onlyInLibraries = false; ///< the module does not have the template
 
     /// In tab order, in the module's own resources or in a language library.
     std::vector<SExpectedControl> ControlsIn(bool library) const

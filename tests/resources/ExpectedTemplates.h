@@ -2,6 +2,7 @@
 // apart from the resource scripts, by number.
 #pragma once
 
+#include "tests/resources/ExpectedChannel.h"
 #include "tests/resources/ExpectedProcess.h"
 #include "tests/resources/ExpectedPulse.h"
 #include "tests/resources/ExpectedUnit.h"
@@ -26,27 +27,30 @@ inline SExpectedTemplate ExpectedSelect()
 /// Every template that is tested; a template that stands in a script and not here fails a test.
 inline std::vector<SExpectedTemplate> ExpectedTemplates()
 {
-    return {ExpectedSelect(),
-            ExpectedSpd1Trapezoidal(),
-            ExpectedSpd1Home(),
-            ExpectedPls(),
-            ExpectedPwm(),
-            ExpectedSpdhTrapezoidal(),
-            ExpectedSpdhHome(),
-            ExpectedPlsh(),
-            ExpectedPwmh(),
-            ExpectedSp0h(),
-            ExpectedSpsh(),
-            ExpectedSpch(),
-            ExpectedScaling(),
-            ExpectedPid(),
-            ExpectedScreenDisplay(),
-            ExpectedEPoint(),
-            ExpectedPPoint(),
-            ExpectedJog(),
-            ExpectedJogSpeedChange(),
-            ExpectedHomeReturn(),
-            ExpectedPulsar(),
-            ExpectedControlCode(),
-            ExpectedControlCodeHex()};
+    std::vector<SExpectedTemplate> all = {ExpectedSelect(),
+                                          ExpectedSpd1Trapezoidal(),
+                                          ExpectedSpd1Home(),
+                                          ExpectedPls(),
+                                          ExpectedPwm(),
+                                          ExpectedSpdhTrapezoidal(),
+                                          ExpectedSpdhHome(),
+                                          ExpectedPlsh(),
+                                          ExpectedPwmh(),
+                                          ExpectedSp0h(),
+                                          ExpectedSpsh(),
+                                          ExpectedSpch(),
+                                          ExpectedScaling(),
+                                          ExpectedPid(),
+                                          ExpectedScreenDisplay(),
+                                          ExpectedEPoint(),
+                                          ExpectedPPoint(),
+                                          ExpectedJog(),
+                                          ExpectedJogSpeedChange(),
+                                          ExpectedHomeReturn(),
+                                          ExpectedPulsar(),
+                                          ExpectedControlCode(),
+                                          ExpectedControlCodeHex()};
+    const std::vector<SExpectedTemplate> channel = ExpectedChannelTemplates();
+    all.insert(all.end(), channel.begin(), channel.end());
+    return all;
 }

@@ -7,8 +7,8 @@
 namespace
 {
 
-/// The templates whose dialogs are not written yet: choosing them leads back.
-const std::set<UINT> kNotWritten = {1059, 1060, 1061, 1062, 1063, 1064, 1065, 1067, 1069, 1070, 1071, 1072, 1073};
+/// The templates that the module does not have: without a language library, choosing them leads back.
+const std::set<UINT> kInLibrariesOnly = {1059, 1060, 1061, 1062, 1063, 1064, 1065, 1067, 1069, 1070, 1071, 1072, 1073};
 
 struct SItemDialog
 {
@@ -117,6 +117,50 @@ STemplateLook LookOf(UINT templateId)
 
 class CItemDialogsTest : public CPosSelectTest
 {
+protected:
+    /// Chooses an item, which opens its dialog or leads back, and cancels what is open then.
+    void Choose(const SItemDialogs& list, int i, bool leadsBack)
+    {
+        const SItemDialog& row = list.items[static_cast<size_t>(i)];
+        const auto choose = [&](CDialogRobot& robot) {
+            ASSERT_EQ(ItemData(robot).at(static_cast<size_t>(i)), row.item);
+            robot.Select(kList, i);
+            robot.Click(IDOK);
+        };
+        const auto cancelSelection = [&](CDialogRobot& robot) {
+            EXPECT_EQ(robot.Caption(), "Positioning processing selection");
+            EXPECT_EQ(robot.Selection(kList), i);
+            robot.Click(IDCANCEL);
+        };
+        if (leadsBack)
+        {
+            Open(list.mode, {choose, cancelSelection});
+            return;
+        }
+        Open(list.mode, {choose,
+                         [&](CDialogRobot& robot) {
+                             const STemplateLook look = LookOf(row.dialog);
+                             EXPECT_EQ(robot.Caption(), row.title != nullptr ? CString(row.title) : look.caption);
+                             EXPECT_EQ(robot.Controls().size() - robot.Exists(IDC_GRID_CELLS), look.controls);
+                             robot.Click(IDCANCEL);
+                         },
+                         cancelSelection});
+    }
+
+    /// Calls choose(list, item) for every item of every list of a family.
+    template <typename TChoose>
+    void ForEachItem(TChoose choose)
+    {
+        for (const SItemDialogs& list : kItemDialogs)
+            for (int i = 0; i < static_cast<int>(list.items.size()); ++i)
+            {
+                const DWORD item = list.items[static_cast<size_t>(i)].item;
+                SCOPED_TRACE(testing::Message()
+                             << "PLC type " << list.plcType << ", item " << HIWORD(item) << "/" << LOWORD(item));
+                m_wizard.SetPlcType(static_cast<BYTE>(list.plcType));
+                choose(list, i);
+            }
+    }
 };
 
 } // namespace
@@ -124,35 +168,17 @@ class CItemDialogsTest : public CPosSelectTest
 TEST_F(CItemDialogsTest, AreThoseOfTheFamily)
 {
     m_wizard.SetLanguageInfo(kEnglish);
-    for (const SItemDialogs& list : kItemDialogs)
-        for (int i = 0; i < static_cast<int>(list.items.size()); ++i)
-        {
-            const SItemDialog& row = list.items[i];
-            SCOPED_TRACE(testing::Message()
-                         << "PLC type " << list.plcType << ", item " << HIWORD(row.item) << "/" << LOWORD(row.item));
-            m_wizard.SetPlcType(static_cast<BYTE>(list.plcType));
-            const auto choose = [&](CDialogRobot& robot) {
-                ASSERT_EQ(ItemData(robot).at(i), row.item);
-                robot.Select(kList, i);
-                robot.Click(IDOK);
-            };
-            const auto cancelSelection = [&](CDialogRobot& robot) {
-                EXPECT_EQ(robot.Caption(), "Positioning processing selection");
-                EXPECT_EQ(robot.Selection(kList), i);
-                robot.Click(IDCANCEL);
-            };
-            if (row.dialog == 0 || kNotWritten.count(row.dialog) > 0)
-            {
-                Open(list.mode, {choose, cancelSelection});
-                continue;
-            }
-            Open(list.mode, {choose,
-                             [&](CDialogRobot& robot) {
-                                 const STemplateLook look = LookOf(row.dialog);
-                                 EXPECT_EQ(robot.Caption(), row.title != nullptr ? CString(row.title) : look.caption);
-                                 EXPECT_EQ(robot.Controls().size() - robot.Exists(IDC_GRID_CELLS), look.controls);
-                                 robot.Click(IDCANCEL);
-                             },
-                             cancelSelection});
-        }
+    ForEachItem(
+        [this](const SItemDialogs& list, int i) { Choose(list, i, list.items[static_cast<size_t>(i)].dialog == 0); });
+}
+
+// The module lists the items of families A and C; those of family C it cannot open.
+TEST_F(CItemDialogsTest, LeadBackWithoutALanguageLibrary)
+{
+    m_wizard.SetLanguageInfo(-1);
+    ForEachItem([this](const SItemDialogs& list, int i) {
+        const UINT dialog = list.items[static_cast<size_t>(i)].dialog;
+        if (list.plcType == kPlcFamilyA || list.plcType == kPlcFamilyC)
+            Choose(list, i, dialog == 0 || kInLibrariesOnly.count(dialog) > 0);
+    });
 }
