@@ -321,4 +321,16 @@ inline constexpr SEnglishText kEnglishTexts[] = {
     {20030, "The inputted start output relay number has become the outside of the range.\n"
             "Please input the right value."},
 };
+
+/// Messages that only the language libraries have, those of family B.
+inline constexpr SEnglishText kLibraryMessages[] = {
+    {20046, "The inputted acceleration time has become the outside of the range.\nPlease input the right value."},
+    {20047, "The inputted deceleration time has become the outside of the range.\nPlease input the right value."},
+    {20048, "The inputted creep speed has become the outside of the range.\nPlease input the right value."},
+    {20049, "The inputted creep speed has become the outside of the range.\nPlease input the right value."},
+    {20050, "The inputted deviation counter clear time has become the outside of the range.\n"
+            "Please input the right value."},
+    {20051, "The inputted deviation counter clear time has become the outside of the range.\n"
+            "Please input the right value."},
+};
 // clang-format on

@@ -107,6 +107,12 @@ TEST(LibraryTexts, RepeatTheFrequenciesForFamilyB)
         EXPECT_EQ(TextOf(LibraryTexts(), 11194 + i), TextOf(LibraryTexts(), 11081 + i)) << i;
 }
 
+TEST(LibraryTexts, HaveTheMessagesOfFamilyB)
+{
+    for (const SEnglishText& expected : kLibraryMessages)
+        EXPECT_EQ(TextOf(LibraryTexts(), expected.id), expected.text) << expected.id;
+}
+
 TEST(LibraryTexts, NameTheJogDirections)
 {
     EXPECT_EQ(TextOf(LibraryTexts(), 15030), "Forward rotation");

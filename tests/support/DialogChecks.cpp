@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
+#include <span>
 
 namespace
 {
@@ -25,9 +25,12 @@ std::string TextOf(const CWnd* control)
 
 std::string MessageText(unsigned id)
 {
-    const auto found = std::find_if(std::begin(kEnglishTexts), std::end(kEnglishTexts),
-                                    [id](const SEnglishText& text) { return text.id == id; });
-    return found != std::end(kEnglishTexts) ? found->text : "no message " + std::to_string(id);
+    for (const std::span<const SEnglishText> texts :
+         {std::span<const SEnglishText>(kEnglishTexts), std::span<const SEnglishText>(kLibraryMessages)})
+        for (const SEnglishText& text : texts)
+            if (text.id == id)
+                return text.text;
+    return "no message " + std::to_string(id);
 }
 
 std::string DeviceName(int code)

@@ -54,6 +54,9 @@ std::vector<const char*> Malformed(const SPulseForm& form, UINT edit)
             continue;
         if (number.notation == kTenths)
             return {"", " ", "a", ".", "100", "99.95", "12.50", "0.05", "1..0", "1.0.", "-1", "+5", "5,0", "1 2", "-"};
+        if (number.notation == kAnyTenths)
+            return {"",     " ",    "a",    ".",  "100", "100.0", "99.95", "50.05",
+                    "0.05", "1..0", "1.0.", "-1", "+5",  "5,0",   "1 2",   "-"};
         if (number.notation == kWhole)
             return {"", " ", "a", ".", "5.5", "99.95", "-", "-1", "+5", "5.0.", "5,0", "1 2", "0.1"};
     }
@@ -267,7 +270,7 @@ TEST_P(CPulseFormCheckTest, TakesBlanksZerosAndALoneSign)
         {
             const std::string text = number.good[2].text;
             const bool negative = text[0] == '-';
-            const std::string zeros = number.notation == kTenths ? "" : "000";
+            const std::string zeros = number.notation == kTenths || number.notation == kAnyTenths ? "" : "000";
             SetTextByProgram(dialog, number.id,
                              (negative ? "  -" : "  ") + zeros + text.substr(negative ? 1 : 0) + " ");
         }

@@ -44,10 +44,12 @@ protected:
         EXPECT_EQ(ReadResults(m_wizard), shown.stored) << "Back keeps the lists";
     }
 
-    /// Values by position, from `first` on; with the code that makes the form.
+    /// Values by position, from `first` on, behind the code that makes the form.
     static std::vector<SDataRow> Data(int device, int first, int number = 100)
     {
-        std::vector<SDataRow> data = {{device, number, 1, 1, ControlCode(GetParam(), {})}};
+        std::vector<SDataRow> data;
+        if (GetParam().hasCode)
+            data.push_back({device, number, 1, 1, ControlCode(GetParam(), {})});
         for (size_t i = 0; i < GetParam().numbers.size(); ++i)
             data.push_back({device, number, 0, 0, first + static_cast<int>(i)});
         return data;
@@ -103,7 +105,8 @@ TEST_P(CPulseFormRestoreTest, RestoresEachListPositionByItsRule)
     ExpectShown({"a start as a constant", {.operands = {{11, 100}}}});
     for (const int device : {10, 11, 0, -1, 20009})
         ExpectShown({"records of another device", {.data = Data(device, 500)}});
-    ExpectShown({"a control code alone", {.data = {Data(9, 0)[0]}}, "X", "", "", {}, FormItems()});
+    if (GetParam().hasCode)
+        ExpectShown({"a control code alone", {.data = {Data(9, 0)[0]}}, "X", "", "", {}, FormItems()});
 }
 
 TEST_P(CPulseFormRestoreTest, RestoresRecordsOneByOne)
@@ -112,10 +115,10 @@ TEST_P(CPulseFormRestoreTest, RestoresRecordsOneByOne)
     {
         SResults stored = {.data = Data(9, 41)};
         std::vector<std::string> numbers = Numbers(41);
-        stored.data[i + 1].code = 10;
+        stored.data[GetParam().CodeRecords() + i].code = 10;
         numbers[i] = "";
         ExpectShown({"one record of another device", stored, "X", "", "", numbers, FormItems()});
-        stored.data.resize(i + 1);
+        stored.data.resize(GetParam().CodeRecords() + i);
         numbers.resize(i);
         ExpectShown({"missing records", stored, "X", "", "", numbers, FormItems()});
     }
@@ -166,8 +169,9 @@ namespace
 
 int Restored(const SFormList& list, unsigned code)
 {
+    const int stored = static_cast<int>(code & static_cast<unsigned>(list.mask));
     for (size_t i = 0; i < list.items.size(); ++i)
-        if (static_cast<unsigned>(list.items[i].code) == (code & static_cast<unsigned>(list.mask)))
+        if (list.items[i].code == stored || (i < list.otherCodes.size() && list.otherCodes[i] == stored))
             return static_cast<int>(i);
     return 0;
 }

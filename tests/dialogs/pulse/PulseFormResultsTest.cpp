@@ -99,7 +99,7 @@ TEST_P(CPulseFormResultsTest, HoldTheCodeOfEveryCombination)
 TEST_P(CPulseFormResultsTest, HoldTheCodeUpToAListWithoutSelection)
 {
     const SPulseForm& form = GetParam();
-    if (form.instruction < 172 || form.instruction == 173)
+    if (form.instruction < 171 || form.instruction == 173)
         return;
     std::vector<size_t> last;
     for (const SFormList& list : form.lists)
@@ -116,8 +116,11 @@ TEST_P(CPulseFormResultsTest, HoldTheCodeUpToAListWithoutSelection)
         Confirm(form, [&](CDialogRobot& dialog) {
             FillIn(dialog, form, {.items = last});
             SelectByProgram(dialog, list.id, -1);
-            if (list.id == 2306) // then the only frequency is 0
-                dialog.Type(2308, "0");
+            // Without a range the only frequency, or speed, is 0.
+            for (const UINT edit : list.id == 2306   ? std::vector<UINT>{2308}
+                                   : list.id == 2256 ? std::vector<UINT>{2261, 2262}
+                                                     : std::vector<UINT>())
+                dialog.Type(edit, "0");
         });
         EXPECT_EQ(ReadResults(m_wizard).data[0], (SDataRow{9, 100, 1, 1, before})) << "without " << list.id;
         before += list.items[last[i]].code;
@@ -303,12 +306,13 @@ std::vector<SInstructionRow> Ladder(const SPulseForm& form, const SResults& resu
 {
     const SInstructionRow edge = {17, -1, 0, 0, 0};
     std::vector<SInstructionRow> rows = {start.contact};
-    const bool hasEdge = start.takesEdge && (stepFive || form.instruction == 175);
+    const bool startsOnEdge = form.instruction == 171 || form.instruction == 175;
+    const bool hasEdge = start.takesEdge && (stepFive || startsOnEdge);
     if (hasEdge)
         rows.push_back(edge);
     for (const SDataRow& record : results.data)
     {
-        rows.push_back({8, -1, form.width, 0, 0});
+        rows.push_back({8, -1, record.type, 0, 0});
         rows.push_back({-1, record.format != 0 ? 12 : 11, record.value, 0, 0});
         rows.push_back({-1, 9, record.number, 0, 0});
     }
@@ -317,7 +321,7 @@ std::vector<SInstructionRow> Ladder(const SPulseForm& form, const SResults& resu
     if (stepFive && !hasEdge)
     {
         rows.push_back(start.contact);
-        if (form.instruction == 175)
+        if (startsOnEdge || form.instruction == 177)
             rows.push_back(edge);
     }
     rows.push_back({8, -1, form.instruction, 0, 0});
@@ -328,8 +332,7 @@ std::vector<SInstructionRow> Ladder(const SPulseForm& form, const SResults& resu
 
 } // namespace
 
-// The dialogs are those of PLC types without step 5 of the generator; what they stored becomes the ladder of one with
-// it, too.
+// What a dialog stored becomes the ladder of every PLC type, with step 5 of the generator and without.
 TEST_P(CPulseFormResultsTest, LeadToTheLadder)
 {
     const SPulseForm& form = GetParam();
@@ -341,9 +344,9 @@ TEST_P(CPulseFormResultsTest, LeadToTheLadder)
         for (const bool only : {false, true})
         {
             const SFormEntries entries = {.output = form.output == kNoOutput || only ? 0 : 1, .onlyDataTable = only};
-            const auto choose = [](CDialogRobot& selection) {
-                ASSERT_EQ(selection.Items(IDC_SELECT_LIST).size(), 1u);
-                selection.Select(IDC_SELECT_LIST, 0);
+            const auto choose = [&](CDialogRobot& selection) {
+                ASSERT_EQ(selection.Items(IDC_SELECT_LIST).size(), form.instruction == 171 ? 2u : 1u);
+                selection.Select(IDC_SELECT_LIST, form.variant);
                 selection.Click(IDOK);
             };
             const auto confirm = [&](CDialogRobot& dialog) {
@@ -352,7 +355,7 @@ TEST_P(CPulseFormResultsTest, LeadToTheLadder)
                 dialog.Type(2052, start.number);
                 EXPECT_EQ(dialog.ClickAndAnswer(IDOK), CString());
             };
-            m_wizard.SetPlcType(kPlcFamilyA);
+            m_wizard.SetPlcType(static_cast<BYTE>(form.plcType));
             ASSERT_EQ(Play([this] { return m_wizard.DoOpenPosDlg(0, 1, nullptr); }, {choose, confirm}), IDOK);
             for (const int plcType : {1, 69, 70, 72, 74, 75, 114, 160})
             {

@@ -14,6 +14,14 @@ CPulseFormTest::CPulseFormTest()
 
 CPulseFormTest::~CPulseFormTest() { PexloDll_SetAppName(nullptr); }
 
+void SetUpFamily(CFunWizard& wizard, const SPulseForm& form)
+{
+    constexpr int kEnglish = 0;
+    wizard.SetPlcType(static_cast<BYTE>(form.plcType));
+    if (form.plcType != kPlcFamilyA)
+        wizard.SetLanguageInfo(kEnglish);
+}
+
 void CPulseFormTest::SetChannels(int instruction, const std::vector<int>& channels)
 {
     m_wizard.ResetChannelNo();

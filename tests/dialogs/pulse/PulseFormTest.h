@@ -31,8 +31,13 @@ protected:
     CFunWizard m_wizard;
 };
 
+/// Makes the controller one that has the form. Those of families B and C need the texts of a language.
+void SetUpFamily(CFunWizard& wizard, const SPulseForm& form);
+
 class CPulseFormsTest : public CPulseFormTest, public testing::WithParamInterface<SPulseForm>
 {
+protected:
+    CPulseFormsTest() { SetUpFamily(m_wizard, GetParam()); }
 };
 
 /// All forms; or as a sample all but that of F175 which differs from its others in labels alone.

@@ -7,6 +7,8 @@
 #include "dialogs/pulse/SpchDlg.h"
 #include "dialogs/pulse/SpshDlg.h"
 
+#include "tests/dialogs/channel/ChannelForms.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -357,8 +359,13 @@ int Operand(const SPulseForm& form, int position)
 
 const std::vector<SPulseForm>& PulseForms()
 {
-    static const std::vector<SPulseForm> forms = {Pls(),   Pwm(),   Plsh(false), Plsh(true),  Pwmh(1000), Pwmh(100),
-                                                  Spsh(0), Spsh(1), Spsh(2),     Spch(false), Spch(true)};
+    static const std::vector<SPulseForm> forms = [] {
+        std::vector<SPulseForm> all = {Pls(),   Pwm(),   Plsh(false), Plsh(true),  Pwmh(1000), Pwmh(100),
+                                       Spsh(0), Spsh(1), Spsh(2),     Spch(false), Spch(true)};
+        const std::vector<SPulseForm> others = ChannelForms(all);
+        all.insert(all.end(), others.begin(), others.end());
+        return all;
+    }();
     return forms;
 }
 
@@ -392,15 +399,20 @@ SResults FormResults(const SPulseForm& form, const SFormEntries& entries)
     SResults results;
     results.contacts = {{2, 1, 170}};
     results.operands = {{9, 100}, {11, Operand(form, entries.output)}};
-    results.data = {{9, 100, form.width, form.codeFlag, ControlCode(form, entries)}};
-    results.comments = {"Control code"};
+    if (form.hasCode)
+    {
+        results.data = {{9, 100, form.width, form.codeFlag, ControlCode(form, entries)}};
+        results.comments = {"Control code"};
+    }
     for (const SFormNumber& number : form.numbers)
     {
         const int value = number.good[std::min(entries.entry, number.good.size() - 1)].value;
-        results.data.push_back({9, 100 + number.offset, form.width, 0, value});
+        results.data.push_back({9, 100 + number.offset, number.oneRegister ? 0 : form.width, 0, value});
         const bool other = entries.output > 0 && number.otherComment != nullptr;
         results.comments.push_back(other ? number.otherComment : number.comment);
     }
+    if (form.end != 0)
+        results.data.push_back({9, 100 + form.end, form.width, 0, 0});
     return results;
 }
 

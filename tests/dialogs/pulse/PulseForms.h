@@ -1,8 +1,10 @@
-// The dialogs of F169, F170, F172, F173, F175 and F176 as their tests expect them, in each of their forms: in numbers
-// and texts written down here, apart from the ids and tables that the dialogs are made of.
+// The dialogs of F169, F170, F172, F173, F175 and F176, and those of controllers of families B and C, as their tests
+// expect them, in each of their forms: in numbers and texts written down here, apart from the ids and tables that the
+// dialogs are made of.
 #pragma once
 
 #include "dialogs/base/WzdDlgBase.h"
+#include "tests/support/Controller.h"
 #include "tests/support/Results.h"
 
 #include <memory>
@@ -21,14 +23,16 @@ struct SFormList
     const char* label;
     int mask; ///< the bits of the control code that it is restored from
     std::vector<SFormItem> items;
-    int formItem = -1; ///< the one item that makes the form, where one does
+    int formItem = -1;                ///< the one item that makes the form, where one does
+    std::vector<int> otherCodes = {}; ///< codes of another form that the same positions are restored from
 };
 
 enum ENotation
 {
     kDecimal,
-    kTenths, ///< "50.0" is stored as 500
-    kWhole   ///< "50" is stored as 500
+    kTenths,    ///< "50.0" is stored as 500
+    kAnyTenths, ///< the same, and zeros that end the fraction do not count
+    kWhole      ///< "50" is stored as 500
 };
 
 struct SFormEntry
@@ -50,6 +54,7 @@ struct SFormNumber
     std::vector<const char*> outside; ///< those next to the bounds first
     ENotation notation = kDecimal;
     const char* otherComment = nullptr; ///< with any output but the first, where that changes it
+    bool oneRegister = false;           ///< in a table of two for each record
 };
 
 enum EOutput
@@ -85,6 +90,15 @@ struct SPulseForm
     std::vector<SFormList> lists; ///< in the order of filling and composing
     std::vector<SFormNumber> numbers;
     std::vector<SLabelText> labels; ///< in this form, the first items selected
+    int plcType = kPlcFamilyA;
+    int variant = 0;     ///< of the instruction, in the selection list
+    bool hasCode = true; ///< the table begins with a control code
+    int end = 0;         ///< the offset of a 0 that ends the table; 0: none
+
+    /// Whose channels are offered.
+    int ChannelInstruction() const { return instruction == 177 ? 171 : instruction; }
+    /// How many records the table has before those of the numbers.
+    size_t CodeRecords() const { return hasCode ? 1 : 0; }
 };
 
 const std::vector<SPulseForm>& PulseForms();

@@ -54,7 +54,8 @@ CSp0hTest::~CSp0hTest() { PexloDll_SetAppName(nullptr); }
 
 int CSp0hTest::Open(std::vector<Scene> scenes)
 {
-    return Play([&] { return static_cast<int>(CSp0hDlg(&m_wizard, nullptr).DoModal()); }, std::move(scenes));
+    return Play([&] { return static_cast<int>(CSp0hDlg(&m_wizard, m_templateId, nullptr).DoModal()); },
+                std::move(scenes));
 }
 
 void CSp0hTest::Confirm(const Scene& scene)

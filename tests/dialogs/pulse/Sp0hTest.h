@@ -64,6 +64,7 @@ protected:
     SResults Confirmed(const SSp0hEntries& entries);
 
     CFunWizard m_wizard;
+    UINT m_templateId = 1019;
 };
 
 /// Fills the dialog in; the steps are pasted.
