@@ -188,6 +188,22 @@ TEST_P(CPulseFormResultsTest, KeepTheOldCommentsWhenNoneAreWanted)
     EXPECT_EQ(Confirmed(form, {}), FormResults(form, {}));
 }
 
+TEST_P(CPulseFormResultsTest, TakeTheCommentsFromTheLabels)
+{
+    const SPulseForm& form = GetParam();
+    if (form.instruction == 175 || form.instruction == 176)
+        return; // they join two labels, and have tests of their own
+    SResults expected = FormResults(form, {});
+    for (size_t i = 0; i < form.numbers.size(); ++i)
+        expected.comments[form.CodeRecords() + i] = "before " + std::to_string(form.numbers[i].id);
+    Confirm(form, [&](CDialogRobot& dialog) {
+        FillIn(dialog, form);
+        for (const SFormNumber& number : form.numbers)
+            ControlBefore(dialog, number.id)->SetWindowText(("before " + std::to_string(number.id)).c_str());
+    });
+    EXPECT_EQ(ReadResults(m_wizard), expected);
+}
+
 TEST_P(CPulseFormResultsTest, SayWhetherOnlyADataTableIsCreated)
 {
     const SPulseForm& form = GetParam();
