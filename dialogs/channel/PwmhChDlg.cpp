@@ -24,7 +24,7 @@ void CPwmhChDlg::DoFieldExchange(CWzdExchange* wx)
     WDX_Channel    (wx, IDC_PWMH_CHANNEL, kInstructionPwmh);
     WDX_ControlCode(wx, kOneRegister, kDecimalConstant);
     WDX_Code       (wx, {.combo = IDC_PWMH_FREQUENCY, .choices = kPwmFrequencies, .bits = kWholeWord});
-    WDX_Number     (wx, {.edit = IDC_PWMH_DUTY, .entry = {1}, .format = kTenths, .limit = 4, .range = {0, 999},
+    WDX_Number     (wx, {.edit = IDC_PWMH_DUTY, .entry = {1}, .format = kChannelDuty, .limit = 4, .range = {0, 999},
                          .message = IDS_ERR_DUTY});
     WDX_Label      (wx, IDC_PWMH_DUTY_RANGE, IDS_RANGE_TENTHS, {0.0, 99.9});
 }

@@ -13,6 +13,7 @@ public:
     }
 
     CGridView& Grid() { return m_grid; }
+    const CGridView& Grid() const { return m_grid; }
 
     BOOL PreTranslateMessage(MSG* message) override;
 

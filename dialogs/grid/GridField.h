@@ -32,6 +32,8 @@ public:
     void Refresh() override;
     void Clear() override { m_grid.Clear(); }
 
+    CGridColumns Columns() const { return m_columns; }
+
 protected:
     /// The most rows that the table can have; it is empty at that moment.
     virtual int MostRows() const = 0;

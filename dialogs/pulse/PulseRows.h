@@ -48,6 +48,7 @@ constexpr SWzdChoice kJogMethods[] = {
     {IDS_PLSH_SUBTRACTION_DIRECTION_ON, 0x23},
 };
 
+/// Modes and output methods of a home return on a channel.
 constexpr SWzdChoice kChannelHomeModes[] = {
     {IDS_HOMING1_CW, 0x20},
     {IDS_HOMING1_CCW, 0x21},

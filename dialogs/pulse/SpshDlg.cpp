@@ -24,7 +24,7 @@ constexpr UINT kXLabels[] = {IDC_SPSH_TARGET_X_LABEL, IDC_SPSH_RESULT_SPEED_X_LA
 constexpr UINT kYLabels[] = {IDC_SPSH_TARGET_Y_LABEL, IDC_SPSH_RESULT_SPEED_Y_LABEL, IDC_SPSH_RESULT_FREQUENCY_Y_LABEL,
                              IDC_SPSH_RESULT_STEPS_Y_LABEL};
 
-// Those of the results are nothing but texts in the templates of other families.
+// The templates of other families have labels of the results that nothing is declared of.
 void DeclareLabels(CWzdExchange* wx, std::span<const UINT> labels, UINT text)
 {
     for (const UINT label : labels)
@@ -65,29 +65,31 @@ void CSpshDlg::DoFieldExchange(CWzdExchange* wx)
 
     // Without a choice of the channel the slow speeds count, whatever the label says.
     const SWzdRange speeds = Selection(IDC_SPSH_CHANNEL) == 0 ? kFastSpeeds : kSlowSpeeds;
+    const UINT topSpeedMessage = m_twoTimes ? IDS_ERR_TARGET_SPEED : IDS_ERR_MAXIMUM_SPEED;
+    const UINT timeMessage = m_twoTimes ? IDS_ERR_B_ACCELERATION_TIME : IDS_ERR_ACCELERATION_TIME;
     WDX_Number(wx, {.edit = IDC_SPSH_INITIAL,  .entry = {2, kTwoRegisters},  .limit = 6, .range = speeds,
                     .message = IDS_ERR_INITIAL_SPEED, .comment = {IDC_SPSH_SPEED_LABEL, IDC_SPSH_INITIAL_LABEL}});
     WDX_Number(wx, {.edit = IDC_SPSH_MAXIMUM,  .entry = {4, kTwoRegisters},  .limit = 6, .range = speeds,
-                    .message = static_cast<UINT>(m_twoTimes ? IDS_ERR_TARGET_SPEED : IDS_ERR_MAXIMUM_SPEED), .comment = {IDC_SPSH_SPEED_LABEL, IDC_SPSH_MAXIMUM_LABEL}});
+                    .message = topSpeedMessage, .comment = {IDC_SPSH_SPEED_LABEL, IDC_SPSH_MAXIMUM_LABEL}});
     WDX_Number(wx, {.edit = IDC_SPSH_TIME,     .entry = {6, kTwoRegisters},  .limit = 5, .range = {0, 32767},
-                    .message = static_cast<UINT>(m_twoTimes ? IDS_ERR_B_ACCELERATION_TIME : IDS_ERR_ACCELERATION_TIME)});
+                    .message = timeMessage});
     if (m_twoTimes)
         WDX_Number(wx, {.edit = IDC_SPSH_DECELERATION, .entry = {8, kTwoRegisters}, .limit = 5, .range = {0, 32767},
                         .message = IDS_ERR_B_DECELERATION_TIME});
-    const LONGLONG behind = m_twoTimes ? 10 : 8;
-    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_X, .entry = {behind, kTwoRegisters},     .limit = 8, .range = kTargets,
+    const LONGLONG targets = m_twoTimes ? 10 : 8;
+    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_X, .entry = {targets, kTwoRegisters},     .limit = 8, .range = kTargets,
                     .message = IDS_ERR_TARGET_VALUE_X, .comment = {IDC_SPSH_TARGET_LABEL, IDC_SPSH_TARGET_X_LABEL}});
-    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_Y, .entry = {behind + 2, kTwoRegisters}, .limit = 8, .range = kTargets,
+    WDX_Number(wx, {.edit = IDC_SPSH_TARGET_Y, .entry = {targets + 2, kTwoRegisters}, .limit = 8, .range = kTargets,
                     .message = IDS_ERR_TARGET_VALUE_Y, .comment = {IDC_SPSH_TARGET_LABEL, IDC_SPSH_TARGET_Y_LABEL}});
 
-    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_X,   {behind + 4, kTwoRegisters}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_X,   {behind + 6, kTwoRegisters}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_Y,   {behind + 8, kTwoRegisters}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_Y,   {behind + 10, kTwoRegisters}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_X, {behind + 12}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_Y, {behind + 13}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_X,     {behind + 14}, true);
-    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_Y,     {behind + 15}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_X,   {targets + 4, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_X,   {targets + 6, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_INITIAL_Y,   {targets + 8, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_MAXIMUM_Y,   {targets + 10, kTwoRegisters}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_X, {targets + 12}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_FREQUENCY_Y, {targets + 13}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_X,     {targets + 14}, true);
+    WDX_Register(wx, IDC_SPSH_RESULT_STEPS_Y,     {targets + 15}, true);
 }
 // clang-format on
 

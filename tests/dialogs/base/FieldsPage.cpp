@@ -2,7 +2,7 @@
 
 #include "core/FillText.h"
 #include "core/Values.h"
-#include "dialogs/grid/GridDlg.h"
+#include "dialogs/grid/GridField.h"
 #include "tests/dialogs/InstructionDialogs.h"
 #include "tests/dialogs/base/FieldRecorder.h"
 #include "tests/support/Controller.h"
@@ -18,22 +18,23 @@
 namespace
 {
 
-/// Also the fields that do not count at the moment.
-class CWholeRecorder : public CFieldRecorder
-{
-public:
-    using CFieldRecorder::CFieldRecorder;
-
-protected:
-    bool VisitsInactive() const override { return true; }
-};
-
-/// A field, with the ranges that it has in one state of the dialog or another.
+/// A field as the page shows it: what it has in one state of the dialog or another.
 struct SPageRow
 {
     SDeclaredField field;
+    std::vector<SWzdChoice> items;
     std::vector<std::string> ranges;
+    std::vector<UINT> messages;
+    std::vector<SGridColumn> columns = {};
+    std::vector<std::vector<std::string>> columnRanges = {};
 };
+
+template <typename T>
+void AddOnce(std::vector<T>& all, const T& one)
+{
+    if (std::find(all.begin(), all.end(), one) == all.end())
+        all.push_back(one);
+}
 
 std::string Std(const CString& text) { return static_cast<const char*>(text); }
 
@@ -44,49 +45,127 @@ std::string InOneLine(std::string text)
     return text;
 }
 
-std::string RangeOf(const SDeclaredField& field)
+std::string TextOf(UINT id)
 {
-    if (field.edit == 0 || !field.IsEntry())
-        return "";
-    return Std(field.format.Format(field.range.low)) + " to " + Std(field.format.Format(field.range.high));
+    CString text;
+    text.LoadString(id);
+    return Std(text);
 }
 
-void AddRanges(std::vector<SPageRow>& rows, CWzdDlgBase& dialog)
+std::string RangeText(const SWzdFormat& format, const SWzdRange& range, UINT text)
 {
-    CWholeRecorder recorder(dialog);
-    dialog.DoFieldExchange(&recorder);
-    for (const SDeclaredField& field : recorder.m_fields)
+    return text != 0 ? TextOf(text) : Std(format.Format(range.low)) + " to " + Std(format.Format(range.high));
+}
+
+/// Also the fields that do not count at the moment; what takes neither a control nor registers is none of the page.
+class CPageRecorder : public CWzdExchange
+{
+public:
+    CPageRecorder(CWzdDlgBase& dialog, std::vector<SPageRow>& rows) : CWzdExchange(dialog), m_rows(rows) {}
+
+protected:
+    bool Visit(CWzdField& field) override
     {
-        const auto same = [&](const SPageRow& row) {
-            return row.field.edit == field.edit && row.field.combo == field.combo &&
-                   row.field.entry.offset == field.entry.offset && row.field.rangeLabel == field.rangeLabel;
-        };
-        auto row = std::find_if(rows.begin(), rows.end(), same);
-        if (row == rows.end())
-            row = rows.insert(rows.end(), SPageRow{field, {}});
-        const std::string range = RangeOf(field);
-        if (!range.empty() && std::find(row->ranges.begin(), row->ranges.end(), range) == row->ranges.end())
-            row->ranges.push_back(range);
+        const SDeclaredField declared(field.Describe());
+        const auto* table = dynamic_cast<CGridField*>(&field);
+        if (declared.combo != 0 || declared.edit != 0 || declared.IsEntry() || table != nullptr)
+            Add(declared, table);
+        return true;
     }
-}
+    bool VisitsInactive() const override { return true; }
 
-/// In every state that the items of one list lead to.
+private:
+    static bool AreSame(const SDeclaredField& a, const SDeclaredField& b)
+    {
+        return a.combo == b.combo && a.edit == b.edit && a.rangeLabel == b.rangeLabel &&
+               a.comment.text == b.comment.text && a.entry.offset == b.entry.offset;
+    }
+
+    void Add(const SDeclaredField& field, const CGridField* table)
+    {
+        auto row = std::find_if(m_rows.begin(), m_rows.end(),
+                                [&](const SPageRow& known) { return AreSame(known.field, field); });
+        if (row == m_rows.end())
+            row = m_rows.insert(m_rows.end(), SPageRow{field, {}, {}, {}});
+        for (const SWzdChoice& choice : field.items)
+            if (IndexOfCode(row->items, choice.code) < 0)
+                row->items.push_back(choice);
+        if (field.edit != 0 && field.IsEntry())
+            AddOnce(row->ranges, RangeText(field.format, field.range, 0));
+        if (field.message != 0)
+            AddOnce(row->messages, field.message);
+        if (table == nullptr)
+            return;
+        row->columns.assign(table->Columns().begin(), table->Columns().end());
+        row->columnRanges.resize(row->columns.size());
+        for (size_t i = 0; i < row->columns.size(); ++i)
+            AddOnce(row->columnRanges[i],
+                    RangeText(row->columns[i].format, row->columns[i].range, row->columns[i].rangeText));
+    }
+
+    std::vector<SPageRow>& m_rows;
+};
+
+/// In every state that the items of one list or two lead to, and two buttons that choose between lists.
 std::vector<SPageRow> RowsOf(CWzdDlgBase& dialog)
 {
     std::vector<SPageRow> rows;
-    AddRanges(rows, dialog);
-    const std::vector<SPageRow> first = rows;
-    for (const SPageRow& row : first)
-    {
-        for (size_t item = 0; item < row.field.items.size(); ++item)
+    const auto add = [&] {
+        CPageRecorder recorder(dialog, rows);
+        dialog.DoFieldExchange(&recorder);
+    };
+    std::vector<UINT> lists;
+    const auto forEachItem = [&](UINT list, const auto& action) {
+        const int count = static_cast<CComboBox*>(dialog.GetDlgItem(list))->GetCount();
+        for (int item = 0; item < count; ++item)
         {
-            dialog.Select(row.field.combo, static_cast<int>(item));
-            AddRanges(rows, dialog);
+            dialog.Select(list, item);
+            action();
         }
-        if (!row.field.items.empty())
-            dialog.Select(row.field.combo, 0);
+        dialog.Select(list, 0);
+    };
+    add();
+    for (const SPageRow& row : rows)
+        if (!row.items.empty())
+            lists.push_back(row.field.combo);
+    for (size_t i = 0; i < lists.size(); ++i)
+        for (size_t other = i; other < lists.size(); ++other)
+            forEachItem(lists[i], [&] {
+                if (other == i)
+                    add();
+                else
+                    forEachItem(lists[other], add);
+            });
+    for (const bool coarse : {true, false})
+    {
+        dialog.Check(IDC_PWMH_RESOLUTION_1000, !coarse);
+        dialog.Check(IDC_PWMH_RESOLUTION_100, coarse);
+        add();
     }
     return rows;
+}
+
+bool IsOfClass(const CWnd* window, const char* name)
+{
+    char text[32] = "";
+    ::GetClassNameA(window->m_hWnd, text, sizeof text);
+    return std::string(text) == name;
+}
+
+/// The text before a control; the name of its device and buttons that belong to it stand between them.
+std::string LabelBefore(const CWzdDlgBase& dialog, UINT id)
+{
+    const CWnd* window = dialog.ControlBefore(id);
+    for (; window != nullptr; window = window->GetWindow(GW_HWNDPREV))
+    {
+        CString text;
+        window->GetWindowText(text);
+        if (IsOfClass(window, "Static") && text != "DT" && text != "Y")
+            return Std(text);
+        if (!IsOfClass(window, "Static") && !IsOfClass(window, "Button"))
+            return "";
+    }
+    return "";
 }
 
 std::string LabelOf(const CWzdDlgBase& dialog, const SDeclaredField& field)
@@ -95,13 +174,11 @@ std::string LabelOf(const CWzdDlgBase& dialog, const SDeclaredField& field)
         return Std(dialog.ItemText(field.check));
     if (field.comment.label != 0)
         return Std(dialog.ItemText(field.comment.label) + " " + dialog.ItemText(field.comment.secondLabel));
-    CString text;
-    const UINT id = field.combo != 0 ? field.combo : field.edit;
-    if (const CWnd* label = id != 0 ? dialog.ControlBefore(id) : nullptr)
-        label->GetWindowText(text);
-    else if (field.comment.text != 0)
-        text.LoadString(field.comment.text);
-    return Std(text);
+    if (const UINT id = field.combo != 0 ? field.combo : field.edit)
+        return LabelBefore(dialog, id);
+    if (field.comment.text != 0)
+        return TextOf(field.comment.text);
+    return field.rangeLabel != 0 ? "filled by the program" : "always the same";
 }
 
 std::string ControlsOf(const SDeclaredField& field)
@@ -113,18 +190,16 @@ std::string ControlsOf(const SDeclaredField& field)
     return ids;
 }
 
-std::string Items(const SDeclaredField& field)
+std::string Items(const std::vector<SWzdChoice>& items)
 {
     std::ostringstream text;
-    for (const SWzdChoice& choice : field.items)
+    for (const SWzdChoice& choice : items)
     {
-        CString item;
-        if (choice.argument == SWzdChoice::kPlainText)
-            item.LoadString(choice.text);
-        else
-            item = FillText(choice.text, {choice.argument});
-        text << (&choice == field.items.data() ? "" : "<br>") << "`" << std::hex << std::uppercase << choice.code
-             << std::dec << "` " << static_cast<const char*>(item);
+        const std::string item = choice.argument == SWzdChoice::kPlainText
+                                     ? TextOf(choice.text)
+                                     : Std(FillText(choice.text, {choice.argument}));
+        text << (&choice == items.data() ? "" : "<br>") << "`" << std::hex << std::uppercase << choice.code << std::dec
+             << "` " << item;
     }
     return text.str();
 }
@@ -135,71 +210,94 @@ std::string Devices(const SDeclaredField& field)
                        : field.devices == kListWords ? "word device and number"
                                                      : "device and number";
     for (const SWzdConstant& constant : field.constants)
-        text += std::string("<br>") + static_cast<const char*>(FormatDeviceName(constant.code)) + " " +
-                Std(constant.format.Format(constant.range.low)) + " to " +
-                Std(constant.format.Format(constant.range.high));
+        text += "<br>" + Std(FormatDeviceName(constant.code)) + " " +
+                RangeText(constant.format, constant.range, constant.rangeText);
     return text;
+}
+
+template <typename T, typename TText>
+std::string Lines(const std::vector<T>& all, TText text)
+{
+    std::string lines;
+    for (const T& one : all)
+        lines += (lines.empty() ? "" : "<br>") + text(one);
+    return lines;
 }
 
 std::string ContentOf(const SPageRow& row)
 {
-    if (!row.field.items.empty())
-        return Items(row.field);
+    if (!row.items.empty())
+        return Items(row.items);
     if (row.field.combo != 0)
         return Devices(row.field);
-    std::string text;
-    for (const std::string& range : row.ranges)
-        text += (text.empty() ? "" : "<br>") + range;
-    return text;
+    return Lines(row.ranges, [](const std::string& range) { return range; });
 }
 
 std::string PlaceOf(const SDeclaredField& field)
 {
-    if (field.bits.width > 0)
-        return "control code, bits " + std::to_string(field.bits.shift) + " to " +
-               std::to_string(field.bits.shift + field.bits.width - 1);
+    const int last = field.bits.shift + field.bits.width - 1;
+    if (field.bits.width == 1)
+        return "control code, bit " + std::to_string(last);
+    if (field.bits.width > 1)
+        return "control code, bits " + std::to_string(field.bits.shift) + " to " + std::to_string(last);
     if (!field.IsEntry())
         return "";
     const std::string each = field.entry.type == kOneRegister ? "one register" : "two registers";
-    return "n+" + std::to_string(field.entry.offset) + ", " + each +
-           (field.entry.count > 1 ? " each, " + std::to_string(field.entry.count) + " of them" : "");
+    return "n+" + std::to_string(field.entry.offset) + ", " + each;
 }
 
 void PrintRow(std::ostream& out, const CWzdDlgBase& dialog, const SPageRow& row)
 {
-    const SDeclaredField& field = row.field;
-    const std::string controls = ControlsOf(field), place = PlaceOf(field);
-    if (controls.empty() && place.empty())
-        return; // a label that follows others
-    out << "| " << InOneLine(LabelOf(dialog, field)) << " | " << controls << " | " << InOneLine(ContentOf(row)) << " | "
-        << place << " | " << (field.message != 0 ? std::to_string(field.message) : "") << " |\n";
+    const auto number = [](UINT message) { return std::to_string(message); };
+    if (row.columns.empty())
+    {
+        out << "| " << InOneLine(LabelOf(dialog, row.field)) << " | " << ControlsOf(row.field) << " | "
+            << InOneLine(ContentOf(row)) << " | " << PlaceOf(row.field) << " | " << Lines(row.messages, number)
+            << " |\n";
+        return;
+    }
+    const auto& grid = dynamic_cast<const CGridDlg&>(dialog).Grid();
+    for (size_t i = 0; i < row.columns.size(); ++i)
+    {
+        const SGridColumn& column = row.columns[i];
+        const CString heading = dialog.ItemText(grid.Controls().headings[i]);
+        const int end = heading.Find('\n');
+        out << "| column " << Std(end < 0 ? heading : heading.Left(end)) << " | " << grid.Controls().headings[i]
+            << " | " << Lines(row.columnRanges[i], [](const std::string& range) { return range; }) << " | from n+"
+            << row.field.entry.offset << ", "
+            << (row.field.entry.type == kOneRegister ? "one register" : "two registers") << " each | " << column.message
+            << " |\n";
+    }
 }
 
 void PrintDialog(std::ostream& out, const SInstructionDialog& row, CWzdDlgBase& dialog)
 {
     CString caption;
     dialog.GetWindowText(caption);
-    out << "\n## " << row.name << ": " << static_cast<const char*>(caption) << "\n\n"
+    out << "\n## " << Std(caption) << " (" << row.name << ")\n\n"
         << "| field | controls | content | place | message |\n|---|---|---|---|---|\n";
     for (const SPageRow& pageRow : RowsOf(dialog))
         PrintRow(out, dialog, pageRow);
-    if (auto* withTable = dynamic_cast<CGridDlg*>(&dialog))
-        for (const UINT heading : withTable->Grid().Controls().headings)
-            out << "| column " << InOneLine(Std(dialog.ItemText(heading))) << " | " << heading << " | | | |\n";
 }
+
+constexpr char kHead[] = R"(# The fields of the dialogs
+
+Made from what the dialogs declare; a test compares it, and `PEXLO_WRITE_PAGES=1` in its environment writes it anew. Each
+row is a field, in the order in which it is checked: the ids of its controls; its items, each with its code in hexadecimal,
+or its ranges, which depend on the lists above it; where it stands in the data table, which begins at register n; and the
+message that is shown when an entry is outside the range. What no number can be read from is told by message 20001.
+
+F174 stores its table row by row and a 0 behind it, scaling its points column by column. The controls of the screen's lines
+and marks are in `dialogs/process/ScreenField.cpp`, what they make of the control data in `ScreenSettings.h`. Names that
+end in B and C are the dialogs of those families of controllers.
+)";
 
 } // namespace
 
 std::string FieldsPage()
 {
     std::ostringstream out;
-    out << "# The fields of the dialogs\n\n"
-           "Made from what the dialogs declare; a test compares it (`PEXLO_WRITE_PAGES=1` writes it anew). Each row is "
-           "a "
-           "field in the\norder in which it is checked: the ids of its controls; its items, each with its code in "
-           "hexadecimal, or its range, one for\neach state of the lists that it depends on; where it stands in the "
-           "data table, which begins at register n; and the message\nthat is shown when an entry is outside the range. "
-           "What no number can be read from is told by message 20001.\n";
+    out << kHead;
     for (const SInstructionDialog& row : kInstructionDialogs)
     {
         CFunWizard wizard;

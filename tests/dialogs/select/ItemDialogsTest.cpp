@@ -172,13 +172,13 @@ TEST_F(CItemDialogsTest, AreThoseOfTheFamily)
         [this](const SItemDialogs& list, int i) { Choose(list, i, list.items[static_cast<size_t>(i)].dialog == 0); });
 }
 
-// The module lists the items of families A and C; those of family C it cannot open.
+// The module lists the items of every family, those of family B without their texts, and opens family A's dialogs
+// alone.
 TEST_F(CItemDialogsTest, LeadBackWithoutALanguageLibrary)
 {
     m_wizard.SetLanguageInfo(-1);
     ForEachItem([this](const SItemDialogs& list, int i) {
         const UINT dialog = list.items[static_cast<size_t>(i)].dialog;
-        if (list.plcType == kPlcFamilyA || list.plcType == kPlcFamilyC)
-            Choose(list, i, dialog == 0 || kInLibrariesOnly.count(dialog) > 0);
+        Choose(list, i, dialog == 0 || kInLibrariesOnly.count(dialog) > 0);
     });
 }
