@@ -18,6 +18,6 @@ void CF177Dlg::DoFieldExchange(CWzdExchange* wx)
     WDX_ChannelSpeed(wx, IDC_F177_TARGET_SPEED, 2, IDS_ERR_TARGET_SPEED);
     WDX_ChannelTimes(wx, IDC_F177_ACCELERATION, IDC_F177_DECELERATION, 4);
     WDX_ChannelSpeed(wx, IDC_F177_CREEP, 8, IDS_ERR_F177_CREEP_SPEED);
-    WDX_CounterClear(wx, IDC_F177_CLEAR, 10, IDS_ERR_F177_COUNTER_CLEAR_TIME);
+    WDX_CounterClear(wx, IDC_F177_CLEAR, 10, IDS_ERR_F177_COUNTER_CLEAR_SIGNAL);
 }
 // clang-format on

@@ -24,7 +24,7 @@ void CSpdhChDlg::DoFieldExchange(CWzdExchange* wx)
     if (m_homeReturn)
     {
         WDX_ChannelSpeed(wx, IDC_SPDH_CREEP, 10, IDS_ERR_B_CREEP_SPEED);
-        WDX_CounterClear(wx, IDC_SPDH_CLEAR, 12, IDS_ERR_B_COUNTER_CLEAR_TIME);
+        WDX_CounterClear(wx, IDC_SPDH_CLEAR, 12, IDS_ERR_B_COUNTER_CLEAR_SIGNAL);
     }
     else
         WDX_Number  (wx, {.edit = IDC_SPDH_TARGET, .entry = {10, kTwoRegisters}, .limit = 11, .range = kAnyDoubleWord,

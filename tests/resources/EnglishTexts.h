@@ -328,9 +328,9 @@ inline constexpr SEnglishText kLibraryMessages[] = {
     {20047, "The inputted deceleration time has become the outside of the range.\nPlease input the right value."},
     {20048, "The inputted creep speed has become the outside of the range.\nPlease input the right value."},
     {20049, "The inputted creep speed has become the outside of the range.\nPlease input the right value."},
-    {20050, "The inputted deviation counter clear time has become the outside of the range.\n"
+    {20050, "The inputted deviation counter clear signal has become the outside of the range.\n"
             "Please input the right value."},
-    {20051, "The inputted deviation counter clear time has become the outside of the range.\n"
+    {20051, "The inputted deviation counter clear signal has become the outside of the range.\n"
             "Please input the right value."},
 };
 // clang-format on

@@ -38,7 +38,7 @@ struct SContactRecord
 TEST_F(CContactComboTest, ListsThePresentBitDevicesInOrder)
 {
     // In the order of their codes; words and constants are never listed.
-    for (const int code : {kL, kR, kY, kX, kT,    kC,  kSV, kEV, 8,   kDT,       10,         kK,
+    for (const int code : {kL, kR, kY, kX, kT, kC,  kSV, kEV, 8,   kDT,       10,         kK,
                            kH, 15, 17, 18, kF, kWL, kWR, kWY, kWX, kSpecialR, kSpecialDT, 20065})
         SetDeviceRange(m_wizard, code, 0, 15);
     InProbe([&](CDialogRobot& robot) {
