@@ -140,16 +140,17 @@ inline SExpectedTemplate ExpectedChannelSpsh()
 
 inline SExpectedTemplate ExpectedF177()
 {
-    return {.id = 1067,
-            .caption = "F177",
-            .controls = Joined(
-                {ExpectedTop("F177 (177)\tPulse output (with channel specification) (Home position return)", 2551, 2552),
-                 ExpectedList("The channel for a pulse output", 2553), ExpectedList("Homing mode", 2554),
-                 ExpectedChannelSpeed("Target speed", 2555), ExpectedChannelTime("Acceleration time", 2556),
-                 ExpectedChannelTime("Deceleration time", 2557), ExpectedChannelSpeed("Creep speed", 2558),
-                 ExpectedCounterClear(2559), ExpectedButtons()}),
-            .items = {{2553, {11039}}, {2554, ExpectedIds(kFirstHomeMode, kLastHomeMode)}},
-            .onlyInLibraries = true};
+    return {
+        .id = 1067,
+        .caption = "F177",
+        .controls = Joined(
+            {ExpectedTop("F177 (177)\tPulse output (with channel specification) (Home position return)", 2551, 2552),
+             ExpectedList("The channel for a pulse output", 2553), ExpectedList("Homing mode", 2554),
+             ExpectedChannelSpeed("Target speed", 2555), ExpectedChannelTime("Acceleration time", 2556),
+             ExpectedChannelTime("Deceleration time", 2557), ExpectedChannelSpeed("Creep speed", 2558),
+             ExpectedCounterClear(2559), ExpectedButtons()}),
+        .items = {{2553, {11039}}, {2554, ExpectedIds(kFirstHomeMode, kLastHomeMode)}},
+        .onlyInLibraries = true};
 }
 
 inline SExpectedTemplate ExpectedFrequencyPwmh()

@@ -364,7 +364,7 @@ SPulseForm F177()
 {
     return {.name = "F177",
             .instruction = 177,
-            .heading = "F177 (177)\tPulse output (with channel specification)(home position return)",
+            .heading = "F177 (177)\tPulse output (with channel specification) (Home position return)",
             .make = Make<CF177Dlg>,
             .start = 2551,
             .startLabel = 2552,
