@@ -14,6 +14,16 @@ CString LeftWhole(const CString& text, int bytes)
     return text.Left(length);
 }
 
+CString FitEntered(const CString& entered, const CString& before, int bytes)
+{
+    int same = 0;
+    while (same < before.GetLength() && entered[same] == before[same])
+        ++same;
+    const int rest = before.GetLength() - same;
+    const bool isPutBefore = rest > 0 && entered.Right(rest) == before.Right(rest);
+    return entered.GetLength() > bytes && isPutBefore ? before : LeftWhole(entered, bytes);
+}
+
 namespace
 {
 

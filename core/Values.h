@@ -82,6 +82,10 @@ bool IsRealOutOfRange(LPCSTR text);
 /// As much of a text as so many bytes hold, in whole characters.
 CString LeftWhole(const CString& text, int bytes);
 
+/// What becomes of a text that was `before` when the user has entered more than so many bytes: what goes on too long is
+/// cut, and what was put before a part of the text finds no room.
+CString FitEntered(const CString& entered, const CString& before, int bytes);
+
 /// Takes the first line that fits into `width` pixels off `text`, broken after the last blank that fits, or before the
 /// first character that does not fit; "\r\n" always ends a line. At least one character is taken.
 CString TakeFittingLine(CDC* dc, int width, CString& text);

@@ -50,6 +50,7 @@ CPlainDialog::SState CPlainDialog::StateOf(HWND window)
         for (WPARAM i = 0; i < count; ++i)
             state.items.emplace_back(ItemText(window, i), ::SendMessageA(window, CB_GETITEMDATA, i, 0));
         state.selection = ::SendMessageA(window, CB_GETCURSEL, 0, 0);
+        state.itemHeight = ::SendMessageA(window, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0);
     }
     if (IsOfClass(window, "Button"))
         state.check = ::SendMessageA(window, BM_GETCHECK, 0, 0);
@@ -143,6 +144,8 @@ void CPlainDialog::Change(HWND window, const SState& from, const SState& to)
 {
     if (to.font != from.font)
         ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(to.font), TRUE); // as SetDlgFont promises
+    if (to.itemHeight != from.itemHeight)
+        ::SendMessageA(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), to.itemHeight);
     if (to.items != from.items || to.selection != from.selection)
         FillCombo(window, to);
     if (to.text != from.text && !to.isCombo)

@@ -34,6 +34,7 @@ private:
         std::string text;
         std::vector<std::pair<std::string, LRESULT>> items;
         LRESULT selection = 0;
+        LRESULT itemHeight = 0; // of a combo's closed field
         LRESULT check = 0;
         LRESULT limit = 0;
         LRESULT font = 0;

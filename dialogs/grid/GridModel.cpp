@@ -1,37 +1,8 @@
 #include "dialogs/grid/GridModel.h"
 
+#include "dialogs/grid/CellText.h"
+
 #include <algorithm>
-#include <cstring>
-#include <string>
-#include <string_view>
-
-namespace
-{
-
-constexpr char kBlank = ' ';
-
-std::string_view Trimmed(std::string_view text)
-{
-    const size_t first = text.find_first_not_of(kBlank);
-    return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(kBlank) + 1 - first);
-}
-
-CString MakeText(std::string_view text) { return {text.data(), static_cast<int>(text.size())}; }
-
-/// Takes the part up to any of `separators`, or all of it, off a text. False when nothing separated it. A line break of
-/// two characters is one.
-bool TakePart(std::string_view& text, const char* separators, std::string_view& part)
-{
-    const size_t end = text.find_first_of(separators);
-    part = text.substr(0, end);
-    text.remove_prefix(part.size());
-    text.remove_prefix(text.starts_with("\r\n") ? 2 : !text.empty());
-    return end != text.npos;
-}
-
-constexpr char kLineBreaks[] = "\r\n";
-
-} // namespace
 
 // ---- Size -----------------------------------------------------------------------------------------------------------
 
@@ -62,7 +33,7 @@ LPCSTR CGridModel::Text(SGridCell cell) const
 
 void CGridModel::SetText(SGridCell cell, LPCSTR text)
 {
-    Fill(Index(cell), MakeText(Trimmed(text)));
+    Fill(Index(cell), MakeText(TrimmedCell(text)));
     Trim();
 }
 
@@ -108,61 +79,6 @@ void CGridModel::DeleteRow()
     const auto first = m_cells.begin() + static_cast<std::ptrdiff_t>(Index({m_current.row, 0}));
     m_cells.erase(first, first + m_columns);
     Trim();
-}
-
-SGridLoss CGridModel::Paste(LPCSTR text)
-{
-    struct SPasted
-    {
-        size_t index;
-        CString text;
-    };
-    const char* separators = std::strchr(text, '\t') != nullptr ? "\t" : ",";
-    std::vector<SPasted> pasted;
-    SGridLoss loss;
-    std::string_view rest = text, line, cell;
-    for (int row = m_current.row; !rest.empty(); ++row)
-    {
-        TakePart(rest, kLineBreaks, line);
-        bool filled = false, more = true;
-        for (int column = m_current.column; more; ++column)
-        {
-            more = TakePart(line, separators, cell);
-            cell = Trimmed(cell);
-            filled = filled || !cell.empty();
-            if (row < m_mostRows && column < m_columns)
-                pasted.push_back({Index({row, column}), MakeText(cell)});
-            else if (row < m_mostRows && !cell.empty())
-                loss.columns = std::max(loss.columns, column + 1 - m_columns);
-        }
-        loss.rows += filled && row >= m_mostRows;
-    }
-    if (!pasted.empty()) // from here on nothing fails
-        m_cells.reserve(std::max(m_cells.size(), (pasted.back().index / m_columns + 1) * m_columns));
-    for (SPasted& one : pasted)
-        Fill(one.index, std::move(one.text));
-    Trim();
-    GoTo(m_current);
-    return loss;
-}
-
-bool CGridModel::IsTable(LPCSTR text)
-{
-    std::string_view rest = text, line;
-    TakePart(rest, kLineBreaks, line);
-    return !rest.empty() || line.find('\t') != line.npos;
-}
-
-CString CGridModel::Copy(int firstRow, int endRow) const
-{
-    std::string text;
-    for (int row = firstRow; row < endRow; ++row)
-        for (int column = 0; column < m_columns; ++column)
-        {
-            text += Text({row, column});
-            text += column + 1 < m_columns ? "\t" : "\r\n";
-        }
-    return MakeText(text);
 }
 
 // ---- The current cell and the view ----------------------------------------------------------------------------------

@@ -1,7 +1,5 @@
 #include "dialogs/grid/GridView.h"
 
-#include "afx/Clipboard.h"
-#include "core/FillText.h"
 #include "core/Memory.h"
 #include "core/Values.h"
 
@@ -173,32 +171,4 @@ void CGridView::InsertRow()
 void CGridView::DeleteRow()
 {
     Do([this] { m_model.DeleteRow(); });
-}
-
-void CGridView::Paste()
-{
-    SGridLoss loss;
-    Do([&] {
-        CString text;
-        if (AfxGetClipboardText(this, text))
-            loss = m_model.Paste(text);
-    });
-    if (loss == SGridLoss())
-        return;
-    const int enough = WithMemory([&] {
-        const CString message = FillText(IDS_GRID_NO_ROOM, {loss.rows, loss.columns});
-        m_dialog.ShowWarningText(message);
-    });
-    if (!enough)
-        m_dialog.ShowWarning(IDS_ERR_MEMORY);
-}
-
-void CGridView::CopyRow()
-{
-    Do([this] { AfxSetClipboardText(this, m_model.CopyRow()); });
-}
-
-void CGridView::CopyAll()
-{
-    Do([this] { AfxSetClipboardText(this, m_model.CopyAll()); });
 }

@@ -171,27 +171,16 @@ private:
         StoreText(line);
     }
 
-    // The limit of an edit counts characters; that of a line, bytes. What goes on too long is cut; what is put before a
-    // part of the text finds no room.
+    // The limit of an edit counts characters; that of a line, bytes.
     void StoreText(SScreenLine& line)
     {
         const CString entered = m_dialog.ItemText(IDC_SCREEN_TEXT);
-        if (entered.GetLength() <= kScreenDigits || !IsPutBefore(entered, line.text))
-            line.text = LeftWhole(entered, kScreenDigits);
+        line.text = FitEntered(entered, line.text, kScreenDigits);
         if (line.text == entered)
             return;
         auto* edit = static_cast<CEdit*>(m_dialog.GetDlgItem(IDC_SCREEN_TEXT));
         edit->SetWindowText(line.text);
         edit->SetSel(line.text.GetLength(), line.text.GetLength());
-    }
-
-    static bool IsPutBefore(const CString& entered, const CString& before)
-    {
-        int same = 0;
-        while (same < before.GetLength() && entered[same] == before[same])
-            ++same;
-        const int rest = before.GetLength() - same;
-        return rest > 0 && entered.Right(rest) == before.Right(rest);
     }
 
     SScreenInput& m_input;

@@ -106,4 +106,22 @@ TEST_F(CLeftWholeTest, AgreesWithTheModel)
     }
 }
 
+TEST(FitEntered, CutsWhatGoesOnAndPushesNothingOut)
+{
+    const struct
+    {
+        const char* entered;
+        const char* before;
+        const char* fits;
+    } kTexts[] = {
+        {"abcde", "abcd", "abcde"},   {"ab", "abcde", "ab"},       {"", "abcde", ""},
+        {"abcdefgh", "", "abcde"},    {"abcdefgh", "ab", "abcde"}, {"abcdef", "abcde", "abcde"},
+        {"Xabcde", "abcde", "abcde"}, {"abXYcd", "abcd", "abcd"},  {"abcXYd", "abcd", "abcd"},
+        {"uvwxyz", "abcd", "uvwxy"},  {"aXbcd", "abcd", "aXbcd"},  {"XYZabcde", "de", "de"},
+    };
+    for (const auto& text : kTexts)
+        EXPECT_EQ(FitEntered(text.entered, text.before, 5), CString(text.fits))
+            << text.entered << " for " << text.before;
+}
+
 } // namespace
