@@ -16,6 +16,16 @@ bool IsOfClass(HWND window, const char* name)
     return ::lstrcmpiA(text, name) == 0;
 }
 
+constexpr auto kClosedField = static_cast<WPARAM>(-1);
+
+/// What `untouched` is to be told so that its closed field becomes as high as that of `combo`: some systems add to it.
+LRESULT HeightToSet(HWND combo, HWND untouched)
+{
+    const LRESULT wanted = ::SendMessageA(combo, CB_GETITEMHEIGHT, kClosedField, 0);
+    ::SendMessageA(untouched, CB_SETITEMHEIGHT, kClosedField, wanted);
+    return 2 * wanted - ::SendMessageA(untouched, CB_GETITEMHEIGHT, kClosedField, 0);
+}
+
 std::string TextOf(HWND window)
 {
     std::string text(static_cast<size_t>(::GetWindowTextLengthA(window)), '\0');
@@ -50,7 +60,6 @@ CPlainDialog::SState CPlainDialog::StateOf(HWND window)
         for (WPARAM i = 0; i < count; ++i)
             state.items.emplace_back(ItemText(window, i), ::SendMessageA(window, CB_GETITEMDATA, i, 0));
         state.selection = ::SendMessageA(window, CB_GETCURSEL, 0, 0);
-        state.itemHeight = ::SendMessageA(window, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0);
     }
     if (IsOfClass(window, "Button"))
         state.check = ::SendMessageA(window, BM_GETCHECK, 0, 0);
@@ -87,6 +96,9 @@ void CPlainDialog::Learn(HWND dialog)
     const HWND untouched =
         ::CreateDialogIndirectParamA(Module(), m_template, ::GetWindow(dialog, GW_OWNER), &DialogProc, 0);
     m_before = StatesOf(untouched);
+    for (HWND item = ::GetWindow(dialog, GW_CHILD); item != nullptr; item = ::GetWindow(item, GW_HWNDNEXT))
+        if (IsOfClass(item, "ComboBox") && (::GetWindowLongA(item, GWL_STYLE) & CBS_OWNERDRAWFIXED) != 0)
+            m_fieldHeights[::GetDlgCtrlID(item)] = HeightToSet(item, ::GetDlgItem(untouched, ::GetDlgCtrlID(item)));
     ::DestroyWindow(untouched);
     ::SetActiveWindow(dialog);
 }
@@ -138,14 +150,14 @@ void CPlainDialog::Make(HWND dialog) const
     HWND item = ::GetWindow(dialog, GW_CHILD);
     for (size_t i = 1; i < m_after.size(); ++i, item = ::GetWindow(item, GW_HWNDNEXT))
         Change(item, m_before[i], m_after[i]);
+    for (const auto& [id, height] : m_fieldHeights)
+        ::SendMessageA(::GetDlgItem(dialog, id), CB_SETITEMHEIGHT, kClosedField, height);
 }
 
 void CPlainDialog::Change(HWND window, const SState& from, const SState& to)
 {
     if (to.font != from.font)
         ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(to.font), TRUE); // as SetDlgFont promises
-    if (to.itemHeight != from.itemHeight)
-        ::SendMessageA(window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), to.itemHeight);
     if (to.items != from.items || to.selection != from.selection)
         FillCombo(window, to);
     if (to.text != from.text && !to.isCombo)

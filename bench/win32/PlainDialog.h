@@ -3,6 +3,7 @@
 
 #include "afx/afx.h"
 
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,7 +35,6 @@ private:
         std::string text;
         std::vector<std::pair<std::string, LRESULT>> items;
         LRESULT selection = 0;
-        LRESULT itemHeight = 0; // of a combo's closed field
         LRESULT check = 0;
         LRESULT limit = 0;
         LRESULT font = 0;
@@ -54,6 +54,7 @@ private:
     void Make(HWND dialog) const;
 
     LPCDLGTEMPLATE m_template;
-    std::vector<SState> m_before; ///< the dialog itself, then its controls in their order
+    std::vector<SState> m_before;          ///< the dialog itself, then its controls in their order
+    std::map<int, LRESULT> m_fieldHeights; // to be set, of drawn combos by their ids
     std::vector<SState> m_after;
 };
