@@ -1,5 +1,8 @@
 #include "afx/Clipboard.h"
 
+#include "afx/CodePage.h"
+
+#include <algorithm>
 #include <cstring>
 
 namespace
@@ -26,18 +29,18 @@ private:
 
 } // namespace
 
-BOOL AfxIsClipboardText() { return ::IsClipboardFormatAvailable(CF_TEXT); }
+BOOL AfxIsClipboardText() { return ::IsClipboardFormatAvailable(CF_UNICODETEXT); }
 
 BOOL AfxGetClipboardText(CWnd* owner, CString& text)
 {
     const COpenClipboard clipboard(owner);
-    const HANDLE data = clipboard ? ::GetClipboardData(CF_TEXT) : nullptr;
-    const auto* content = data ? static_cast<LPCSTR>(::GlobalLock(data)) : nullptr;
+    const HANDLE data = clipboard ? ::GetClipboardData(CF_UNICODETEXT) : nullptr;
+    const auto* content = data ? static_cast<LPCWSTR>(::GlobalLock(data)) : nullptr;
     if (!content)
         return FALSE;
     // What other programs leave need not be terminated.
-    const void* end = std::memchr(content, '\0', ::GlobalSize(data));
-    text = CString(content, static_cast<int>(end ? static_cast<LPCSTR>(end) - content : ::GlobalSize(data)));
+    const LPCWSTR last = content + ::GlobalSize(data) / sizeof(WCHAR);
+    text = AfxNarrow(content, static_cast<int>(std::find(content, last, WCHAR(0)) - content));
     ::GlobalUnlock(data);
     return TRUE;
 }
@@ -45,13 +48,14 @@ BOOL AfxGetClipboardText(CWnd* owner, CString& text)
 BOOL AfxSetClipboardText(CWnd* owner, LPCSTR text)
 {
     const COpenClipboard clipboard(owner);
-    const size_t size = std::strlen(text) + 1;
+    const CWideText wide(text);
+    const size_t size = static_cast<size_t>(wide.GetLength() + 1) * sizeof(WCHAR);
     const HGLOBAL data = clipboard && ::EmptyClipboard() ? ::GlobalAlloc(GMEM_MOVEABLE, size) : nullptr;
     if (!data)
         return FALSE;
-    std::memcpy(::GlobalLock(data), text, size);
+    std::memcpy(::GlobalLock(data), wide, size);
     ::GlobalUnlock(data);
-    if (::SetClipboardData(CF_TEXT, data)) // which takes the memory over
+    if (::SetClipboardData(CF_UNICODETEXT, data)) // which takes the memory over
         return TRUE;
     ::GlobalFree(data);
     return FALSE;

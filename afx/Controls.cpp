@@ -1,5 +1,7 @@
 #include "afx/Controls.h"
 
+#include "afx/CodePage.h"
+
 #include <algorithm>
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
@@ -16,21 +18,30 @@ static_assert(sizeof(CStatic) == sizeof(CWnd) && sizeof(CButton) == sizeof(CWnd)
 
 namespace
 {
-// Both kinds of lists tell a text's length first and then the text.
-template <class LIST>
-void ReadItem(const LIST& list, int (LIST::*read)(int, LPSTR) const, int index, int length, CString& text)
+int AddItem(HWND list, UINT message, LPCSTR text)
 {
-    (list.*read)(index, text.GetBufferSetLength(std::max(length, 0)));
-    text.ReleaseBuffer(std::max(length, 0));
+    const CWideText wide(text);
+    return static_cast<int>(::SendMessageW(list, message, 0, reinterpret_cast<LPARAM>(static_cast<LPCWSTR>(wide))));
+}
+
+// Both kinds of lists tell a text's length first and then the text.
+void ReadItem(HWND list, UINT lengthMessage, UINT textMessage, int index, CString& text)
+{
+    const auto item = static_cast<WPARAM>(index);
+    const auto length = static_cast<int>(::SendMessageW(list, lengthMessage, item, 0));
+    const CWideBuffer shown(std::max(length, 0) + 1);
+    ::SendMessageW(list, textMessage, item, reinterpret_cast<LPARAM>(shown.Get()));
+    text = AfxNarrow(shown.Get(), std::max(length, 0));
 }
 } // namespace
 
+int CComboBox::AddString(LPCSTR text) { return AddItem(m_hWnd, CB_ADDSTRING, text); }
+
 void CComboBox::GetLBText(int index, CString& text) const
 {
-    ReadItem<CComboBox>(*this, &CComboBox::GetLBText, index, GetLBTextLen(index), text);
+    ReadItem(m_hWnd, CB_GETLBTEXTLEN, CB_GETLBTEXT, index, text);
 }
 
-void CListBox::GetText(int index, CString& text) const
-{
-    ReadItem<CListBox>(*this, &CListBox::GetText, index, GetTextLen(index), text);
-}
+int CListBox::AddString(LPCSTR text) { return AddItem(m_hWnd, LB_ADDSTRING, text); }
+
+void CListBox::GetText(int index, CString& text) const { ReadItem(m_hWnd, LB_GETTEXTLEN, LB_GETTEXT, index, text); }

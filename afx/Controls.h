@@ -38,7 +38,7 @@ class AFX_API CEdit : public CWnd
 
     /// 0 means no limit of ours.
     void LimitText(int characters = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(characters)); }
-    /// (0, -1) selects everything. The caret is scrolled into view unless `noScroll`.
+    /// Positions are characters; (0, -1) selects everything. The caret is scrolled into view unless `noScroll`.
     void SetSel(int first, int last, BOOL noScroll = FALSE)
     {
         SendMessage(EM_SETSEL, static_cast<WPARAM>(first), last);
@@ -69,7 +69,7 @@ class AFX_API CComboBox : public CWnd
     int GetCount() const { return Send(CB_GETCOUNT); }
     int GetCurSel() const { return Send(CB_GETCURSEL); }
     int SetCurSel(int index) { return Send(CB_SETCURSEL, index); }
-    int AddString(LPCSTR text) { return Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)); }
+    int AddString(LPCSTR text);
     void ResetContent() { Send(CB_RESETCONTENT); }
     DWORD_PTR GetItemData(int index) const
     {
@@ -79,8 +79,6 @@ class AFX_API CComboBox : public CWnd
     /// Of the items or, with index -1, of the field that shows the selected one.
     int GetItemHeight(int index) const { return Send(CB_GETITEMHEIGHT, index); }
     int SetItemHeight(int index, UINT height) { return Send(CB_SETITEMHEIGHT, index, static_cast<LPARAM>(height)); }
-    int GetLBTextLen(int index) const { return Send(CB_GETLBTEXTLEN, index); }
-    int GetLBText(int index, LPSTR text) const { return Send(CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text)); }
     /// Empty when there is no such item.
     void GetLBText(int index, CString& text) const;
 
@@ -104,15 +102,13 @@ class AFX_API CListBox : public CWnd
     int GetCount() const { return Send(LB_GETCOUNT); }
     int GetCurSel() const { return Send(LB_GETCURSEL); }
     int SetCurSel(int index) { return Send(LB_SETCURSEL, index); }
-    int AddString(LPCSTR text) { return Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)); }
+    int AddString(LPCSTR text);
     void ResetContent() { Send(LB_RESETCONTENT); }
     DWORD_PTR GetItemData(int index) const
     {
         return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(index)));
     }
     int SetItemData(int index, DWORD_PTR data) { return Send(LB_SETITEMDATA, index, static_cast<LPARAM>(data)); }
-    int GetTextLen(int index) const { return Send(LB_GETTEXTLEN, index); }
-    int GetText(int index, LPSTR text) const { return Send(LB_GETTEXT, index, reinterpret_cast<LPARAM>(text)); }
     /// Empty when there is no such item.
     void GetText(int index, CString& text) const;
     /// In dialog units from the left edge.

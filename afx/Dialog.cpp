@@ -115,7 +115,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINST
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;
     const LPCDLGTEMPLATE given = std::exchange(m_lpDialogTemplate, dialogTemplate);
-    ::CreateDialogIndirectParamA(instance, dialogTemplate, owner, DialogProc, reinterpret_cast<LPARAM>(this));
+    ::CreateDialogIndirectParamW(instance, dialogTemplate, owner, DialogProc, reinterpret_cast<LPARAM>(this));
     m_lpDialogTemplate = given;
     if (!ContinueModal())
         DestroyWindow();
@@ -164,5 +164,5 @@ BOOL CDialog::PreTranslateMessage(MSG* message)
 {
     const bool isInput = (message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST) ||
                          (message->message >= WM_MOUSEFIRST && message->message <= WM_MOUSELAST);
-    return isInput && ::IsDialogMessageA(m_hWnd, message);
+    return isInput && ::IsDialogMessageW(m_hWnd, message);
 }

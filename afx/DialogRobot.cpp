@@ -247,8 +247,8 @@ void CDialogRobot::Pump()
     MSG message;
     for (int i = 0; i < kMaxPumped && IsOpen(); ++i)
     {
-        const bool found = PeekMessageA(&message, nullptr, 0, kStep - 1, PM_REMOVE) ||
-                           PeekMessageA(&message, nullptr, kStep + 1, 0xFFFF, PM_REMOVE);
+        const bool found = PeekMessageW(&message, nullptr, 0, kStep - 1, PM_REMOVE) ||
+                           PeekMessageW(&message, nullptr, kStep + 1, 0xFFFF, PM_REMOVE);
         if (!found)
             return;
         if (message.message == WM_QUIT)
@@ -260,7 +260,7 @@ void CDialogRobot::Pump()
             if (PreTranslate(&message))
                 return;
             TranslateMessage(&message);
-            DispatchMessageA(&message);
+            DispatchMessageW(&message);
         });
     }
 }
@@ -274,7 +274,7 @@ bool CDialogRobot::PreTranslate(MSG* message) const
         if (object != nullptr && object->PreTranslateMessage(message))
             return true;
         if (window == Current())
-            return object == nullptr && IsDialogMessageA(window, message);
+            return object == nullptr && IsDialogMessageW(window, message);
     }
     return false;
 }

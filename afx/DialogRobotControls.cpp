@@ -29,10 +29,10 @@ SListMessages ListMessages(HWND list)
 CString ItemText(HWND list, int index)
 {
     const SListMessages messages = ListMessages(list);
-    const LRESULT length = SendMessageA(list, messages.getTextLength, static_cast<WPARAM>(index), 0);
-    std::vector<char> text(static_cast<size_t>(std::max<LRESULT>(length, 0)) + 1);
-    SendMessageA(list, messages.getText, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
-    return CString(text.data());
+    const LRESULT length = SendMessageW(list, messages.getTextLength, static_cast<WPARAM>(index), 0);
+    std::vector<WCHAR> text(static_cast<size_t>(std::max<LRESULT>(length, 0)) + 1);
+    SendMessageW(list, messages.getText, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
+    return AfxNarrow(text.data(), static_cast<int>(text.size()) - 1);
 }
 
 // As the Tab key moves it, so that the default button follows and an edit selects its text.
@@ -191,8 +191,9 @@ void CDialogRobot::Type(UINT id, LPCSTR text)
         SendMessageA(edit, EM_SETSEL, 0, -1);
         SendMessageA(edit, WM_CLEAR, 0, 0);
     });
-    for (; *text != '\0'; ++text)
-        PostMessageA(edit, WM_CHAR, static_cast<unsigned char>(*text), 1);
+    const CWideText typed(text);
+    for (int i = 0; i < typed.GetLength(); ++i)
+        PostMessageW(edit, WM_CHAR, static_cast<LPCWSTR>(typed)[i], 1);
     Pump();
 }
 
@@ -200,7 +201,7 @@ void CDialogRobot::SetText(UINT id, LPCSTR text)
 {
     const CInside inside(true);
     if (HWND control = UsableControl(id))
-        Outside([&] { SetWindowTextA(control, text); });
+        Outside([&] { SetWindowTextW(control, CWideText(text)); });
 }
 
 void CDialogRobot::Select(UINT id, int index)
@@ -292,12 +293,13 @@ void CDialogRobot::PressKey(UINT key, std::initializer_list<UINT> held)
 void CDialogRobot::Paste(LPCSTR text)
 {
     const CInside inside(true);
-    const size_t size = std::strlen(text) + 1;
+    const CWideText wide(text);
+    const size_t size = static_cast<size_t>(wide.GetLength() + 1) * sizeof(WCHAR);
     const HGLOBAL data = GlobalAlloc(GMEM_MOVEABLE, size);
-    std::memcpy(GlobalLock(data), text, size);
+    std::memcpy(GlobalLock(data), wide, size);
     GlobalUnlock(data);
     const bool opened = OpenClipboard(Current()) && EmptyClipboard();
-    if (!opened || SetClipboardData(CF_TEXT, data) == nullptr)
+    if (!opened || SetClipboardData(CF_UNICODETEXT, data) == nullptr)
     {
         GlobalFree(data);
         Fail("The clipboard cannot be used.");

@@ -19,9 +19,8 @@ bool CInside::Set(bool inside) { return std::exchange(g_inside, inside); }
 
 CString WindowText(HWND window)
 {
-    std::vector<char> text(static_cast<size_t>(GetWindowTextLengthA(window)) + 1);
-    GetWindowTextA(window, text.data(), static_cast<int>(text.size()));
-    return CString(text.data());
+    std::vector<WCHAR> text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1);
+    return AfxNarrow(text.data(), GetWindowTextW(window, text.data(), static_cast<int>(text.size())));
 }
 
 CString ClassName(HWND window)

@@ -1,6 +1,7 @@
 // What the robot knows of windows. For the files of the robot only.
 #pragma once
 
+#include "afx/CodePage.h"
 #include "afx/DialogRobot.h"
 
 namespace robot

@@ -1,5 +1,6 @@
 #include "afx/Gdi.h"
 
+#include "afx/CodePage.h"
 #include "afx/Temporary.h"
 
 #include <cstdlib>
@@ -101,14 +102,27 @@ CGdiObject* CDC::SelectObject(CGdiObject* object)
 CSize CDC::GetTextExtent(LPCSTR text, int length) const
 {
     CSize size;
-    ::GetTextExtentPoint32A(m_hDC, text, length, &size);
+    const CWideText wide(text, length);
+    ::GetTextExtentPoint32W(m_hDC, wide, wide.GetLength(), &size);
     return size;
+}
+
+BOOL CDC::TextOut(int x, int y, const CString& text)
+{
+    const CWideText wide(text, text.GetLength());
+    return ::TextOutW(m_hDC, x, y, wide, wide.GetLength());
+}
+
+int CDC::DrawText(const CString& text, LPRECT rect, UINT format)
+{
+    const CWideText wide(text, text.GetLength());
+    return ::DrawTextW(m_hDC, wide, wide.GetLength(), rect, format);
 }
 
 void CDC::FillSolidRect(LPCRECT rect, COLORREF color)
 {
     SetBkColor(color);
-    ::ExtTextOutA(m_hDC, 0, 0, ETO_OPAQUE, rect, nullptr, 0, nullptr);
+    ::ExtTextOutW(m_hDC, 0, 0, ETO_OPAQUE, rect, nullptr, 0, nullptr);
 }
 
 CClientDC::CClientDC(CWnd* window) : m_hWnd(HandleOf(window)) { AttachOrThrow(*this, ::GetDC(m_hWnd)); }

@@ -105,11 +105,8 @@ class AFX_API CDC : public CObject
     CSize GetTextExtent(LPCSTR text, int length) const;
     CSize GetTextExtent(const CString& text) const { return GetTextExtent(text, text.GetLength()); }
     BOOL GetTextMetrics(TEXTMETRICA* metrics) const { return ::GetTextMetricsA(m_hDC, metrics); }
-    BOOL TextOut(int x, int y, const CString& text) { return ::TextOutA(m_hDC, x, y, text, text.GetLength()); }
-    int DrawText(const CString& text, LPRECT rect, UINT format)
-    {
-        return ::DrawTextA(m_hDC, text, text.GetLength(), rect, format);
-    }
+    BOOL TextOut(int x, int y, const CString& text);
+    int DrawText(const CString& text, LPRECT rect, UINT format);
 
     void FillRect(LPCRECT rect, CBrush* brush) { ::FillRect(m_hDC, rect, *brush); }
     void FillSolidRect(LPCRECT rect, COLORREF color);

@@ -16,10 +16,7 @@ class AFX_API CMenu : public CObject
     HMENU Detach();
     BOOL DestroyMenu();
 
-    BOOL AppendMenu(UINT flags, UINT_PTR id = 0, LPCSTR text = nullptr)
-    {
-        return ::AppendMenuA(m_hMenu, flags, id, text);
-    }
+    BOOL AppendMenu(UINT flags, UINT_PTR id = 0, LPCSTR text = nullptr);
     UINT EnableMenuItem(UINT id, UINT flags) { return static_cast<UINT>(::EnableMenuItem(m_hMenu, id, flags)); }
     /// Shows the menu at a point of the screen. `window` gets the command, unless TPM_RETURNCMD makes it the result.
     BOOL TrackPopupMenu(UINT flags, int x, int y, CWnd* window, LPCRECT stayOpen = nullptr)

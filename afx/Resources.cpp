@@ -1,5 +1,7 @@
 #include "afx/Resources.h"
 
+#include "afx/CodePage.h"
+
 namespace
 {
 HINSTANCE resourceHandle = nullptr; // null: this module
@@ -11,10 +13,18 @@ void AfxSetResourceHandle(HINSTANCE resources) { resourceHandle = resources; }
 
 HINSTANCE AfxFindResourceHandle(LPCSTR, LPCSTR) { return AfxGetResourceHandle(); }
 
+LPCWSTR AfxFindString(UINT id, int& length)
+{
+    LPCWSTR text = nullptr;
+    length = ::LoadStringW(AfxGetResourceHandle(), id, reinterpret_cast<LPWSTR>(&text), 0); // 0: the text is not copied
+    return text;
+}
+
 int AfxLoadString(UINT id, LPSTR buffer, UINT size)
 {
-    buffer[0] = '\0';
-    return ::LoadStringA(AfxGetResourceHandle(), id, buffer, static_cast<int>(size));
+    int length = 0;
+    const LPCWSTR text = AfxFindString(id, length);
+    return AfxNarrow(text, length, buffer, static_cast<int>(size));
 }
 
 HINSTANCE AfxLoadLibrary(LPCSTR path) { return ::LoadLibraryA(path); }

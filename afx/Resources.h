@@ -15,8 +15,10 @@ HINSTANCE AfxGetInstanceHandle();
 /// The module to look for a resource in: always the one in use, there is no fallback.
 HINSTANCE AfxFindResourceHandle(LPCSTR name, LPCSTR type);
 
-/// Copies a string of the module in use to a buffer of `size` characters, cutting it when it is longer, and allocates
-/// nothing. Returns its length without the terminator; 0, and an empty text, when there is no such string.
+/// A string of the module in use where the module holds it, not terminated; its length is 0 when there is none.
+LPCWSTR AfxFindString(UINT id, int& length);
+/// Copies it to a buffer of `size` bytes, cut after a whole character when it is longer, and allocates nothing. Returns
+/// its length without the terminator; 0, and an empty text, when there is no such string.
 int AfxLoadString(UINT id, LPSTR buffer, UINT size = 256);
 
 /// Loads a library, to be freed with AfxFreeLibrary; null on failure. Give a full path: a bare name is searched for in

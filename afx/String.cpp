@@ -1,5 +1,6 @@
 #include "afx/String.h"
 
+#include "afx/CodePage.h"
 #include "afx/Object.h"
 #include "afx/Resources.h"
 
@@ -30,7 +31,7 @@ void ChangeCase(char* text, char (*change)(char))
 {
     for (; *text; ++text)
     {
-        if (!::IsDBCSLeadByte(static_cast<BYTE>(*text)))
+        if (!::IsDBCSLeadByteEx(AfxGetTextPage(), static_cast<BYTE>(*text)))
             *text = change(*text);
         else if (text[1])
             ++text;
@@ -262,24 +263,10 @@ void CString::FormatV(LPCSTR format, va_list arguments)
 
 BOOL CString::LoadString(UINT id)
 {
-    char brief[256];
-    int length = AfxLoadString(id, brief, sizeof brief);
-    // A text that was cut may lack both bytes of its last character.
-    if (length < static_cast<int>(sizeof brief) - 2)
-    {
-        Assign(brief, length);
-        return length > 0;
-    }
-    CString text;
-    for (int capacity = sizeof brief; length >= capacity - 2;)
-    {
-        capacity *= 2;
-        length = AfxLoadString(id, text.GetBuffer(capacity), capacity);
-        text.ReleaseBuffer(length);
-    }
-    *this = std::move(text);
-    FreeExtra();
-    return TRUE;
+    int length = 0;
+    const LPCWSTR text = AfxFindString(id, length);
+    *this = AfxNarrow(text, length);
+    return length > 0;
 }
 
 LPSTR CString::GetBuffer(int minLength)

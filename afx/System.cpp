@@ -1,6 +1,14 @@
 #include "afx/System.h"
 
-int AfxCharLength(LPCSTR text) { return IsDBCSLeadByte(static_cast<BYTE>(*text)) && text[1] != '\0' ? 2 : 1; }
+int AfxCharLength(LPCSTR text, UINT page)
+{
+    return ::IsDBCSLeadByteEx(page, static_cast<BYTE>(*text)) && text[1] != '\0' ? 2 : 1;
+}
+
+LRESULT AfxForward(const CWnd* window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ::SendMessageW(window->m_hWnd, message, wParam, lParam);
+}
 
 LONG AfxGetDialogBaseUnits() { return GetDialogBaseUnits(); }
 
@@ -22,7 +30,7 @@ CString AfxGetModuleFolder(HINSTANCE module)
     const CString path = ModulePath(module);
     // Searched from the front: the second byte of a character may look like a backslash.
     int folderLength = 0;
-    for (LPCSTR at = path; *at; at += AfxCharLength(at))
+    for (LPCSTR at = path; *at; at += AfxCharLength(at, CP_ACP))
     {
         if (*at == '\\' || *at == '/')
             folderLength = static_cast<int>(at - path) + 1;

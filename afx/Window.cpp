@@ -1,5 +1,6 @@
 #include "afx/Window.h"
 
+#include "afx/CodePage.h"
 #include "afx/Resources.h"
 #include "afx/Temporary.h"
 
@@ -28,26 +29,36 @@ class CPlainClass
 public:
     CPlainClass()
     {
-        WNDCLASSA plain = {};
+        WNDCLASSW plain = {};
         plain.style = CS_DBLCLKS;
         plain.lpfnWndProc = AfxWndProc;
         plain.hInstance = AfxGetInstanceHandle();
-        plain.hCursor = ::LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+        plain.hCursor = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
         plain.hbrBackground = ::GetSysColorBrush(COLOR_BTNFACE);
-        plain.lpszClassName = kName;
-        ::RegisterClassA(&plain);
+        plain.lpszClassName = m_name;
+        ::RegisterClassW(&plain);
     }
     // A library that is unloaded must not leave its window procedure behind.
-    ~CPlainClass() { ::UnregisterClassA(kName, AfxGetInstanceHandle()); }
+    ~CPlainClass() { ::UnregisterClassW(m_name, AfxGetInstanceHandle()); }
 
     static constexpr char kName[] = "AfxWnd";
+
+private:
+    const CWideText m_name{kName};
 };
 
-void GetText(HWND window, CString& text)
+int GetText(HWND window, CString& text)
 {
-    const int length = ::GetWindowTextLengthA(window);
-    ::GetWindowTextA(window, text.GetBufferSetLength(length), length + 1);
-    text.ReleaseBuffer();
+    const int size = ::GetWindowTextLengthW(window) + 1;
+    const CWideBuffer shown(size);
+    text = AfxNarrow(shown.Get(), ::GetWindowTextW(window, shown.Get(), size));
+    return text.GetLength();
+}
+
+int GetText(HWND window, LPSTR text, int size)
+{
+    const CWideBuffer shown(std::max(size, 1)); // a character has at least one byte
+    return AfxNarrow(shown.Get(), ::GetWindowTextW(window, shown.Get(), size), text, size);
 }
 
 int Clamp(int position, int size, int low, int high) { return std::max(std::min(position, high - size), low); }
@@ -101,7 +112,7 @@ void CWnd::AttachCreated(HWND window)
     if (!Attach(window))
         return;
     PreSubclassWindow();
-    m_pfnSuper = ::DefWindowProcA;
+    m_pfnSuper = ::DefWindowProcW;
 }
 
 BOOL CWnd::SubclassWindow(HWND window)
@@ -110,13 +121,13 @@ BOOL CWnd::SubclassWindow(HWND window)
         return FALSE;
     PreSubclassWindow();
     m_pfnSuper =
-        reinterpret_cast<WNDPROC>(::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
+        reinterpret_cast<WNDPROC>(::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
     return TRUE;
 }
 
 HWND CWnd::UnsubclassWindow()
 {
-    ::SetWindowLongPtrA(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(std::exchange(m_pfnSuper, nullptr)));
+    ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(std::exchange(m_pfnSuper, nullptr)));
     return Detach();
 }
 
@@ -133,8 +144,9 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, i
     ASSERT(!m_hWnd);
     static const CPlainClass plainClass;
     windowInCreation = className ? nullptr : this;
-    const HWND created = ::CreateWindowExA(exStyle, className ? className : plainClass.kName, text, style, x, y, width,
-                                           height, parent, idOrMenu, AfxGetInstanceHandle(), context);
+    const HWND created =
+        ::CreateWindowExW(exStyle, CWideText(className ? className : plainClass.kName), CWideText(text), style, x, y,
+                          width, height, parent, idOrMenu, AfxGetInstanceHandle(), context);
     windowInCreation = nullptr;
     if (!created || (className ? SubclassWindow(created) : m_hWnd != nullptr))
         return created != nullptr;
@@ -151,7 +163,7 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         object->AttachCreated(window);
     }
     if (!object || !object->m_hWnd)
-        return ::DefWindowProcA(window, message, wParam, lParam);
+        return ::DefWindowProcW(window, message, wParam, lParam);
 
     return AfxCallWndProc(object, AfxMessage(window, message, wParam, lParam));
 }
@@ -190,7 +202,7 @@ HWND AfxGetSafeOwner(HWND parent, HWND* disabledTop)
 {
     HWND owner = parent ? parent : ::GetActiveWindow();
     // A child window owns nothing.
-    while (owner && (::GetWindowLongA(owner, GWL_STYLE) & WS_CHILD))
+    while (owner && (::GetWindowLongW(owner, GWL_STYLE) & WS_CHILD))
         owner = ::GetParent(owner);
 
     HWND top = owner;
@@ -216,29 +228,28 @@ BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT flags)
     const DWORD changed = (style & ~remove) | add;
     if (changed == style)
         return FALSE;
-    ::SetWindowLongA(m_hWnd, GWL_STYLE, static_cast<LONG>(changed));
+    ::SetWindowLongW(m_hWnd, GWL_STYLE, static_cast<LONG>(changed));
     if (flags)
         SetWindowPos(nullptr, 0, 0, 0, 0, flags | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     return TRUE;
 }
 
+void CWnd::SetWindowText(LPCSTR text) { ::SetWindowTextW(m_hWnd, CWideText(text)); }
+
 void CWnd::GetWindowText(CString& text) const { GetText(m_hWnd, text); }
+
+int CWnd::GetWindowText(LPSTR text, int size) const { return GetText(m_hWnd, text, size); }
+
+void CWnd::SetDlgItemText(int id, LPCSTR text) { ::SetWindowTextW(::GetDlgItem(m_hWnd, id), CWideText(text)); }
 
 void CWnd::SetFont(CFont* font, BOOL redraw)
 {
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font ? font->m_hObject : nullptr), redraw);
 }
 
-int CWnd::GetDlgItemText(int id, LPSTR text, int size) const
-{
-    return static_cast<int>(::GetDlgItemTextA(m_hWnd, id, text, size));
-}
+int CWnd::GetDlgItemText(int id, LPSTR text, int size) const { return GetText(::GetDlgItem(m_hWnd, id), text, size); }
 
-int CWnd::GetDlgItemText(int id, CString& text) const
-{
-    GetText(::GetDlgItem(m_hWnd, id), text);
-    return text.GetLength();
-}
+int CWnd::GetDlgItemText(int id, CString& text) const { return GetText(::GetDlgItem(m_hWnd, id), text); }
 
 int CWnd::GetCheckedRadioButton(int first, int last) const
 {
@@ -277,7 +288,7 @@ void CWnd::CenterWindow(CWnd* other)
     const HWND middle = other ? other->m_hWnd : parent;
 
     CRect screen;
-    ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &screen, 0);
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
     CRect around = screen;
     if (middle && ::IsWindowVisible(middle) && !::IsIconic(middle))
         ::GetWindowRect(middle, around);

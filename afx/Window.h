@@ -84,7 +84,7 @@ class AFX_API CWnd : public CCmdTarget
     // ---- State ------------------------------------------------------------------------------------------------------
 
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
-    DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongA(m_hWnd, GWL_STYLE)); }
+    DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_STYLE)); }
     /// Changes style bits and, when `flags` is not 0, applies SetWindowPos with it. FALSE when nothing changed.
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
 
@@ -98,8 +98,8 @@ class AFX_API CWnd : public CCmdTarget
 
     // ---- Text -------------------------------------------------------------------------------------------------------
 
-    void SetWindowText(LPCSTR text) { ::SetWindowTextA(m_hWnd, text); }
-    int GetWindowText(LPSTR text, int size) const { return ::GetWindowTextA(m_hWnd, text, size); }
+    void SetWindowText(LPCSTR text);
+    int GetWindowText(LPSTR text, int size) const;
     void GetWindowText(CString& text) const;
     void SetFont(CFont* font, BOOL redraw = TRUE);
     CFont* GetFont() const { return CFont::FromHandle(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT))); }
@@ -136,7 +136,7 @@ class AFX_API CWnd : public CCmdTarget
 
     // ---- The controls of a dialog, by id ----------------------------------------------------------------------------
 
-    void SetDlgItemText(int id, LPCSTR text) { ::SetDlgItemTextA(m_hWnd, id, text); }
+    void SetDlgItemText(int id, LPCSTR text);
     int GetDlgItemText(int id, LPSTR text, int size) const;
     /// Returns the length; 0, and an empty text, when there is no such control.
     int GetDlgItemText(int id, CString& text) const;
@@ -148,10 +148,12 @@ class AFX_API CWnd : public CCmdTarget
 
     // ---- Messages ---------------------------------------------------------------------------------------------------
 
+    /// A text that goes with a message is in the system's code page; the operations of the classes convert theirs.
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC callback);
     BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
+    /// The caption, the name of a program, is in the system's code page.
     int MessageBox(LPCSTR text, LPCSTR caption = nullptr, UINT type = MB_OK);
 
     // ---- Being modal ------------------------------------------------------------------------------------------------

@@ -1,5 +1,6 @@
 // How messages reach the objects behind windows: dispatch, message maps and modal loops.
 
+#include "afx/CodePage.h"
 #include "afx/Temporary.h"
 #include "afx/Window.h"
 
@@ -76,7 +77,7 @@ void Dispatch(MSG& message)
     if (isDone)
         return;
     ::TranslateMessage(&message);
-    ::DispatchMessageA(&message);
+    ::DispatchMessageW(&message);
 }
 
 } // namespace
@@ -164,8 +165,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM)
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return m_pfnSuper ? ::CallWindowProcA(m_pfnSuper, m_hWnd, message, wParam, lParam)
-                      : ::DefWindowProcA(m_hWnd, message, wParam, lParam);
+    return m_pfnSuper ? ::CallWindowProcW(m_pfnSuper, m_hWnd, message, wParam, lParam)
+                      : ::DefWindowProcW(m_hWnd, message, wParam, lParam);
 }
 
 LRESULT CWnd::Default() { return DefWindowProc(currentMessage.message, currentMessage.wParam, currentMessage.lParam); }
@@ -194,7 +195,10 @@ UINT_PTR CWnd::SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC callback)
     return ::SetTimer(m_hWnd, id, milliseconds, callback);
 }
 
-int CWnd::MessageBox(LPCSTR text, LPCSTR caption, UINT type) { return ::MessageBoxA(m_hWnd, text, caption, type); }
+int CWnd::MessageBox(LPCSTR text, LPCSTR caption, UINT type)
+{
+    return ::MessageBoxW(m_hWnd, CWideText(text), CWideText(caption, -1, CP_ACP), type);
+}
 
 // ---- Being modal ----------------------------------------------------------------------------------------------------
 
@@ -207,11 +211,11 @@ int CWnd::RunModalLoop(DWORD flags)
     {
         const CTemporaryScope temporaries;
         MSG message;
-        if (!::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+        if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
         {
             OnModalIdle(flags);
             flags &= ~MLF_SHOWONIDLE; // once only
-            if (::GetMessageA(&message, nullptr, 0, 0) < 0)
+            if (::GetMessageW(&message, nullptr, 0, 0) < 0)
                 break;
         }
         if (message.message == WM_QUIT)

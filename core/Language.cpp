@@ -61,6 +61,14 @@ HINSTANCE CFunWizard::SetLanguageInfo(int language)
 
 HINSTANCE CFunWizard::GetLoadInstance() const { return m_library; }
 
+UINT TextPageOf(HINSTANCE library) { return library != nullptr ? AfxPageOfString(library, IDS_FONT_FACE) : CP_ACP; }
+
+UINT CFunWizard::GetTextCodePage() const
+{
+    const UINT page = TextPageOf(m_library);
+    return page != CP_ACP ? page : ::GetACP();
+}
+
 CFont* CFunWizard::CreateDlgFont(CWnd* window)
 {
     if (COpenWizard::IsOpen(this))
@@ -92,7 +100,7 @@ bool Contains(const int* ids, int id)
     return *ids != 0;
 }
 
-void GiveFont(HWND window, HFONT font) { ::SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
+void GiveFont(HWND window, HFONT font) { ::SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
 
 } // namespace
 

@@ -1,5 +1,6 @@
 // Keys of the table.
 #include "afx/Clipboard.h"
+#include "afx/System.h"
 #include "dialogs/grid/GridView.h"
 
 namespace
@@ -95,7 +96,7 @@ bool CGridView::PasteTable()
     return table || !enough;
 }
 
-// Typing opens the editor. The second byte of a character comes when it is open.
+// Typing opens the editor.
 void CGridView::OnChar(UINT character, UINT repeat, UINT)
 {
     constexpr UINT kFirstPrinted = ' ', kDeleteWord = 0x7F;
@@ -103,5 +104,5 @@ void CGridView::OnChar(UINT character, UINT repeat, UINT)
         return;
     if (!m_isEditing)
         OpenEditor("");
-    Editor()->SendMessage(WM_CHAR, character, static_cast<LPARAM>(repeat));
+    AfxForward(Editor(), WM_CHAR, character, static_cast<LPARAM>(repeat));
 }

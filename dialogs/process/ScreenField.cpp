@@ -1,5 +1,6 @@
 #include "dialogs/process/ScreenField.h"
 
+#include "afx/CodePage.h"
 #include "core/FunWizard.h"
 #include "core/Values.h"
 #include "dialogs/base/WzdResults.h"
@@ -171,14 +172,15 @@ private:
         StoreText(line);
     }
 
-    // The limit of an edit counts characters; that of a line, bytes.
+    // The limit of an edit counts characters; that of a line, bytes. What is stored is what is shown: a character that
+    // the code page lacks is not.
     void StoreText(SScreenLine& line)
     {
         const CString entered = m_dialog.ItemText(IDC_SCREEN_TEXT);
         line.text = FitEntered(entered, line.text, kScreenDigits);
-        if (line.text == entered)
-            return;
         auto* edit = static_cast<CEdit*>(m_dialog.GetDlgItem(IDC_SCREEN_TEXT));
+        if (AfxShows(edit, line.text))
+            return;
         edit->SetWindowText(line.text);
         edit->SetSel(line.text.GetLength(), line.text.GetLength());
     }
