@@ -17,6 +17,19 @@ AFX_API UINT AfxGetTextPage();
 /// Makes a code page the one of narrow texts; returns the one before.
 AFX_API UINT AfxSetTextPage(UINT page);
 
+/// Narrow texts are in a code page while it lives.
+class CTextPage
+{
+public:
+    explicit CTextPage(UINT page) : m_before(AfxSetTextPage(page)) {}
+    ~CTextPage() { AfxSetTextPage(m_before); }
+    CTextPage(const CTextPage&) = delete;
+    CTextPage& operator=(const CTextPage&) = delete;
+
+private:
+    UINT m_before;
+};
+
 /// The code page that the texts of a module are in, by the language that one of its strings stands in. English fits all
 /// of them and goes by the system's (CP_ACP), as do a language without a page and a page that this system does not
 /// know.

@@ -12,21 +12,16 @@ UINT TextPageOf(HINSTANCE library);
 class CResourceScope
 {
 public:
-    explicit CResourceScope(HINSTANCE library)
-        : m_previous(AfxGetResourceHandle()), m_previousPage(AfxSetTextPage(TextPageOf(library)))
+    explicit CResourceScope(HINSTANCE library) : m_previous(AfxGetResourceHandle()), m_page(TextPageOf(library))
     {
         AfxSetResourceHandle(library != nullptr ? library : AfxGetInstanceHandle());
     }
-    ~CResourceScope()
-    {
-        AfxSetResourceHandle(m_previous);
-        AfxSetTextPage(m_previousPage);
-    }
+    ~CResourceScope() { AfxSetResourceHandle(m_previous); }
 
     CResourceScope(const CResourceScope&) = delete;
     CResourceScope& operator=(const CResourceScope&) = delete;
 
 private:
     HINSTANCE m_previous;
-    UINT m_previousPage;
+    CTextPage m_page;
 };

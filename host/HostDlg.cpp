@@ -2,31 +2,16 @@
 
 #include "host/HostResource.h"
 #include "host/Ladder.h"
+#include "host/Languages.h"
 #include "host/Plc.h"
 #include "host/ResultText.h"
+#include "host/Utf8.h"
 
 #include <cstdlib>
 #include <cstring>
 
 namespace
 {
-struct SLanguage
-{
-    const char* name;
-    int index; // as SetLanguageInfo takes it
-};
-
-constexpr SLanguage kLanguages[] = {
-    {"English", 0},
-    {"Japanese", 1},
-    {"Chinese, simplified", 2},
-    {"Chinese, traditional", 3},
-    {"Korean", 4},
-    {"Spanish", 5},
-    {"Italian", 6},
-    {"Thai", 9},
-};
-
 // An edit control breaks lines at "\r\n" only.
 CString EditText(const std::string& text)
 {
@@ -87,7 +72,7 @@ void CHostDlg::FillLists()
     plcs->SetCurSel(0);
 
     auto* languages = static_cast<CComboBox*>(GetDlgItem(IDC_HOST_LANGUAGE));
-    for (const SLanguage& language : kLanguages)
+    for (const SHostLanguage& language : kHostLanguages)
         languages->AddString(language.name);
     languages->SetCurSel(0);
 }
@@ -103,7 +88,7 @@ void CHostDlg::SetUpPlc()
 void CHostDlg::SetUpLanguage()
 {
     const int index = static_cast<CComboBox*>(GetDlgItem(IDC_HOST_LANGUAGE))->GetCurSel();
-    m_wizard.SetLanguageInfo(kLanguages[index].index);
+    m_wizard.SetLanguageInfo(kHostLanguages[index].index);
 }
 
 void CHostDlg::OnPlcChanged()
@@ -188,5 +173,6 @@ void CHostDlg::ShowResults()
     status.Format("%d instruction records", m_wizard.GetInstCodeCount());
     SetDlgItemText(IDC_HOST_STATUS, status);
     SetDlgItemText(IDC_HOST_LADDER, EditText(CLadder::Of(m_wizard).Text()));
+    const CTextPage utf8(CP_UTF8); // the comments may be in any language
     SetDlgItemText(IDC_HOST_RESULTS, EditText(ResultText(m_wizard)));
 }

@@ -1,6 +1,7 @@
 #include "host/ResultText.h"
 
 #include "host/DeviceText.h"
+#include "host/Utf8.h"
 
 #include <cstdarg>
 
@@ -40,7 +41,7 @@ std::string Comment(const CFunWizard& wizard, int index)
 {
     char text[kLongestComment + 1] = "";
     wizard.GetCmtInfo(index, text);
-    return text;
+    return ToUtf8(text, wizard.GetTextCodePage());
 }
 } // namespace
 

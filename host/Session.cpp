@@ -1,6 +1,7 @@
 #include "host/Session.h"
 
 #include "host/DeviceText.h"
+#include "host/Languages.h"
 
 #include <nlohmann/json.hpp>
 
@@ -199,15 +200,10 @@ SPlc Plc(const CNode& node)
 
 int Language(const CNode& node)
 {
-    return Choose<int>(node, {{"English", 0},
-                              {"Japanese", 1},
-                              {"Simplified Chinese", 2},
-                              {"Traditional Chinese", 3},
-                              {"Korean", 4},
-                              {"Spanish", 5},
-                              {"Italian", 6},
-                              {"Thai", 9},
-                              {"none", -1}});
+    std::map<std::string, int> languages = {{"none", -1}};
+    for (const SHostLanguage& language : kHostLanguages)
+        languages[language.name] = language.index;
+    return Choose(node, languages);
 }
 
 // ---- Steps ----------------------------------------------------------------------------------------------------------

@@ -40,7 +40,8 @@ struct SStep
     int number = 0;
     bool ctrl = false;
     std::string text;
-    std::string where;              ///< its place in the file
+    std::string where; ///< its place in the file
+    std::string shot;  ///< the name of the picture before it, the last step; the dialog's caption when empty
     std::optional<unsigned> answer; ///< to the message box that comes up: IDOK, IDYES, ...
 };
 

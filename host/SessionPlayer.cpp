@@ -4,6 +4,7 @@
 #include "afx/Screenshot.h"
 #include "host/Ladder.h"
 #include "host/ResultText.h"
+#include "host/Utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -16,7 +17,9 @@ namespace
 {
 std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 
-std::string Std(const CString& text) { return static_cast<LPCSTR>(text); }
+// The robot speaks as the dialogs do, in the code page of their language.
+std::string Utf8(const CString& text) { return ToUtf8(text, AfxGetTextPage()); }
+CString Narrow(const std::string& text) { return FromUtf8(text, AfxGetTextPage()); }
 
 // What a step did, as the report tells it.
 std::string Describe(const SStep& step)
@@ -157,15 +160,18 @@ int CSessionPlayer::Open(const SRun& run)
 void CSessionPlayer::PlayDialog(CDialogRobot& robot, const CDialogSteps& steps)
 {
     if (robot.IsMessageBox())
-        m_report << "Message box " << Quoted(Std(robot.Caption())) << ": " << Quoted(OneLine(Std(robot.Text(0))))
+        m_report << "Message box " << Quoted(Utf8(robot.Caption())) << ": " << Quoted(OneLine(Utf8(robot.Text(0))))
                  << '\n';
     else
-        m_report << "Dialog " << Quoted(Std(robot.Caption())) << '\n';
+        m_report << "Dialog " << Quoted(Utf8(robot.Caption())) << '\n';
 
     for (const SStep& step : steps)
     {
         if (&step == &steps.back())
-            SaveShot(robot, Std(robot.Caption()));
+        {
+            m_captions[&step] = Utf8(robot.Caption());
+            SaveShot(robot, step.shot.empty() ? m_captions[&step] : step.shot);
+        }
         PlayStep(robot, step);
     }
 }
@@ -179,12 +185,12 @@ void CSessionPlayer::PlayStep(CDialogRobot& robot, const SStep& step)
         Act(robot, step);
 
     // An edit need not take everything that is typed.
-    if (step.verb == EVerb::Type && robot.IsOpen() && Std(robot.Text(step.control)) != step.text)
-        m_report << "    it holds " << Quoted(OneLine(Std(robot.Text(step.control)))) << '\n';
+    if (step.verb == EVerb::Type && robot.IsOpen() && Utf8(robot.Text(step.control)) != step.text)
+        m_report << "    it holds " << Quoted(OneLine(Utf8(robot.Text(step.control)))) << '\n';
     for (; m_reportedBoxes < robot.MessageBoxes().size(); ++m_reportedBoxes)
     {
         const SRobotMessageBox& box = robot.MessageBoxes()[m_reportedBoxes];
-        m_report << "    message box " << Quoted(Std(box.caption)) << ": " << Quoted(OneLine(Std(box.text))) << ", "
+        m_report << "    message box " << Quoted(Utf8(box.caption)) << ": " << Quoted(OneLine(Utf8(box.text))) << ", "
                  << ButtonName(box.answer) << '\n';
     }
     ReportFailures(robot, " (" + step.where + ")");
@@ -195,13 +201,15 @@ void CSessionPlayer::Act(CDialogRobot& robot, const SStep& step)
     switch (step.verb)
     {
     case EVerb::Type:
-        return robot.Type(step.control, step.text.c_str());
+        return robot.Type(step.control, Narrow(step.text));
     case EVerb::Set:
-        return robot.SetText(step.control, step.text.c_str());
+        return robot.SetText(step.control, Narrow(step.text));
     case EVerb::SelectIndex:
         return robot.Select(step.control, step.number);
     case EVerb::SelectText:
-        return robot.SelectText(step.control, step.text.c_str());
+        robot.SelectText(step.control, Narrow(step.text));
+        m_selectedItems[&step] = robot.Selection(step.control);
+        return;
     case EVerb::Check:
         return robot.Check(step.control, true);
     case EVerb::Uncheck:
@@ -216,7 +224,7 @@ void CSessionPlayer::Act(CDialogRobot& robot, const SStep& step)
         return step.ctrl ? robot.PressKey(static_cast<UINT>(step.number), {VK_CONTROL})
                          : robot.PressKey(static_cast<UINT>(step.number));
     case EVerb::Paste:
-        return robot.Paste(step.text.c_str());
+        return robot.Paste(Narrow(step.text));
     case EVerb::Shot:
         return SaveShot(robot, step.text);
     }
@@ -236,7 +244,7 @@ void CSessionPlayer::SaveShot(CDialogRobot& robot, const std::string& name)
 void CSessionPlayer::ReportFailures(CDialogRobot& robot, const std::string& where)
 {
     for (const CString& failure : robot.Failures())
-        m_report << "FAILED: " << OneLine(Std(failure)) << where << '\n';
+        m_report << "FAILED: " << OneLine(Utf8(failure)) << where << '\n';
     m_success = m_success && robot.Failures().empty();
     robot.ClearFailures();
 }

@@ -4,6 +4,7 @@
 #include "host/Session.h"
 
 #include <iosfwd>
+#include <map>
 #include <string>
 
 class CDialogRobot;
@@ -20,6 +21,11 @@ public:
     /// the report.
     bool Play(const SSession& session);
 
+    /// What the steps that were played did: the place in its list of an item selected by its text, and the caption of
+    /// the dialog that a last step has closed.
+    const std::map<const SStep*, int>& SelectedItems() const { return m_selectedItems; }
+    const std::map<const SStep*, std::string>& Captions() const { return m_captions; }
+
 private:
     void PlayRun(const SRun& run);
     void PlayDialog(CDialogRobot& robot, const CDialogSteps& steps);
@@ -32,6 +38,8 @@ private:
     std::ostream& m_report;
     std::string m_shots;
     int m_shotCount = 0;
+    std::map<const SStep*, int> m_selectedItems;
+    std::map<const SStep*, std::string> m_captions;
     size_t m_reportedBoxes = 0;
     bool m_success = true;
     CFunWizard m_wizard;

@@ -1,28 +1,36 @@
 // The ladder tool: a small customer of the wizard library.
 //
 //     LadderHost                                   opens the main window
-//     LadderHost --play session.json [--shots DIR] plays a recorded session and prints what came of it
+//     LadderHost --play session.json ... [--shots DIR] [--language NAME]
+//                                                  plays recorded sessions and prints what came of them
 
 #include "afx/Console.h"
 #include "host/HostDlg.h"
 #include "host/HostName.h"
+#include "host/Languages.h"
+#include "host/SessionLanguage.h"
 #include "host/SessionPlayer.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <string>
+#include <vector>
 
 namespace
 {
 constexpr int kBadSession = 2; // exit code
 
-int PlaySession(const std::string& path, const std::string& shots)
+int PlaySession(const std::string& path, const std::string& shots, const std::string& language)
 {
-    const SSession session = LoadSession(path);
+    SSession session = LoadSession(path);
+    if (!language.empty())
+        session = InLanguage(session, *LanguageIndex(language));
     std::filesystem::path pictures;
     if (!shots.empty())
     {
@@ -35,17 +43,26 @@ int PlaySession(const std::string& path, const std::string& shots)
 int Run(int argc, char** argv)
 {
     CLI::App app("Enters PLC instructions with the wizard library.", kHostName);
-    std::string session;
+    std::vector<std::string> sessions;
     std::string shots;
-    CLI::Option* play = app.add_option("--play", session, "Play a recorded session and print the result lists");
+    std::string language;
+    CLI::Option* play = app.add_option("--play", sessions, "Play recorded sessions and print the result lists");
     app.add_option("--shots", shots, "Save a picture of every dialog to this folder")->needs(play);
+    app.add_option("--language", language, "Play them in another language than they were recorded in")
+        ->needs(play)
+        ->check(CLI::IsMember(LanguageNames()));
     CLI11_PARSE(app, argc, argv);
 
     AfxSetBinaryOutput(); // reports have the same line ends everywhere
     PexloDll_SetAppName(kHostName);
     AfxSetResourceHandle(::GetModuleHandleA(nullptr)); // the library's own are its English ones
     if (*play)
-        return PlaySession(session, shots);
+    {
+        int result = EXIT_SUCCESS;
+        for (const std::string& session : sessions)
+            result = std::max(result, PlaySession(session, shots, language));
+        return result;
+    }
 
     // Without windows to show there is no main window either.
     if (CHostDlg().DoModal() != -1)
