@@ -19,7 +19,8 @@ struct Memory
 struct ClipboardState
 {
     HandleTable<Memory> movable{5};
-    std::map<UINT, HANDLE> contents;
+    std::map<UINT, HANDLE> contents; // Without a handle: to be made of the other form of the text
+    UINT synthesized = 0;            // The form of the text that is made of the other one
     bool open = false;
     HWND opener = nullptr;
 };
@@ -45,6 +46,49 @@ void Empty()
     for (const auto& [format, data] : State().contents)
         Free(data);
     State().contents.clear();
+    State().synthesized = 0;
+}
+
+// The form that a text can be made of.
+UINT OtherText(UINT format) { return format == CF_TEXT ? CF_UNICODETEXT : CF_TEXT; }
+
+template <class Character>
+std::basic_string_view<Character> TextIn(const std::vector<BYTE>& bytes)
+{
+    const std::basic_string_view<Character> all(reinterpret_cast<const Character*>(bytes.data()),
+                                                bytes.size() / sizeof(Character));
+    return all.substr(0, all.find(Character{}));
+}
+
+template <class Character>
+std::vector<BYTE> BytesOf(const std::basic_string<Character>& text)
+{
+    const auto* first = reinterpret_cast<const BYTE*>(text.c_str());
+    return {first, first + (text.size() + 1) * sizeof(Character)};
+}
+
+// Offers a text in the other form too, as the system does when the clipboard is closed.
+void OfferOtherText()
+{
+    ClipboardState& state = State();
+    for (const UINT format : {CF_TEXT, CF_UNICODETEXT})
+        if (state.contents.contains(format) && state.contents.try_emplace(OtherText(format)).second)
+            state.synthesized = OtherText(format);
+}
+
+HANDLE Synthesize(UINT format)
+{
+    ClipboardState& state = State();
+    const Memory* source = state.movable.Find(state.contents[OtherText(format)]);
+    if (!source)
+        return nullptr;
+    auto memory = std::make_unique<Memory>();
+    memory->owned = true;
+    memory->bytes = format == CF_TEXT ? BytesOf(ToAnsi(TextIn<char16_t>(source->bytes)))
+                                      : BytesOf(ToWide(TextIn<char>(source->bytes)));
+    const auto handle = state.movable.Add<HANDLE>(std::move(memory));
+    state.contents[format] = handle;
+    return handle;
 }
 } // namespace
 
@@ -53,6 +97,7 @@ void ResetClipboard()
     ClipboardState& state = State();
     state.movable.Clear();
     state.contents.clear();
+    state.synthesized = 0;
     state.open = false;
     state.opener = nullptr;
 }
@@ -127,12 +172,14 @@ BOOL OpenClipboard(HWND window)
 
 BOOL CloseClipboard()
 {
+    Inside inside;
     ClipboardState& state = State();
     if (!state.open)
     {
         SetLastError(ERROR_CLIPBOARD_NOT_OPEN);
         return FALSE;
     }
+    OfferOtherText();
     state.open = false;
     state.opener = nullptr;
     return TRUE;
@@ -158,8 +205,14 @@ HANDLE SetClipboardData(UINT format, HANDLE data)
     Memory* memory = state.open ? MemoryOf(data) : nullptr;
     if (!memory)
         return nullptr;
-    if (const auto it = state.contents.find(format); it != state.contents.end())
-        Free(it->second);
+    // What was made of the old text does not fit the new one.
+    for (const UINT old : {format, state.synthesized})
+        if (const auto it = state.contents.find(old); it != state.contents.end())
+        {
+            Free(it->second);
+            state.contents.erase(it);
+        }
+    state.synthesized = 0;
     memory->owned = true;
     state.contents[format] = data;
     return data;
@@ -168,9 +221,13 @@ HANDLE SetClipboardData(UINT format, HANDLE data)
 HANDLE GetClipboardData(UINT format)
 {
     Inside inside;
-    const ClipboardState& state = State();
+    ClipboardState& state = State();
+    if (!state.open)
+        return nullptr;
     const auto it = state.contents.find(format);
-    return state.open && it != state.contents.end() ? it->second : nullptr;
+    if (it == state.contents.end())
+        return nullptr;
+    return it->second ? it->second : Synthesize(format);
 }
 
-BOOL IsClipboardFormatAvailable(UINT format) { return State().contents.count(format) != 0; }
+BOOL IsClipboardFormatAvailable(UINT format) { return State().contents.contains(format); }

@@ -210,8 +210,8 @@ LRESULT CopySelectedText(Window& combo, WPARAM size, LPARAM target)
 {
     const ItemList& items = Of(combo).items;
     const int selection = items.Selection();
-    return CopyText(selection >= 0 ? std::string_view(items.Text(selection)) : std::string_view(),
-                    reinterpret_cast<LPSTR>(target), size);
+    return CopyText(selection >= 0 ? std::u16string_view(items.Text(selection)) : std::u16string_view(),
+                    reinterpret_cast<LPWSTR>(target), size);
 }
 
 LRESULT SetItemHeight(Window& combo, int part, int height)
@@ -354,7 +354,7 @@ LRESULT Handle(Window& combo, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_SYSKEYDOWN:
         return HandleKey(combo, message, wParam);
     case WM_CHAR:
-        SelectByUser(combo, items.FindNext(static_cast<char>(wParam)));
+        SelectByUser(combo, items.FindNext(static_cast<char16_t>(wParam)));
         return 0;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:

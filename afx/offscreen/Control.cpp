@@ -30,7 +30,7 @@ LRESULT CallControl(const ControlClass& controlClass, HWND handle, UINT message,
     if (message == WM_CREATE)
         return controlClass.create(*window);
     if (!window->control)
-        return DefWindowProcA(handle, message, wParam, lParam);
+        return DefWindowProcW(handle, message, wParam, lParam);
     return controlClass.handle(*window, message, wParam, lParam);
 }
 
@@ -53,7 +53,7 @@ LRESULT DefControlProc(Window& control, PaintProc paint, UINT message, WPARAM wP
     case WM_PAINT:
         return Paint(control, reinterpret_cast<HDC>(wParam), paint);
     default:
-        return DefWindowProcA(control.handle, message, wParam, lParam);
+        return DefWindowProcW(control.handle, message, wParam, lParam);
     }
 }
 } // namespace offscreen

@@ -1,14 +1,14 @@
 // DefWindowProc: what every window does with what it does not handle.
 
-#include "afx/offscreen/Internal.h"
+#include "afx/offscreen/TextMessages.h"
 
 using namespace offscreen;
 
 namespace
 {
-LRESULT SetText(Window& window, LPCSTR text)
+LRESULT SetText(Window& window, LPCWSTR text)
 {
-    window.text = text ? text : "";
+    window.text = text ? text : u"";
     Invalidate(window);
     return TRUE;
 }
@@ -17,7 +17,7 @@ LRESULT SetText(Window& window, LPCSTR text)
 LRESULT HandleSystemKey(HWND window, UINT message, WPARAM wParam)
 {
     if (message == WM_SYSKEYDOWN && wParam == VK_F4 && KeyIsDown(VK_MENU))
-        PostMessageA(RootOf(Find(window))->handle, WM_SYSCOMMAND, SC_CLOSE, 0);
+        PostMessageW(RootOf(Find(window))->handle, WM_SYSCOMMAND, SC_CLOSE, 0);
     return 0;
 }
 
@@ -26,7 +26,7 @@ LRESULT HandleSystemCommand(HWND window, WPARAM wParam)
     switch (wParam & 0xFFF0)
     {
     case SC_CLOSE:
-        return SendMessageA(window, WM_CLOSE, 0, 0);
+        return SendMessageW(window, WM_CLOSE, 0, 0);
     case SC_KEYMENU:
         return 0;
     default:
@@ -69,10 +69,10 @@ LRESULT Paint(HWND window)
     return 0;
 }
 
-LRESULT TakeFirstText(Window& window, const CREATESTRUCTA& create)
+LRESULT TakeFirstText(Window& window, const CREATESTRUCTW& create)
 {
-    // A text of the form 0xFF, id names an icon and is no text.
-    if (create.lpszName && static_cast<unsigned char>(create.lpszName[0]) != 0xFF)
+    // A text of the form 0xFFFF, id names an icon and is no text.
+    if (create.lpszName && create.lpszName[0] != 0xFFFF)
         window.text = create.lpszName;
     return TRUE;
 }
@@ -156,16 +156,16 @@ LRESULT HandleText(Window& window, UINT message, WPARAM wParam, LPARAM lParam)
     switch (message)
     {
     case WM_SETTEXT:
-        return SetText(window, reinterpret_cast<LPCSTR>(lParam));
+        return SetText(window, reinterpret_cast<LPCWSTR>(lParam));
     case WM_GETTEXT:
-        return wParam ? CopyText(window.text, reinterpret_cast<LPSTR>(lParam), wParam) : 0;
+        return wParam ? CopyText(window.text, reinterpret_cast<LPWSTR>(lParam), wParam) : 0;
     default: // WM_GETTEXTLENGTH
         return static_cast<LRESULT>(window.text.size());
     }
 }
 } // namespace
 
-LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     Inside inside;
     Window* found = Find(window);
@@ -174,7 +174,7 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     switch (message)
     {
     case WM_NCCREATE:
-        return TakeFirstText(*found, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
+        return TakeFirstText(*found, *reinterpret_cast<const CREATESTRUCTW*>(lParam));
     case WM_SETTEXT:
     case WM_GETTEXT:
     case WM_GETTEXTLENGTH:
@@ -219,4 +219,13 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     default:
         return HandleInput(*found, message, wParam, lParam);
     }
+}
+
+LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    // Characters mean nothing to it: the bytes of one need not be put together.
+    if (!HasText(message) || message == WM_CHAR || message == WM_SYSCHAR)
+        return DefWindowProcW(window, message, wParam, lParam);
+    return CallProc({DefWindowProcW, true}, false, window, message, wParam, lParam);
 }

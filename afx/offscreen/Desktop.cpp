@@ -26,12 +26,12 @@ int g_drive = 3;
 void DescribeInto(const Window& window, int depth, std::string& text)
 {
     char line[256];
-    std::snprintf(line, sizeof line, "%*s%s %d (%d,%d %dx%d)%s%s ", depth * 2, "", window.windowClass->name.c_str(),
-                  static_cast<int>(window.id), window.rect.left, window.rect.top, window.rect.right - window.rect.left,
-                  window.rect.bottom - window.rect.top, window.style & WS_VISIBLE ? "" : " hidden",
-                  window.style & WS_DISABLED ? " disabled" : "");
+    std::snprintf(line, sizeof line, "%*s%s %d (%d,%d %dx%d)%s%s ", depth * 2, "",
+                  ToAnsi(window.windowClass->name).c_str(), static_cast<int>(window.id), window.rect.left,
+                  window.rect.top, window.rect.right - window.rect.left, window.rect.bottom - window.rect.top,
+                  window.style & WS_VISIBLE ? "" : " hidden", window.style & WS_DISABLED ? " disabled" : "");
     text += line;
-    text += "\"" + window.text + "\"\n";
+    text += "\"" + ToAnsi(window.text) + "\"\n";
     for (const Window* child = window.firstChild; child; child = child->next)
         DescribeInto(*child, depth + 1, text);
 }

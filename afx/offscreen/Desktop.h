@@ -86,10 +86,11 @@ std::vector<int> TabStops(HWND listBox);
 // Text that has been drawn into a window (by TextOut, ExtTextOut, DrawText) since its last BeginPaint or WM_DRAWITEM.
 struct DrawnText
 {
-    std::string text;
+    std::string text; // In the ANSI code page
     int x;
     int y;
     COLORREF color;
+    std::u16string wideText;
 };
 std::vector<DrawnText> TextDrawnIn(HWND window);
 

@@ -10,6 +10,12 @@ LRESULT SendDlgItemMessageA(HWND dialog, int id, UINT message, WPARAM wParam, LP
     return control ? SendMessageA(control, message, wParam, lParam) : 0;
 }
 
+LRESULT SendDlgItemMessageW(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    return control ? SendMessageW(control, message, wParam, lParam) : 0;
+}
+
 BOOL CheckDlgButton(HWND dialog, int id, UINT check)
 {
     const HWND control = GetDlgItem(dialog, id);
@@ -54,4 +60,18 @@ UINT GetDlgItemTextA(HWND dialog, int id, LPSTR text, int size)
     if (text && size > 0)
         text[0] = 0;
     return control ? static_cast<UINT>(GetWindowTextA(control, text, size)) : 0;
+}
+
+BOOL SetDlgItemTextW(HWND dialog, int id, LPCWSTR text)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    return control && SetWindowTextW(control, text);
+}
+
+UINT GetDlgItemTextW(HWND dialog, int id, LPWSTR text, int size)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    if (text && size > 0)
+        text[0] = 0;
+    return control ? static_cast<UINT>(GetWindowTextW(control, text, size)) : 0;
 }

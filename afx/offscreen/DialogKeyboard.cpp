@@ -1,6 +1,7 @@
 // IsDialogMessage: the keys that move about in a dialog, press its default button and leave it.
 
 #include "afx/offscreen/DialogState.h"
+#include "afx/offscreen/TextMessages.h"
 
 using namespace offscreen;
 
@@ -26,18 +27,17 @@ bool CanBeReached(HWND control)
 
 bool FollowMnemonic(HWND dialog, HWND focus, WPARAM character)
 {
-    const char typed = static_cast<char>(character);
-    const std::string wanted = UpperCase(std::string_view(&typed, 1));
+    const char16_t wanted = UpperCase(static_cast<char16_t>(character));
     for (HWND control : WindowsAround(dialog, focus))
     {
         if (!CanBeReached(control))
             continue;
         const LRESULT code = DialogCode(control);
-        const DWORD style = static_cast<DWORD>(GetWindowLongA(control, GWL_STYLE));
+        const DWORD style = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE));
         if (!(code & (DLGC_BUTTON | DLGC_STATIC)) || ((code & DLGC_STATIC) && (style & SS_NOPREFIX)))
             continue;
         const Window* window = Find(control);
-        if (!window || MnemonicOf(window->text) != wanted[0])
+        if (!window || MnemonicOf(window->text) != wanted)
             continue;
         // A label stands for the control behind it.
         if ((code & DLGC_STATIC) || (style & BS_TYPEMASK) == BS_GROUPBOX)
@@ -60,7 +60,7 @@ void MoveInGroup(HWND dialog, const MSG& message, bool backwards)
     if (DialogCode(next) & DLGC_RADIOBUTTON)
     {
         SetFocus(next);
-        const bool isAuto = (GetWindowLongA(next, GWL_STYLE) & BS_TYPEMASK) == BS_AUTORADIOBUTTON;
+        const bool isAuto = (GetWindowLongW(next, GWL_STYLE) & BS_TYPEMASK) == BS_AUTORADIOBUTTON;
         if (isAuto && Send(next, BM_GETCHECK) != BST_CHECKED)
             Send(next, BM_CLICK, TRUE);
     }
@@ -137,7 +137,7 @@ bool HandleCharacter(HWND dialog, const MSG& message)
 }
 } // namespace
 
-BOOL IsDialogMessageA(HWND dialog, LPMSG message)
+BOOL IsDialogMessageW(HWND dialog, LPMSG message)
 {
     Inside inside;
     if (!Find(dialog) || (message->hwnd != dialog && !IsChild(dialog, message->hwnd)))
@@ -158,7 +158,17 @@ BOOL IsDialogMessageA(HWND dialog, LPMSG message)
     if (!handled)
     {
         TranslateMessage(message);
-        DispatchMessageA(message);
+        DispatchMessageW(message);
     }
     return TRUE;
+}
+
+BOOL IsDialogMessageA(HWND dialog, LPMSG message)
+{
+    Inside inside;
+    MSG wide = *message;
+    const bool isCharacter = wide.message == WM_CHAR || wide.message == WM_SYSCHAR;
+    if (isCharacter && !WidenCharacter(wide.hwnd, wide.wParam))
+        return TRUE; // It is handled together with the second byte.
+    return IsDialogMessageW(dialog, &wide);
 }

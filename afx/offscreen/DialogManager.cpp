@@ -7,24 +7,24 @@ namespace offscreen
 {
 namespace
 {
-const char* ClassOfOrdinal(int ordinal)
+LPCWSTR ClassOfOrdinal(int ordinal)
 {
     switch (ordinal)
     {
     case 0x80:
-        return "Button";
+        return u"Button";
     case 0x81:
-        return "Edit";
+        return u"Edit";
     case 0x82:
-        return "Static";
+        return u"Static";
     case 0x83:
-        return "ListBox";
+        return u"ListBox";
     case 0x84:
-        return "ScrollBar";
+        return u"ScrollBar";
     case 0x85:
-        return "ComboBox";
+        return u"ComboBox";
     default:
-        return "";
+        return u"";
     }
 }
 
@@ -32,14 +32,14 @@ int Scaled(int value, int unit, int divisor) { return MulDiv(value, unit, diviso
 
 HFONT MakeFont(const TemplateFont& font)
 {
-    LOGFONTA logFont{};
+    LOGFONTW logFont{};
     // Negative sizes are pixels already.
     logFont.lfHeight = font.pointSize < 0 ? font.pointSize : -MulDiv(font.pointSize, 96, 72);
     logFont.lfWeight = font.weight;
     logFont.lfItalic = font.italic;
     logFont.lfCharSet = font.charSet;
-    CopyText(font.face, logFont.lfFaceName, sizeof logFont.lfFaceName);
-    return CreateFontIndirectA(&logFont);
+    CopyText(font.face, logFont.lfFaceName, LF_FACESIZE);
+    return CreateFontIndirectW(&logFont);
 }
 
 struct Place
@@ -94,11 +94,11 @@ Place DialogPlace(const Template& tmpl, const BaseUnits& units, DWORD style, DWO
 bool CreateControl(HWND dialog, HINSTANCE instance, const TemplateControl& control)
 {
     DialogState* state = DialogStateOf(dialog);
-    const std::string& className =
+    const std::u16string& className =
         control.className.ordinal >= 0 ? ClassOfOrdinal(control.className.ordinal) : control.className.text;
-    std::string title = control.title.text;
+    std::u16string title = control.title.text;
     if (control.title.ordinal >= 0)
-        title = "#" + std::to_string(control.title.ordinal);
+        title = ToWide("#" + std::to_string(control.title.ordinal));
 
     DWORD style = control.style | WS_CHILD;
     DWORD exStyle = control.exStyle | WS_EX_NOPARENTNOTIFY;
@@ -108,7 +108,7 @@ bool CreateControl(HWND dialog, HINSTANCE instance, const TemplateControl& contr
         exStyle |= WS_EX_CLIENTEDGE;
     }
     const BaseUnits units = state->units;
-    const HWND window = CreateWindowExA(
+    const HWND window = CreateWindowExW(
         exStyle, className.c_str(), title.c_str(), style, Scaled(control.x, units.x, 4), Scaled(control.y, units.y, 8),
         Scaled(control.width, units.x, 4), Scaled(control.height, units.y, 8), dialog,
         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(control.id)), instance, const_cast<void*>(control.data));
@@ -116,7 +116,7 @@ bool CreateControl(HWND dialog, HINSTANCE instance, const TemplateControl& contr
     if (!state)
         return false;
     if (!window)
-        return (GetWindowLongA(dialog, GWL_STYLE) & DS_NOFAILCREATE) != 0;
+        return (GetWindowLongW(dialog, GWL_STYLE) & DS_NOFAILCREATE) != 0;
     if (state->font)
         Send(window, WM_SETFONT, reinterpret_cast<WPARAM>(state->font), 0);
     if (DialogCode(window) & DLGC_DEFPUSHBUTTON)
@@ -159,7 +159,7 @@ bool Initialize(HWND dialog, DWORD style, LPARAM param)
         GiveFirstFocus(dialog);
     if (!Find(dialog))
         return false;
-    if ((style & WS_VISIBLE) && !(GetWindowLongA(dialog, GWL_STYLE) & WS_VISIBLE) && !DialogStateOf(dialog)->ended)
+    if ((style & WS_VISIBLE) && !(GetWindowLongW(dialog, GWL_STYLE) & WS_VISIBLE) && !DialogStateOf(dialog)->ended)
         ShowWindow(dialog, SW_SHOWNORMAL);
     return Find(dialog) != nullptr;
 }
@@ -195,16 +195,17 @@ HWND CreateFrame(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC p
     DWORD exStyle = tmpl.exStyle;
     CompleteStyles(style, exStyle);
     const Place place = DialogPlace(tmpl, state->units, style, exStyle, owner);
-    const char* className = tmpl.className.text.empty() ? "#32770" : tmpl.className.text.c_str();
-    const HWND dialog = CreateWindowExA(exStyle, className, tmpl.title.text.c_str(), style & ~WS_VISIBLE, place.x,
+    LPCWSTR className = tmpl.className.text.empty() ? u"#32770" : tmpl.className.text.c_str();
+    const HWND dialog = CreateWindowExW(exStyle, className, tmpl.title.text.c_str(), style & ~WS_VISIBLE, place.x,
                                         place.y, place.width, place.height, owner, nullptr, instance, nullptr);
     Window* window = Find(dialog);
     if (!window)
         return nullptr;
     const HFONT font = state->font;
+    const auto setLong = state->unicodeProcedure ? SetWindowLongPtrW : SetWindowLongPtrA;
     window->dialog = std::move(state);
     window->extra.resize(std::max<std::size_t>(window->extra.size(), DLGWINDOWEXTRA));
-    SetWindowLongPtrA(dialog, static_cast<int>(DWLP_DLGPROC), reinterpret_cast<LONG_PTR>(procedure));
+    setLong(dialog, static_cast<int>(DWLP_DLGPROC), reinterpret_cast<LONG_PTR>(procedure));
     if (font)
         Send(dialog, WM_SETFONT, reinterpret_cast<WPARAM>(font), 0);
     return dialog;
@@ -222,19 +223,34 @@ bool CreateControls(HWND dialog, HINSTANCE instance, const Template& tmpl)
     return true;
 }
 
-HWND Create(HINSTANCE instance, const void* data, HWND owner, DLGPROC procedure, LPARAM param, bool modal)
+// A dialog that an ANSI function creates gets its texts by the ANSI code page, although its controls could show more.
+void KeepAnsiTexts(Template& tmpl)
+{
+    const auto keep = [](TemplateWindow& window) { window.title.text = ToWide(ToAnsi(window.title.text)); };
+    keep(tmpl);
+    std::for_each(tmpl.controls.begin(), tmpl.controls.end(), keep);
+}
+
+HWND Create(HINSTANCE instance, const void* data, HWND owner, DLGPROC procedure, LPARAM param, bool modal, bool unicode)
 {
     DesktopWindow();
-    return data ? CreateDialogFrom(ReadTemplate(data), instance, owner, procedure, param, modal) : nullptr;
+    if (!data)
+        return nullptr;
+    Template tmpl = ReadTemplate(data);
+    if (!unicode)
+        KeepAnsiTexts(tmpl);
+    return CreateDialogFrom(tmpl, instance, owner, procedure, param, modal, unicode);
 }
 } // namespace
 
-HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param, bool modal)
+HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param, bool modal,
+                      bool unicode)
 {
     DesktopWindow();
     if (!tmpl.menu.IsEmpty())
         return NotModelled("dialogs with a menu bar", HWND{});
     std::unique_ptr<DialogState> state = MakeState(tmpl);
+    state->unicodeProcedure = unicode;
     const bool enableOwner = modal && DisableOwner(owner);
     state->enableOwner = enableOwner;
     const HWND dialog = CreateFrame(tmpl, instance, owner, procedure, std::move(state));
@@ -252,16 +268,16 @@ HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGP
 
 INT_PTR RunModal(HWND dialog, HWND owner)
 {
-    const bool wantsIdle = !(GetWindowLongA(dialog, GWL_STYLE) & DS_NOIDLEMSG);
+    const bool wantsIdle = !(GetWindowLongW(dialog, GWL_STYLE) & DS_NOIDLEMSG);
     MSG msg{};
     while (DialogState* state = DialogStateOf(dialog))
     {
         if (state->ended)
             break;
-        if (!PeekMessageA(&msg, nullptr, 0, 0, PM_NOREMOVE))
+        if (!PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE))
         {
             // A dialog that is not visible yet appears when there is nothing else to do.
-            if (!(GetWindowLongA(dialog, GWL_STYLE) & WS_VISIBLE))
+            if (!(GetWindowLongW(dialog, GWL_STYLE) & WS_VISIBLE))
                 ShowWindow(dialog, SW_SHOWNORMAL);
             if (wantsIdle && Find(owner))
                 Send(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(dialog));
@@ -269,16 +285,16 @@ INT_PTR RunModal(HWND dialog, HWND owner)
             if (!state || state->ended)
                 break;
         }
-        if (!GetMessageA(&msg, nullptr, 0, 0))
+        if (!GetMessageW(&msg, nullptr, 0, 0))
         {
             // The loops below this one shall end too.
             PostQuitMessage(static_cast<int>(msg.wParam));
             break;
         }
-        if (!Find(dialog) || IsDialogMessageA(dialog, &msg))
+        if (!Find(dialog) || IsDialogMessageW(dialog, &msg))
             continue;
         TranslateMessage(&msg);
-        DispatchMessageA(&msg);
+        DispatchMessageW(&msg);
     }
 
     const DialogState* state = DialogStateOf(dialog);
@@ -297,20 +313,43 @@ HWND CreateDialogIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplat
                                 LPARAM param)
 {
     Inside inside;
-    return Create(instance, dialogTemplate, owner, procedure, param, false);
+    return Create(instance, dialogTemplate, owner, procedure, param, false, false);
 }
 
-INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
+HWND CreateDialogIndirectParamW(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
                                 LPARAM param)
 {
     Inside inside;
+    return Create(instance, dialogTemplate, owner, procedure, param, false, true);
+}
+
+namespace
+{
+INT_PTR RunDialogBox(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure, LPARAM param,
+                     bool unicode)
+{
     if (owner && !Find(owner))
     {
         SetLastError(ERROR_INVALID_WINDOW_HANDLE);
         return 0;
     }
-    const HWND dialog = Create(instance, dialogTemplate, owner, procedure, param, true);
+    const HWND dialog = Create(instance, dialogTemplate, owner, procedure, param, true, unicode);
     return dialog ? RunModal(dialog, owner) : -1;
+}
+} // namespace
+
+INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
+                                LPARAM param)
+{
+    Inside inside;
+    return RunDialogBox(instance, dialogTemplate, owner, procedure, param, false);
+}
+
+INT_PTR DialogBoxIndirectParamW(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
+                                LPARAM param)
+{
+    Inside inside;
+    return RunDialogBox(instance, dialogTemplate, owner, procedure, param, true);
 }
 
 BOOL EndDialog(HWND dialog, INT_PTR result)
@@ -343,7 +382,7 @@ BOOL EndDialog(HWND dialog, INT_PTR result)
         ActivateAnother(dialog);
     // Wakes the modal loop.
     if (Find(dialog))
-        PostMessageA(dialog, WM_NULL, 0, 0);
+        PostMessageW(dialog, WM_NULL, 0, 0);
     return TRUE;
 }
 

@@ -1,6 +1,7 @@
 // The procedure of dialogs, DefDlgProc: it asks the dialog's own procedure first and does the rest.
 
 #include "afx/offscreen/DialogState.h"
+#include "afx/offscreen/TextMessages.h"
 
 namespace offscreen
 {
@@ -8,7 +9,34 @@ namespace
 {
 DLGPROC ProcedureOf(HWND dialog)
 {
-    return reinterpret_cast<DLGPROC>(GetWindowLongPtrA(dialog, static_cast<int>(DWLP_DLGPROC)));
+    return reinterpret_cast<DLGPROC>(GetWindowLongPtrW(dialog, static_cast<int>(DWLP_DLGPROC)));
+}
+
+// A dialog procedure tells whether it handled the message; its answer, which may tell the length of a text, stands in
+// DWLP_MSGRESULT.
+INT_PTR CallTranslated(DLGPROC procedure, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    INT_PTR handled = 0;
+    const Receiver receiver = [&](UINT received, WPARAM w, LPARAM l) -> LRESULT {
+        {
+            Outside outside;
+            handled = procedure(dialog, received, w, l);
+        }
+        return handled ? GetWindowLongPtrW(dialog, DWLP_MSGRESULT) : 0;
+    };
+    const LRESULT result = SendUnicodeToAnsi(receiver, message, wParam, lParam);
+    if (handled)
+        SetWindowLongPtrW(dialog, DWLP_MSGRESULT, result);
+    return handled;
+}
+
+INT_PTR CallDialogProc(DLGPROC procedure, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const DialogState* state = DialogStateOf(dialog);
+    if (state && !state->unicodeProcedure && HasText(message))
+        return CallTranslated(procedure, dialog, message, wParam, lParam);
+    Outside outside;
+    return procedure(dialog, message, wParam, lParam);
 }
 
 void SaveFocus(HWND dialog)
@@ -109,7 +137,7 @@ LRESULT CloseByCommand(HWND dialog)
     if (cancel && !IsWindowEnabled(cancel))
         MessageBeep(0);
     else
-        PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), reinterpret_cast<LPARAM>(cancel));
+        PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), reinterpret_cast<LPARAM>(cancel));
     return 0;
 }
 
@@ -123,7 +151,7 @@ LRESULT DefaultDialogAction(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
         auto brush = reinterpret_cast<HBRUSH>(Send(dialog, WM_CTLCOLORDLG, wParam, reinterpret_cast<LPARAM>(dialog)));
         if (!brush)
             brush = reinterpret_cast<HBRUSH>(
-                DefWindowProcA(dialog, WM_CTLCOLORDLG, wParam, reinterpret_cast<LPARAM>(dialog)));
+                DefWindowProcW(dialog, WM_CTLCOLORDLG, wParam, reinterpret_cast<LPARAM>(dialog)));
         RECT client{};
         GetClientRect(dialog, &client);
         FillRect(dc, &client, brush);
@@ -132,7 +160,7 @@ LRESULT DefaultDialogAction(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
     case WM_SHOWWINDOW:
         if (!wParam)
             SaveFocus(dialog);
-        return DefWindowProcA(dialog, message, wParam, lParam);
+        return DefWindowProcW(dialog, message, wParam, lParam);
     case WM_ACTIVATE:
         if (LOWORD(wParam) != WA_INACTIVE)
             RestoreFocus(dialog, true);
@@ -164,7 +192,7 @@ LRESULT DefaultDialogAction(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
     case WM_CHARTOITEM:
         return 0;
     default:
-        return DefWindowProcA(dialog, message, wParam, lParam);
+        return DefWindowProcW(dialog, message, wParam, lParam);
     }
 }
 
@@ -213,7 +241,7 @@ bool IsDefaultAction(UINT message)
 
 using namespace offscreen;
 
-LRESULT DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT DefDlgProcW(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
 {
     Inside inside;
     Window* window = Find(dialog);
@@ -221,16 +249,13 @@ LRESULT DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     const Pin pin(window);
     if (window->extra.size() < DLGWINDOWEXTRA)
-        return DefWindowProcA(dialog, message, wParam, lParam);
+        return DefWindowProcW(dialog, message, wParam, lParam);
 
-    SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 0);
+    SetWindowLongPtrW(dialog, DWLP_MSGRESULT, 0);
     INT_PTR handled = 0;
     if (const DLGPROC procedure = ProcedureOf(dialog))
     {
-        {
-            Outside outside;
-            handled = procedure(dialog, message, wParam, lParam);
-        }
+        handled = CallDialogProc(procedure, dialog, message, wParam, lParam);
         if (window->dead)
             return handled;
     }
@@ -238,9 +263,15 @@ LRESULT DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
     {
         if (IsDefaultAction(message) || AnswersItself(message))
             return DefaultDialogAction(dialog, message, wParam, lParam);
-        return DefWindowProcA(dialog, message, wParam, lParam);
+        return DefWindowProcW(dialog, message, wParam, lParam);
     }
     if (AnswersItself(message))
         return handled;
-    return GetWindowLongPtrA(dialog, DWLP_MSGRESULT);
+    return GetWindowLongPtrW(dialog, DWLP_MSGRESULT);
+}
+
+LRESULT DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    return CallProc({DefDlgProcW, true}, false, dialog, message, wParam, lParam);
 }

@@ -9,7 +9,8 @@ struct DialogState : ControlState
     HFONT font = nullptr; // Made for the template; nothing when the template names none.
     BaseUnits units{};
     int defaultId = 0;
-    HWND focus = nullptr; // What had the focus when the dialog was last active.
+    HWND focus = nullptr;         // What had the focus when the dialog was last active.
+    bool unicodeProcedure = true; // The dialog's own procedure, DWLP_DLGPROC
     bool ended = false;
     INT_PTR result = 0;
     bool enableOwner = false; // The owner was disabled for the dialog.

@@ -22,12 +22,12 @@ public:
     void Skip(std::size_t bytes) { m_position += bytes; }
     const BYTE* Position() const { return m_position; }
 
-    std::string Text()
+    std::u16string Text()
     {
-        std::u16string wide;
+        std::u16string text;
         while (const WORD c = Word())
-            wide.push_back(static_cast<char16_t>(c));
-        return ToAnsi(wide);
+            text.push_back(static_cast<char16_t>(c));
+        return text;
     }
 
     TemplateName Name()

@@ -9,7 +9,7 @@ namespace offscreen
 // A class, title or menu in a dialog template: a text or an ordinal.
 struct TemplateName
 {
-    std::string text;
+    std::u16string text;
     int ordinal = -1;
     bool IsEmpty() const { return ordinal < 0 && text.empty(); }
 };
@@ -39,10 +39,10 @@ struct TemplateFont
     int weight = FW_DONTCARE;
     bool italic = false;
     BYTE charSet = DEFAULT_CHARSET;
-    std::string face;
+    std::u16string face;
 };
 
-// A dialog template in either form, DLGTEMPLATE or DLGTEMPLATEEX, taken apart. Its texts are in the ANSI code page.
+// A dialog template in either form, DLGTEMPLATE or DLGTEMPLATEEX, taken apart.
 struct Template : TemplateWindow
 {
     TemplateName menu;
@@ -52,7 +52,8 @@ struct Template : TemplateWindow
 
 Template ReadTemplate(const void* data);
 
-// Creates a dialog; `modal` disables the owner until EndDialog or the end of the modal loop.
-HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param,
-                      bool modal);
+// Creates a dialog; `modal` disables the owner until EndDialog or the end of the modal loop. `unicode` is whether the
+// procedure is a Unicode one.
+HWND CreateDialogFrom(const Template& tmpl, HINSTANCE instance, HWND owner, DLGPROC procedure, LPARAM param, bool modal,
+                      bool unicode = true);
 } // namespace offscreen

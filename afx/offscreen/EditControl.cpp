@@ -39,6 +39,25 @@ LRESULT LineIndex(Window& edit, int line)
     return IsMultiLine(edit) ? LinesOf(edit).StartOf(line) : 0;
 }
 
+// The line is not terminated unless there is room.
+LRESULT CopyLine(Window& edit, WPARAM line, WCHAR* target)
+{
+    const std::size_t room = static_cast<WORD>(target[0]);
+    if (IsMultiLine(edit) && line >= static_cast<WPARAM>(LineCount(edit)))
+        return 0;
+    std::u16string_view text = edit.text;
+    if (IsMultiLine(edit))
+    {
+        const int at = static_cast<int>(line);
+        text = text.substr(static_cast<std::size_t>(LinesOf(edit).StartOf(at)),
+                           static_cast<std::size_t>(LinesOf(edit).LengthOf(at)));
+    }
+    const std::size_t copied = text.copy(target, room);
+    if (copied < room)
+        target[copied] = 0;
+    return static_cast<LRESULT>(copied);
+}
+
 LRESULT HandleEditMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lParam)
 {
     EditState& state = Of(edit);
@@ -66,6 +85,12 @@ LRESULT HandleEditMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lPar
         return LineCount(edit);
     case EM_LINEINDEX:
         return LineIndex(edit, static_cast<int>(wParam));
+    case EM_REPLACESEL:
+        if (lParam)
+            ReplaceSelection(edit, reinterpret_cast<LPCWSTR>(lParam));
+        return 1;
+    case EM_GETLINE:
+        return CopyLine(edit, wParam, reinterpret_cast<LPWSTR>(lParam));
     case EM_GETFIRSTVISIBLELINE:
         return state.scrolled;
     case EM_GETRECT:
@@ -102,7 +127,6 @@ LRESULT HandleFocus(Window& edit, bool gained)
 {
     EditState& state = Of(edit);
     state.focused = gained;
-    state.lead = 0;
     Invalidate(edit);
     NotifyParent(edit, gained ? EN_SETFOCUS : EN_KILLFOCUS);
     return 0;
@@ -143,7 +167,7 @@ LRESULT Handle(Window& edit, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_GETDLGCODE:
         return DialogCodeOf(edit, reinterpret_cast<const MSG*>(lParam));
     case WM_SETTEXT:
-        SetWholeText(edit, reinterpret_cast<LPCSTR>(lParam));
+        SetWholeText(edit, reinterpret_cast<LPCWSTR>(lParam));
         return TRUE;
     case WM_SETFONT:
         DefControlProc(edit, PaintOn, message, wParam, lParam);
@@ -156,7 +180,7 @@ LRESULT Handle(Window& edit, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_KILLFOCUS:
         return HandleFocus(edit, message == WM_SETFOCUS);
     case WM_CHAR:
-        HandleChar(edit, static_cast<char>(wParam));
+        HandleChar(edit, static_cast<char16_t>(wParam));
         return 0;
     case WM_KEYDOWN:
         return HandleKey(edit, wParam);

@@ -15,9 +15,9 @@ void DeleteBackwards(Window& edit)
     {
         if (state.caret == 0)
             return;
-        std::size_t before = PreviousCharacter(edit.text, static_cast<std::size_t>(state.caret));
+        auto before = static_cast<std::size_t>(state.caret) - 1;
         // A line break goes as one.
-        if (before > 0 && IsMultiLine(edit) && edit.text.compare(before - 1, 2, "\r\n") == 0)
+        if (before > 0 && IsMultiLine(edit) && edit.text.compare(before - 1, 2, u"\r\n") == 0)
             --before;
         state.anchor = static_cast<int>(before);
     }
@@ -32,39 +32,27 @@ void DeleteForwards(Window& edit)
         if (state.caret >= LengthOf(edit))
             return;
         const auto at = static_cast<std::size_t>(state.caret);
-        const bool isBreak = IsMultiLine(edit) && edit.text.compare(at, 2, "\r\n") == 0;
+        const bool isBreak = IsMultiLine(edit) && edit.text.compare(at, 2, u"\r\n") == 0;
         state.anchor = state.caret;
-        state.caret += isBreak ? 2 : CharacterLength(edit.text, at);
+        state.caret += isBreak ? 2 : 1;
     }
     ReplaceSelection(edit, {});
 }
 
-void TypeCharacter(Window& edit, char c)
+void TypeCharacter(Window& edit, char16_t c)
 {
-    EditState& state = Of(edit);
-    std::string text(1, c);
-    if (state.lead)
-    {
-        text.insert(text.begin(), std::exchange(state.lead, 0));
-    }
-    else if (IsLeadByte(static_cast<unsigned char>(c)))
-    {
-        state.lead = c;
+    if (c < u' ' || c == 127)
         return;
-    }
-    const auto code = static_cast<unsigned char>(c);
-    if (text.size() == 1 && (code < ' ' || code == 127))
-        return;
-    if ((edit.style & ES_NUMBER) && (text.size() > 1 || code < '0' || code > '9'))
+    if ((edit.style & ES_NUMBER) && (c < u'0' || c > u'9'))
     {
         MessageBeep(0);
         return;
     }
-    ReplaceSelection(edit, text, Change::Typed);
+    ReplaceSelection(edit, {&c, 1}, Change::Typed);
 }
 } // namespace
 
-void HandleChar(Window& edit, char c)
+void HandleChar(Window& edit, char16_t c)
 {
     EditState& state = Of(edit);
     const bool readOnly = IsReadOnly(edit);
@@ -74,11 +62,11 @@ void HandleChar(Window& edit, char c)
     case '\n':
         if (!IsMultiLine(edit) || readOnly || (state.inDialog && !(edit.style & ES_WANTRETURN)))
             return;
-        ReplaceSelection(edit, "\r\n");
+        ReplaceSelection(edit, u"\r\n");
         return;
     case '\t':
         if (IsMultiLine(edit) && !readOnly && !state.inDialog)
-            ReplaceSelection(edit, "\t");
+            ReplaceSelection(edit, u"\t");
         return;
     case '\b':
         if (!readOnly && !KeyIsDown(VK_CONTROL))
@@ -110,17 +98,17 @@ int NextPosition(const Window& edit, int position)
     if (position >= LengthOf(edit))
         return position;
     const auto at = static_cast<std::size_t>(position);
-    if (edit.text.compare(at, 2, "\r\n") == 0)
+    if (edit.text.compare(at, 2, u"\r\n") == 0)
         return position + 2;
-    return position + CharacterLength(edit.text, at);
+    return position + 1;
 }
 
 int PreviousPosition(const Window& edit, int position)
 {
     if (position <= 0)
         return 0;
-    const auto before = static_cast<int>(PreviousCharacter(edit.text, static_cast<std::size_t>(position)));
-    return before > 0 && edit.text.compare(static_cast<std::size_t>(before - 1), 2, "\r\n") == 0 ? before - 1 : before;
+    const bool behindBreak = position > 1 && edit.text.compare(static_cast<std::size_t>(position - 2), 2, u"\r\n") == 0;
+    return behindBreak ? position - 2 : position - 1;
 }
 
 int NextWord(const Window& edit, int position)
@@ -162,7 +150,7 @@ int InOtherLine(Window& edit, int lines)
     const int line = all.LineOf(caret);
     const int column = caret - all.StartOf(line);
     const int target = std::clamp(line + lines, 0, all.Count() - 1);
-    return OnCharacter(edit, all.StartOf(target) + std::min(column, all.LengthOf(target)));
+    return all.StartOf(target) + std::min(column, all.LengthOf(target));
 }
 
 // A multi-line edit in a dialog gets every key and passes on the dialog's own.
@@ -175,7 +163,7 @@ void PassKeyToDialog(Window& edit, WPARAM key)
         Send(dialog, WM_NEXTDLGCTL, KeyIsDown(VK_SHIFT), 0);
         break;
     case VK_ESCAPE:
-        PostMessageA(dialog, WM_CLOSE, 0, 0);
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
         break;
     case VK_RETURN: {
         const LRESULT answer = Send(dialog, DM_GETDEFID);
@@ -183,7 +171,7 @@ void PassKeyToDialog(Window& edit, WPARAM key)
             break;
         const HWND button = GetDlgItem(dialog, LOWORD(answer));
         if (button && IsWindowEnabled(button))
-            PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(LOWORD(answer), BN_CLICKED), reinterpret_cast<LPARAM>(button));
+            PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(LOWORD(answer), BN_CLICKED), reinterpret_cast<LPARAM>(button));
         break;
     }
     default:
@@ -271,7 +259,7 @@ LRESULT HandleKey(Window& edit, WPARAM key)
             PassKeyToDialog(edit, key);
         return 0;
     default:
-        return DefWindowProcA(edit.handle, WM_KEYDOWN, key, 0);
+        return DefWindowProcW(edit.handle, WM_KEYDOWN, key, 0);
     }
 }
 

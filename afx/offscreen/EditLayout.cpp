@@ -55,7 +55,7 @@ namespace
 {
 int WidthBetween(const Window& edit, int from, int to)
 {
-    const std::string_view text = edit.text;
+    const std::u16string_view text = edit.text;
     return TextWidth(MetricsOf(edit.font),
                      text.substr(static_cast<std::size_t>(from), static_cast<std::size_t>(to - from)));
 }
@@ -79,9 +79,8 @@ void ScrollToCaret(Window& edit)
     int width = WidthBetween(edit, state.scrolled, state.caret);
     while (state.scrolled < state.caret && width > FormatWidth(edit))
     {
-        const int next = state.scrolled + CharacterLength(edit.text, static_cast<std::size_t>(state.scrolled));
-        width -= WidthBetween(edit, state.scrolled, next);
-        state.scrolled = next;
+        width -= WidthBetween(edit, state.scrolled, state.scrolled + 1);
+        ++state.scrolled;
     }
 }
 
@@ -102,12 +101,11 @@ int IndexAt(Window& edit, POINT point)
     int x = state.format.left;
     while (index < end)
     {
-        const int length = CharacterLength(edit.text, static_cast<std::size_t>(index));
-        const int width = WidthBetween(edit, index, index + length);
+        const int width = WidthBetween(edit, index, index + 1);
         if (point.x < x + (width + 1) / 2)
             break;
         x += width;
-        index += length;
+        ++index;
     }
     return index;
 }

@@ -2,15 +2,15 @@
 
 namespace offscreen
 {
-void EditLines::Break(std::string_view text, const FontMetrics& metrics, int width)
+void EditLines::Break(std::u16string_view text, const FontMetrics& metrics, int width)
 {
     m_starts.clear();
     m_lengths.clear();
     std::size_t start = 0;
     for (;;)
     {
-        const std::size_t end = text.find("\r\n", start);
-        const bool last = end == std::string_view::npos;
+        const std::size_t end = text.find(u"\r\n", start);
+        const bool last = end == std::u16string_view::npos;
         BreakParagraph(text, static_cast<int>(start), static_cast<int>(last ? text.size() : end), metrics, width);
         if (last)
             return;
@@ -18,26 +18,24 @@ void EditLines::Break(std::string_view text, const FontMetrics& metrics, int wid
     }
 }
 
-void EditLines::BreakParagraph(std::string_view text, int start, int end, const FontMetrics& metrics, int width)
+void EditLines::BreakParagraph(std::u16string_view text, int start, int end, const FontMetrics& metrics, int width)
 {
     do
     {
         int position = start;
-        int afterSpace = start;
+        int afterWord = start;
         int used = 0;
-        while (position < end)
+        for (; position < end; ++position)
         {
-            const int length = CharacterLength(text, static_cast<std::size_t>(position));
-            used +=
-                TextWidth(metrics, text.substr(static_cast<std::size_t>(position), static_cast<std::size_t>(length)));
+            const auto at = static_cast<std::size_t>(position);
+            if (position > start && (text[at - 1] == u' ' || MayBreakBetween(text[at - 1], text[at])))
+                afterWord = position;
+            used += TextWidth(metrics, text.substr(at, 1));
             if (used > width && position > start)
                 break;
-            position += length;
-            if (text[static_cast<std::size_t>(position - 1)] == ' ')
-                afterSpace = position;
         }
-        if (position < end && afterSpace > start)
-            position = afterSpace;
+        if (position < end && afterWord > start)
+            position = afterWord;
         m_starts.push_back(start);
         m_lengths.push_back(position - start);
         start = position;

@@ -2,8 +2,7 @@
 
 #include "afx/offscreen/EditLines.h"
 
-// The parts of the standard class "Edit". Texts are bytes in the ANSI code page; no operation cuts a double-byte
-// character.
+// The parts of the standard class "Edit". Positions and limits count the units of UTF-16.
 namespace offscreen::edit
 {
 constexpr UINT kInitialLimit = 30000;
@@ -11,7 +10,7 @@ constexpr UINT kInitialLimit = 30000;
 struct Undo
 {
     bool possible = false;
-    std::string text;
+    std::u16string text;
     int start = 0;
     int end = 0;
 };
@@ -23,7 +22,6 @@ struct EditState : ControlState
     UINT limit = kInitialLimit;
     bool focused = false;
     bool inDialog = false; // Keys have come through a dialog's keyboard handling.
-    char lead = 0;         // First byte of a double-byte character whose second byte is to come.
     RECT format{};
     int scrolled = 0; // First visible character, or line in a multi-line edit.
     bool typing = false;
@@ -57,12 +55,11 @@ enum class Change
     Replaced
 };
 
-int OnCharacter(const Window& edit, int position);             // Back to the start of the character
-std::string InCase(const Window& edit, std::string_view text); // In upper case when the edit wants it
+std::u16string InCase(const Window& edit, std::u16string_view text); // In upper case when the edit wants it
 void SetSelection(Window& edit, int start, int end);
 // Replaces the selection as the user would, within the limit, and tells the parent.
-void ReplaceSelection(Window& edit, std::string_view text, Change change = Change::Replaced);
-void SetWholeText(Window& edit, LPCSTR text);
+void ReplaceSelection(Window& edit, std::u16string_view text, Change change = Change::Replaced);
+void SetWholeText(Window& edit, LPCWSTR text);
 void NotifyChange(Window& edit);
 bool UndoChange(Window& edit);
 void Copy(const Window& edit);
@@ -71,7 +68,7 @@ void Clear(Window& edit);
 void Cut(Window& edit);
 
 // EditKeyboard.cpp: what the user does.
-void HandleChar(Window& edit, char c);
+void HandleChar(Window& edit, char16_t c);
 LRESULT HandleKey(Window& edit, WPARAM key);
 LRESULT HandleMouse(Window& edit, UINT message, WPARAM wParam, LPARAM lParam);
 } // namespace offscreen::edit

@@ -2,24 +2,8 @@
 
 #include "afx/offscreen/EditState.h"
 
-#include <cstring>
-
 namespace offscreen::edit
 {
-int OnCharacter(const Window& edit, int position)
-{
-    // Never between the bytes of a double-byte character.
-    int start = 0;
-    while (start < position)
-    {
-        const int length = CharacterLength(edit.text, static_cast<std::size_t>(start));
-        if (start + length > position)
-            return start;
-        start += length;
-    }
-    return position;
-}
-
 void SetSelection(Window& edit, int start, int end)
 {
     EditState& state = Of(edit);
@@ -31,48 +15,31 @@ void SetSelection(Window& edit, int start, int end)
     }
     else
     {
-        state.anchor = OnCharacter(edit, start < 0 || start > length ? length : start);
-        state.caret = OnCharacter(edit, end < 0 || end > length ? length : end);
+        state.anchor = start < 0 || start > length ? length : start;
+        state.caret = end < 0 || end > length ? length : end;
     }
     Invalidate(edit);
 }
 
-namespace
+std::u16string InCase(const Window& edit, std::u16string_view text)
 {
-// The longest beginning of `text` that is no longer than `size` and ends with a whole character.
-std::string_view WholeCharacters(std::string_view text, std::size_t size)
-{
-    std::size_t end = 0;
-    while (end < text.size())
-    {
-        const auto length = static_cast<std::size_t>(CharacterLength(text, end));
-        if (end + length > size)
-            break;
-        end += length;
-    }
-    return text.substr(0, end);
-}
-} // namespace
-
-std::string InCase(const Window& edit, std::string_view text)
-{
-    return edit.style & ES_UPPERCASE ? UpperCase(text) : std::string(text);
+    return edit.style & ES_UPPERCASE ? UpperCase(text) : std::u16string(text);
 }
 
 namespace
 {
 // A single-line edit that does not scroll takes only what fits in its width.
-std::string_view FittingPart(const Window& edit, std::string_view rest, std::string_view text)
+std::u16string_view FittingPart(const Window& edit, std::u16string_view rest, std::u16string_view text)
 {
     const FontMetrics& metrics = MetricsOf(edit.font);
     const int width = FormatWidth(edit) - TextWidth(metrics, rest);
     std::size_t end = text.size();
     while (end > 0 && TextWidth(metrics, text.substr(0, end)) > width)
-        end = PreviousCharacter(text, end);
+        --end;
     return text.substr(0, end);
 }
 
-void RememberForUndo(EditState& state, const std::string& text, Change change)
+void RememberForUndo(EditState& state, const std::u16string& text, Change change)
 {
     if (change == Change::Typed && state.typing)
         return;
@@ -91,18 +58,18 @@ void NotifyChange(Window& edit)
     }
 }
 
-void ReplaceSelection(Window& edit, std::string_view text, Change change)
+void ReplaceSelection(Window& edit, std::u16string_view text, Change change)
 {
     EditState& state = Of(edit);
     const int start = state.Start();
     const int end = state.End();
-    const std::string rest =
+    const std::u16string rest =
         edit.text.substr(0, static_cast<std::size_t>(start)) + edit.text.substr(static_cast<std::size_t>(end));
-    std::string inserted = InCase(edit, text);
+    std::u16string inserted = InCase(edit, text);
 
     if (rest.size() + inserted.size() > state.limit)
     {
-        inserted = WholeCharacters(inserted, state.limit > rest.size() ? state.limit - rest.size() : 0);
+        inserted.resize(state.limit > rest.size() ? state.limit - rest.size() : 0);
         NotifyParent(edit, EN_MAXTEXT);
     }
     else if (!IsMultiLine(edit) && !(edit.style & ES_AUTOHSCROLL) && !inserted.empty())
@@ -132,15 +99,14 @@ void ReplaceSelection(Window& edit, std::string_view text, Change change)
     NotifyChange(edit);
 }
 
-void SetWholeText(Window& edit, LPCSTR text)
+void SetWholeText(Window& edit, LPCWSTR text)
 {
     EditState& state = Of(edit);
-    edit.text = InCase(edit, text ? text : "");
+    edit.text = InCase(edit, text ? text : u"");
     state.anchor = state.caret = 0;
     state.scrolled = 0;
     state.undo = {};
     state.typing = false;
-    state.lead = 0;
     state.linesValid = false;
     Invalidate(edit);
     // A multi-line edit keeps quiet about texts that the program sets.
@@ -171,13 +137,11 @@ void Copy(const Window& edit)
     if (state.Start() == state.End() || !OpenClipboard(edit.handle))
         return;
     const auto size = static_cast<std::size_t>(state.End() - state.Start());
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size + 1);
-    auto* target = static_cast<char*>(GlobalLock(memory));
-    std::memcpy(target, edit.text.data() + state.Start(), size);
-    target[size] = 0;
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (size + 1) * sizeof(WCHAR));
+    CopyText({edit.text.data() + state.Start(), size}, static_cast<LPWSTR>(GlobalLock(memory)), size + 1);
     GlobalUnlock(memory);
     EmptyClipboard();
-    SetClipboardData(CF_TEXT, memory);
+    SetClipboardData(CF_UNICODETEXT, memory);
     CloseClipboard();
 }
 
@@ -185,16 +149,16 @@ void Paste(Window& edit)
 {
     if (IsReadOnly(edit) || !OpenClipboard(edit.handle))
         return;
-    std::string text;
-    if (const HANDLE memory = GetClipboardData(CF_TEXT))
+    std::u16string text;
+    if (const HANDLE memory = GetClipboardData(CF_UNICODETEXT))
     {
-        const auto* data = static_cast<const char*>(GlobalLock(memory));
-        text.assign(data, strnlen(data, GlobalSize(memory)));
+        text.assign(static_cast<LPCWSTR>(GlobalLock(memory)), GlobalSize(memory) / sizeof(WCHAR));
+        text.resize(std::min(text.find(u'\0'), text.size()));
         GlobalUnlock(memory);
     }
     CloseClipboard();
     if (!IsMultiLine(edit)) // Only the first line finds room.
-        text.resize(std::min(text.find_first_of("\r\n"), text.size()));
+        text.resize(std::min(text.find_first_of(u"\r\n"), text.size()));
     if (!text.empty())
         ReplaceSelection(edit, text);
 }

@@ -268,9 +268,14 @@ BOOL SetKeyboardState(LPBYTE keys)
 }
 
 // The system's cursors and icons have no looks here; a handle that is not null is all that anybody needs.
-HCURSOR LoadCursorA(HINSTANCE, LPCSTR name)
+HCURSOR LoadCursorW(HINSTANCE, LPCWSTR name)
 {
     return reinterpret_cast<HCURSOR>(static_cast<ULONG_PTR>(0x10000) + LOWORD(name));
+}
+
+HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name)
+{
+    return LoadCursorW(instance, reinterpret_cast<LPCWSTR>(name)); // Only numbers are known.
 }
 
 HICON LoadIconA(HINSTANCE, LPCSTR name)

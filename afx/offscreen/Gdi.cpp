@@ -32,7 +32,7 @@ HPEN MakePen()
     return Make<HPEN>(object);
 }
 
-HFONT MakeFont(const LOGFONTA& font)
+HFONT MakeFont(const LOGFONTW& font)
 {
     GdiObject object;
     object.kind = OBJ_FONT;
@@ -42,12 +42,12 @@ HFONT MakeFont(const LOGFONTA& font)
     return Make<HFONT>(object);
 }
 
-HFONT MakeStockFont(const char* face, int height, int weight)
+HFONT MakeStockFont(LPCWSTR face, int height, int weight)
 {
-    LOGFONTA font{};
+    LOGFONTW font{};
     font.lfHeight = height;
     font.lfWeight = weight;
-    CopyText(face, font.lfFaceName, sizeof font.lfFaceName);
+    CopyText(face, font.lfFaceName, LF_FACESIZE);
     return MakeFont(font);
 }
 
@@ -66,9 +66,9 @@ HGDIOBJ MakeStock(int index)
     case NULL_PEN:
         return MakePen();
     case SYSTEM_FONT:
-        return MakeStockFont("System", 16, FW_BOLD);
+        return MakeStockFont(u"System", 16, FW_BOLD);
     case DEFAULT_GUI_FONT:
-        return MakeStockFont("MS Shell Dlg", -11, FW_NORMAL);
+        return MakeStockFont(u"MS Shell Dlg", -11, FW_NORMAL);
     default:
         return NotModelled("GetStockObject with this index", HGDIOBJ{});
     }
@@ -131,10 +131,10 @@ GdiState& Gdi()
 
 Dc* DcOf(HDC handle) { return Gdi().dcs.Find(handle); }
 
-void NoteText(const Dc& dc, int x, int y, std::string_view text)
+void NoteText(const Dc& dc, int x, int y, std::u16string_view text)
 {
     if (Gdi().recording && dc.window)
-        Gdi().drawn[dc.window].push_back({std::string(text), x, y, dc.textColor});
+        Gdi().drawn[dc.window].push_back({std::u16string(text), x, y, dc.textColor});
 }
 
 const FontMetrics& MetricsOf(HFONT font)
@@ -145,7 +145,7 @@ const FontMetrics& MetricsOf(HFONT font)
     return *object->metrics;
 }
 
-const LOGFONTA& LogFontOf(HFONT font)
+const LOGFONTW& LogFontOf(HFONT font)
 {
     const GdiObject* object = ObjectOf(font);
     if (!object || object->kind != OBJ_FONT)
@@ -202,8 +202,11 @@ void RecordDrawing(bool on)
 
 std::vector<DrawnText> TextDrawnIn(HWND window)
 {
-    const auto it = Gdi().drawn.find(window);
-    return it == Gdi().drawn.end() ? std::vector<DrawnText>{} : it->second;
+    std::vector<DrawnText> drawn;
+    if (const auto it = Gdi().drawn.find(window); it != Gdi().drawn.end())
+        for (const NotedText& noted : it->second)
+            drawn.push_back({ToAnsi(noted.text), noted.x, noted.y, noted.color, noted.text});
+    return drawn;
 }
 } // namespace offscreen
 
@@ -323,35 +326,78 @@ DWORD GetObjectType(HGDIOBJ object)
     return found ? found->kind : 0;
 }
 
-int GetObjectA(HANDLE object, int size, LPVOID buffer)
+namespace
 {
-    Inside inside;
-    const GdiObject* found = ObjectOf(object);
-    if (!found)
-        return 0;
-    const void* source = nullptr;
-    int available = 0;
-    switch (found->kind)
-    {
-    case OBJ_FONT:
-        source = &found->font, available = sizeof found->font;
-        break;
-    case OBJ_BRUSH:
-        source = &found->brush, available = sizeof found->brush;
-        break;
-    default:
-        return NotModelled("GetObject of a pen", 0);
-    }
+constexpr std::size_t kPlainFont = offsetof(LOGFONTA, lfFaceName); // What both forms begin with
+static_assert(kPlainFont == offsetof(LOGFONTW, lfFaceName));
+
+LOGFONTA ToAnsi(const LOGFONTW& font)
+{
+    LOGFONTA ansi{};
+    std::memcpy(&ansi, &font, kPlainFont);
+    CopyAnsi(font.lfFaceName, ansi.lfFaceName, LF_FACESIZE);
+    return ansi;
+}
+
+LOGFONTW ToWide(const LOGFONTA& font)
+{
+    LOGFONTW wide{};
+    std::memcpy(&wide, &font, kPlainFont);
+    CopyText(offscreen::ToWide({font.lfFaceName, strnlen(font.lfFaceName, LF_FACESIZE)}), wide.lfFaceName, LF_FACESIZE);
+    return wide;
+}
+
+// As much of a font as there is room for; another object whole or not at all.
+template <class Value>
+int CopyObject(const Value& value, bool partly, int size, LPVOID buffer)
+{
+    constexpr int kSize = sizeof value;
     if (!buffer)
-        return available;
-    if (size < available && found->kind != OBJ_FONT)
+        return kSize;
+    if (size < kSize && !partly)
         return 0;
-    const int copied = std::min(size, available);
-    std::memcpy(buffer, source, static_cast<std::size_t>(copied));
+    const int copied = std::min(size, kSize);
+    std::memcpy(buffer, &value, static_cast<std::size_t>(copied));
     return copied;
 }
 
+template <class FontForm>
+int GetObjectWith(FontForm fontForm, HANDLE object, int size, LPVOID buffer)
+{
+    const GdiObject* found = ObjectOf(object);
+    if (!found)
+        return 0;
+    switch (found->kind)
+    {
+    case OBJ_FONT:
+        return CopyObject(fontForm(found->font), true, size, buffer);
+    case OBJ_BRUSH:
+        return CopyObject(found->brush, false, size, buffer);
+    default:
+        return NotModelled("GetObject of a pen", 0);
+    }
+}
+} // namespace
+
+int GetObjectA(HANDLE object, int size, LPVOID buffer)
+{
+    Inside inside;
+    return GetObjectWith([](const LOGFONTW& font) { return ToAnsi(font); }, object, size, buffer);
+}
+
+int GetObjectW(HANDLE object, int size, LPVOID buffer)
+{
+    Inside inside;
+    return GetObjectWith([](const LOGFONTW& font) { return font; }, object, size, buffer);
+}
+
 HFONT CreateFontIndirectA(const LOGFONTA* font)
+{
+    Inside inside;
+    return font ? MakeFont(ToWide(*font)) : nullptr;
+}
+
+HFONT CreateFontIndirectW(const LOGFONTW* font)
 {
     Inside inside;
     return font ? MakeFont(*font) : nullptr;

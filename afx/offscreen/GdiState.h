@@ -10,7 +10,7 @@ struct GdiObject
 {
     DWORD kind = 0; // OBJ_...
     bool stock = false;
-    LOGFONTA font{};
+    LOGFONTW font{};
     LOGBRUSH brush{};
     const FontMetrics* metrics = nullptr;
 };
@@ -33,6 +33,14 @@ struct Fill
     COLORREF color;
 };
 
+struct NotedText
+{
+    std::u16string text;
+    int x;
+    int y;
+    COLORREF color;
+};
+
 struct Dc : DcSettings
 {
     HWND window = nullptr;
@@ -48,16 +56,20 @@ struct GdiState
     HGDIOBJ stock[DEFAULT_GUI_FONT + 1] = {};
     HBRUSH systemBrushes[COLOR_INFOBK + 1] = {};
     bool recording = false;
-    std::map<HWND, std::vector<DrawnText>> drawn;
+    std::map<HWND, std::vector<NotedText>> drawn;
 };
 
 GdiState& Gdi();
 Dc* DcOf(HDC handle);
-void NoteText(const Dc& dc, int x, int y, std::string_view text);
+void NoteText(const Dc& dc, int x, int y, std::u16string_view text);
 void NoteRect(Dc& dc, const RECT& rect, COLORREF color);
 
-inline std::string_view View(LPCSTR text, int length)
+// A text with its length, or with a terminator when the length is negative.
+template <class Character>
+std::basic_string_view<Character> View(const Character* text, int length)
 {
-    return length < 0 ? std::string_view(text) : std::string_view(text, static_cast<std::size_t>(length));
+    if (length < 0)
+        return text;
+    return {text, static_cast<std::size_t>(length)};
 }
 } // namespace offscreen

@@ -252,13 +252,18 @@ int GetSystemMetrics(int index)
     }
 }
 
-BOOL SystemParametersInfoA(UINT action, UINT, LPVOID value, UINT)
+BOOL SystemParametersInfoW(UINT action, UINT, LPVOID value, UINT)
 {
     Inside inside;
     if (action != SPI_GETWORKAREA)
         return NotModelled("SystemParametersInfo with this action", FALSE);
     *static_cast<RECT*>(value) = DesktopWindow().rect;
     return TRUE;
+}
+
+BOOL SystemParametersInfoA(UINT action, UINT param, LPVOID value, UINT flags)
+{
+    return SystemParametersInfoW(action, param, value, flags); // No text is modelled.
 }
 
 // ------------------------------------------------------------------------------------------------ rectangle functions

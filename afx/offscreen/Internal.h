@@ -60,11 +60,24 @@ Result NotModelled(const char* what, Result result)
 
 // ------------------------------------------------------------------------------------------------------------ windows
 
+// A window procedure, and whether the texts of its messages are Unicode or bytes of the ANSI code page.
+struct Procedure
+{
+    WNDPROC function = nullptr;
+    bool unicode = false;
+
+    bool operator==(const Procedure&) const = default;
+};
+// The procedure that a program means by an address or handle which it gave to an ANSI or a Unicode function.
+Procedure ProcedureOf(WNDPROC given, bool unicode);
+// What an ANSI or a Unicode function gives the program for a procedure.
+WNDPROC AddressFor(const Procedure& procedure, bool unicode);
+
 struct WindowClass
 {
-    std::string name;
+    std::u16string name;
     ATOM atom = 0;
-    WNDPROC procedure = nullptr;
+    Procedure procedure;
     int windowExtra = 0;
     HBRUSH background = nullptr;
     int windows = 0;
@@ -89,13 +102,13 @@ struct Window
 {
     HWND handle = nullptr;
     WindowClass* windowClass = nullptr;
-    WNDPROC procedure = nullptr;
+    Procedure procedure;
     DWORD style = 0;
     DWORD exStyle = 0;
     LONG_PTR id = 0; // Control id of a child, menu of another.
     LONG_PTR userData = 0;
     std::vector<BYTE> extra;
-    std::string text;
+    std::u16string text;
     RECT rect{}; // Relative to the parent's client area.
 
     Window* parent = nullptr; // The desktop window for a top-level window, nothing for a root.
@@ -150,7 +163,10 @@ private:
     Window* m_window;
 };
 
-LRESULT CallProc(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+// Calls a procedure; texts are translated when the sender is of the other kind.
+LRESULT CallProc(const Procedure& procedure, bool unicodeSender, HWND window, UINT message, WPARAM wParam,
+                 LPARAM lParam);
+// Sends a message whose texts are Unicode.
 LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 // WM_COMMAND from a control to its parent.
 LRESULT NotifyParent(const Window& control, int code);
@@ -164,8 +180,8 @@ POINT ClientOrigin(const Window& window); // On the screen.
 RECT ScreenRectOf(const Window& window);
 void FrameOf(DWORD style, DWORD exStyle, RECT& margins); // Thickness of the frame on each side.
 
-WindowClass* FindClass(LPCSTR name);
-void RegisterBuiltIn(const char* name, WNDPROC procedure, int windowExtra = 0, int atom = 0);
+WindowClass* FindClass(LPCWSTR name);
+void RegisterBuiltIn(LPCWSTR name, WNDPROC procedure, int windowExtra = 0, int atom = 0);
 void RegisterStandardClasses();
 
 // Window procedures of the standard classes.
@@ -260,31 +276,57 @@ struct FontMetrics
     int externalLeading;
     int averageWidth;
     int maximumWidth;
-    int doubleByteWidth;
-    const std::uint8_t* widths; // Of the single-byte characters.
+    int doubleByteWidth; // Of full-width characters
+    int thaiWidth;
+    const std::uint8_t* widths; // Of the characters of code page 1252.
 };
 const FontMetrics& MetricsOf(HFONT font);
-const FontMetrics& MetricsFor(const LOGFONTA& font);
-int TextWidth(const FontMetrics& metrics, std::string_view text);
-const LOGFONTA& LogFontOf(HFONT font);
+const FontMetrics& MetricsFor(const LOGFONTW& font);
+int TextWidth(const FontMetrics& metrics, std::u16string_view text);
+const LOGFONTW& LogFontOf(HFONT font);
 
 // ----------------------------------------------------------------------------------------------------- code page, text
 
+// Of the ANSI code page
 bool IsLeadByte(unsigned char c);
-// Bytes of the character that starts at `position`.
-int CharacterLength(std::string_view text, std::size_t position);
-// Start of the last character that starts before `position`.
-std::size_t PreviousCharacter(std::string_view text, std::size_t position);
-std::string ToAnsi(std::u16string_view wide);
-std::string UpperCase(std::string_view text);
-std::string LowerCase(std::string_view text);
-int CompareTexts(std::string_view a, std::string_view b);        // Ignoring case.
-bool StartsWith(std::string_view text, std::string_view prefix); // Ignoring case.
+bool HasDoubleBytes();
+std::u16string ToWide(std::string_view text);
+std::string ToAnsi(std::u16string_view wide); // A question mark for what the code page does not have
+// Copies as many whole characters as fit, always terminated; returns the number of bytes without the terminator.
+int CopyAnsi(std::u16string_view text, LPSTR target, std::size_t size);
+
+// What an ANSI function got, for its Unicode sister: no text (null) and a number in place of a text stay what they are.
+class Widened
+{
+public:
+    explicit Widened(LPCSTR text)
+        : m_text(IS_INTRESOURCE(text) ? std::u16string() : ToWide(text)),
+          m_number(IS_INTRESOURCE(text) ? reinterpret_cast<LPCWSTR>(text) : nullptr), m_isNumber(IS_INTRESOURCE(text))
+    {
+    }
+    operator LPCWSTR() const { return m_isNumber ? m_number : m_text.c_str(); }
+
+private:
+    std::u16string m_text;
+    LPCWSTR m_number;
+    bool m_isNumber;
+};
+
+char16_t UpperCase(char16_t c);
+char16_t LowerCase(char16_t c);
+std::u16string UpperCase(std::u16string_view text);
+int CompareTexts(std::u16string_view a, std::u16string_view b);        // Ignoring case.
+bool StartsWith(std::u16string_view text, std::u16string_view prefix); // Ignoring case.
 // The letter behind the & of a text, in upper case, 0 when there is none.
-char MnemonicOf(std::string_view text);
-std::string WithoutMnemonic(std::string_view text);
+char16_t MnemonicOf(std::u16string_view text);
+std::u16string WithoutMnemonic(std::u16string_view text);
 // Copies as much as fits, always terminated; returns the number of characters without the terminator.
 int CopyText(std::string_view text, LPSTR target, std::size_t size);
+int CopyText(std::u16string_view text, LPWSTR target, std::size_t size);
+// Whether East Asian fonts give the character the width of an ideograph.
+bool IsFullWidth(char16_t c);
+// Whether a line may end between two characters neither of which is a blank.
+bool MayBreakBetween(char16_t before, char16_t behind);
 void ResetCodePage();
 
 // ----------------------------------------------------------------------------------------------- resources and the
@@ -296,7 +338,7 @@ struct Bytes
     std::size_t size;
 };
 // The data of a resource, nothing when the module has none.
-Bytes FindResourceBytes(HMODULE module, LPCSTR name, LPCSTR type);
+Bytes FindResourceBytes(HMODULE module, LPCWSTR name, LPCWSTR type);
 void ResetModules();
 int CountModules();
 

@@ -16,7 +16,7 @@ int ItemList::Add(Window& control, LPARAM text)
         NotifyParent(control, m_traits.errorSpaceNotification);
         return LB_ERRSPACE;
     }
-    m_items.push_back({text ? reinterpret_cast<LPCSTR>(text) : "", 0});
+    m_items.push_back({text ? reinterpret_cast<LPCWSTR>(text) : u"", 0});
     return Count() - 1;
 }
 
@@ -46,8 +46,8 @@ LRESULT ItemList::CopyItem(WPARAM index, LPARAM target) const
 {
     if (!IsIndex(index))
         return LB_ERR;
-    const std::string& text = m_items[index].text;
-    return CopyText(text, reinterpret_cast<LPSTR>(target), text.size() + 1);
+    const std::u16string& text = m_items[index].text;
+    return CopyText(text, reinterpret_cast<LPWSTR>(target), text.size() + 1);
 }
 
 LRESULT ItemList::TextLength(WPARAM index) const
@@ -55,12 +55,12 @@ LRESULT ItemList::TextLength(WPARAM index) const
     return IsIndex(index) ? static_cast<LRESULT>(m_items[index].text.size()) : LB_ERR;
 }
 
-int ItemList::FindNext(char first) const
+int ItemList::FindNext(char16_t first) const
 {
     for (int step = 1; step <= Count(); ++step)
     {
         const int index = (m_selection + step) % Count();
-        if (StartsWith(Text(index), std::string_view(&first, 1)))
+        if (StartsWith(Text(index), std::u16string_view(&first, 1)))
             return index;
     }
     return LB_ERR;

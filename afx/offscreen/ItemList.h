@@ -24,7 +24,7 @@ public:
     int Selection() const { return m_selection; }
     void Select(int index) { m_selection = index; }
 
-    const std::string& Text(int index) const { return m_items[static_cast<std::size_t>(index)].text; }
+    const std::u16string& Text(int index) const { return m_items[static_cast<std::size_t>(index)].text; }
     LPARAM Data(int index) const { return m_items[static_cast<std::size_t>(index)].data; }
     void SetData(int index, LPARAM data) { m_items[static_cast<std::size_t>(index)].data = data; }
 
@@ -38,14 +38,14 @@ public:
 
     // The next item after the selection, and then from the beginning, whose text starts with a character; LB_ERR for
     // none.
-    int FindNext(char first) const;
+    int FindNext(char16_t first) const;
     // The item that a key moves the selection to, -1 when there is no item; nothing for a key that does not move it.
     std::optional<int> MovedBy(WPARAM key, int visibleItems) const;
 
 private:
     struct Item
     {
-        std::string text;
+        std::u16string text;
         LPARAM data = 0;
     };
 

@@ -109,12 +109,12 @@ LRESULT HandleKey(Window& list, WPARAM key)
     const ListBoxState& state = Of(list);
     const std::optional<int> index = state.items.MovedBy(key, VisibleItems(list, state));
     if (!index)
-        return DefWindowProcA(list.handle, WM_KEYDOWN, key, 0);
+        return DefWindowProcW(list.handle, WM_KEYDOWN, key, 0);
     SelectByUser(list, *index);
     return 0;
 }
 
-LRESULT HandleChar(Window& list, char c)
+LRESULT HandleChar(Window& list, char16_t c)
 {
     const int index = Of(list).items.FindNext(c);
     if (index >= 0)
@@ -274,7 +274,7 @@ LRESULT Handle(Window& list, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_KEYDOWN:
         return HandleKey(list, wParam);
     case WM_CHAR:
-        return HandleChar(list, static_cast<char>(wParam));
+        return HandleChar(list, static_cast<char16_t>(wParam));
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
     case WM_LBUTTONDBLCLK:
@@ -292,7 +292,7 @@ constexpr ControlClass kListBox = {Create, Handle};
 std::vector<int> TabStops(HWND listBox)
 {
     Window* window = Find(listBox);
-    if (!window || window->windowClass->procedure != ListBoxProc || !window->control)
+    if (!window || window->windowClass->procedure.function != ListBoxProc || !window->control)
         return {};
     return Of(*window).tabs;
 }

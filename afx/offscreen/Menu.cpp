@@ -10,7 +10,7 @@ struct MenuItem
 {
     UINT flags = 0;
     UINT_PTR id = 0;
-    std::string text;
+    std::u16string text;
 };
 
 struct Menu
@@ -18,7 +18,7 @@ struct Menu
     std::vector<MenuItem> items;
 };
 
-constexpr char kMenuClass[] = "#32768"; // The window of an open menu
+constexpr char16_t kMenuClass[] = u"#32768"; // The window of an open menu
 constexpr UINT MN_GETHMENU = 0x01E1;
 constexpr UINT kModelledFlags = MF_STRING | MF_SEPARATOR | MF_GRAYED | MF_DISABLED;
 
@@ -61,8 +61,8 @@ LRESULT CALLBACK MenuWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
 {
     Inside inside;
     if (message == MN_GETHMENU)
-        return GetWindowLongPtrA(window, GWLP_USERDATA);
-    return DefWindowProcA(window, message, wParam, lParam);
+        return GetWindowLongPtrW(window, GWLP_USERDATA);
+    return DefWindowProcW(window, message, wParam, lParam);
 }
 
 bool CanChoose(const MenuItem& item) { return !(item.flags & (MF_SEPARATOR | MF_GRAYED | MF_DISABLED)); }
@@ -81,8 +81,7 @@ int Step(const Menu& menu, int position, int by)
 
 int ByMnemonic(const Menu& menu, WPARAM character)
 {
-    const char c = static_cast<char>(character);
-    const char wanted = UpperCase({&c, 1})[0];
+    const char16_t wanted = UpperCase(static_cast<char16_t>(character));
     for (std::size_t i = 0; i < menu.items.size(); ++i)
         if (MnemonicOf(menu.items[i].text) == wanted)
             return static_cast<int>(i);
@@ -102,9 +101,9 @@ UINT_PTR Track(HMENU handle, HWND owner, HWND window)
     MSG msg{};
     while (Find(owner))
     {
-        if (!PeekMessageA(&msg, nullptr, 0, 0, PM_NOREMOVE))
+        if (!PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE))
             Send(owner, WM_ENTERIDLE, MSGF_MENU, reinterpret_cast<LPARAM>(window));
-        if (!GetMessageA(&msg, nullptr, 0, 0))
+        if (!GetMessageW(&msg, nullptr, 0, 0))
         {
             PostQuitMessage(static_cast<int>(msg.wParam));
             break;
@@ -126,7 +125,7 @@ UINT_PTR Track(HMENU handle, HWND owner, HWND window)
         else if (msg.message == WM_CHAR || msg.message == WM_SYSCHAR)
             chosen = ByMnemonic(*menu, msg.wParam);
         else if (msg.message != WM_KEYUP)
-            DispatchMessageA(&msg);
+            DispatchMessageW(&msg);
 
         menu = MenuOf(handle);
         if (!menu || chosen < 0 || chosen >= static_cast<int>(menu->items.size()))
@@ -167,7 +166,7 @@ BOOL DestroyMenu(HMENU handle)
 
 BOOL IsMenu(HMENU handle) { return State().menus.Find(handle) != nullptr; }
 
-BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
+BOOL AppendMenuW(HMENU handle, UINT flags, UINT_PTR id, LPCWSTR text)
 {
     Inside inside;
     Menu* menu = MenuOf(handle);
@@ -175,8 +174,14 @@ BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
         return FALSE;
     if (flags & ~kModelledFlags)
         return NotModelled("menu items with these flags", FALSE);
-    menu->items.push_back({flags, id, text && !(flags & MF_SEPARATOR) ? text : ""});
+    menu->items.push_back({flags, id, text && !(flags & MF_SEPARATOR) ? text : u""});
     return TRUE;
+}
+
+BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
+{
+    Inside inside;
+    return AppendMenuW(handle, flags, id, Widened(text));
 }
 
 BOOL EnableMenuItem(HMENU handle, UINT id, UINT flags)
@@ -212,7 +217,7 @@ UINT GetMenuState(HMENU handle, UINT id, UINT flags)
     return item ? item->flags : static_cast<UINT>(-1);
 }
 
-int GetMenuStringA(HMENU handle, UINT id, LPSTR text, int size, UINT flags)
+int GetMenuStringW(HMENU handle, UINT id, LPWSTR text, int size, UINT flags)
 {
     Inside inside;
     const MenuItem* item = ItemOf(handle, id, flags);
@@ -221,6 +226,17 @@ int GetMenuStringA(HMENU handle, UINT id, LPSTR text, int size, UINT flags)
     if (!text || size <= 0)
         return static_cast<int>(item->text.size());
     return CopyText(item->text, text, static_cast<std::size_t>(size));
+}
+
+int GetMenuStringA(HMENU handle, UINT id, LPSTR text, int size, UINT flags)
+{
+    Inside inside;
+    const MenuItem* item = ItemOf(handle, id, flags);
+    if (!item)
+        return 0;
+    if (!text || size <= 0)
+        return static_cast<int>(ToAnsi(item->text).size());
+    return CopyAnsi(item->text, text, static_cast<std::size_t>(size));
 }
 
 BOOL TrackPopupMenu(HMENU handle, UINT flags, int x, int y, int, HWND owner, const RECT*)
@@ -239,9 +255,9 @@ BOOL TrackPopupMenu(HMENU handle, UINT flags, int x, int y, int, HWND owner, con
         Send(owner, WM_INITMENU, reinterpret_cast<WPARAM>(handle));
         Send(owner, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(handle));
     }
-    const HWND window = CreateWindowExA(WS_EX_NOACTIVATE, kMenuClass, "", WS_POPUP, x, y, 100,
+    const HWND window = CreateWindowExW(WS_EX_NOACTIVATE, kMenuClass, u"", WS_POPUP, x, y, 100,
                                         20 * std::max(GetMenuItemCount(handle), 1), owner, nullptr, nullptr, nullptr);
-    SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(handle));
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(handle));
     ShowWindow(window, SW_SHOWNA);
 
     const UINT_PTR chosen = Track(handle, owner, window);
@@ -257,6 +273,6 @@ BOOL TrackPopupMenu(HMENU handle, UINT flags, int x, int y, int, HWND owner, con
     if (flags & TPM_RETURNCMD)
         return static_cast<BOOL>(chosen);
     if (chosen && notify)
-        PostMessageA(owner, WM_COMMAND, MAKEWPARAM(chosen, 0), 0);
+        PostMessageW(owner, WM_COMMAND, MAKEWPARAM(chosen, 0), 0);
     return TRUE;
 }

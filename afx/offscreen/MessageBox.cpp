@@ -12,16 +12,16 @@ constexpr DWORD kIconId = 20;
 struct Button
 {
     int id;
-    const char* text;
+    LPCWSTR text;
 };
 
-constexpr Button kOk = {IDOK, "OK"};
-constexpr Button kCancel = {IDCANCEL, "Cancel"};
-constexpr Button kAbort = {IDABORT, "&Abort"};
-constexpr Button kRetry = {IDRETRY, "&Retry"};
-constexpr Button kIgnore = {IDIGNORE, "&Ignore"};
-constexpr Button kYes = {IDYES, "&Yes"};
-constexpr Button kNo = {IDNO, "&No"};
+constexpr Button kOk = {IDOK, u"OK"};
+constexpr Button kCancel = {IDCANCEL, u"Cancel"};
+constexpr Button kAbort = {IDABORT, u"&Abort"};
+constexpr Button kRetry = {IDRETRY, u"&Retry"};
+constexpr Button kIgnore = {IDIGNORE, u"&Ignore"};
+constexpr Button kYes = {IDYES, u"&Yes"};
+constexpr Button kNo = {IDNO, u"&No"};
 
 std::vector<Button> ButtonsOf(UINT type)
 {
@@ -44,7 +44,7 @@ std::vector<Button> ButtonsOf(UINT type)
     }
 }
 
-TemplateControl Control(DWORD id, const char* className, std::string title, DWORD style, int x, int y, int width,
+TemplateControl Control(DWORD id, LPCWSTR className, std::u16string title, DWORD style, int x, int y, int width,
                         int height)
 {
     TemplateControl control;
@@ -59,7 +59,7 @@ TemplateControl Control(DWORD id, const char* className, std::string title, DWOR
     return control;
 }
 
-Template BoxTemplate(LPCSTR text, LPCSTR caption, UINT type, const std::vector<Button>& buttons)
+Template BoxTemplate(LPCWSTR text, LPCWSTR caption, UINT type, const std::vector<Button>& buttons)
 {
     constexpr int kWidth = 240;
     constexpr int kButton = 50;
@@ -68,18 +68,18 @@ Template BoxTemplate(LPCSTR text, LPCSTR caption, UINT type, const std::vector<B
                 DS_SETFONT;
     box.width = kWidth;
     box.height = 80;
-    box.title.text = caption ? caption : "Error";
-    box.font = TemplateFont{8, FW_NORMAL, false, DEFAULT_CHARSET, "MS Shell Dlg"};
+    box.title.text = caption ? caption : u"Error";
+    box.font = TemplateFont{8, FW_NORMAL, false, DEFAULT_CHARSET, u"MS Shell Dlg"};
     // The text comes before the icon, the buttons last, as in the system's own box.
-    box.controls.push_back(Control(kIconId, "Static", "", SS_ICON, 8, 8, 20, 20));
+    box.controls.push_back(Control(kIconId, u"Static", u"", SS_ICON, 8, 8, 20, 20));
     if (!(type & MB_ICONMASK))
         box.controls.back().style &= ~WS_VISIBLE;
-    box.controls.push_back(Control(kTextId, "Static", text ? text : "", SS_LEFT | SS_NOPREFIX, 36, 8, 196, 44));
+    box.controls.push_back(Control(kTextId, u"Static", text ? text : u"", SS_LEFT | SS_NOPREFIX, 36, 8, 196, 44));
     const UINT defaultButton = std::min<UINT>((type & MB_DEFMASK) >> 8, static_cast<UINT>(buttons.size()) - 1);
     int x = (kWidth - static_cast<int>(buttons.size()) * (kButton + 6)) / 2;
     for (std::size_t i = 0; i < buttons.size(); ++i, x += kButton + 6)
         box.controls.push_back(
-            Control(static_cast<DWORD>(buttons[i].id), "Button", buttons[i].text,
+            Control(static_cast<DWORD>(buttons[i].id), u"Button", buttons[i].text,
                     WS_TABSTOP | (i == 0 ? WS_GROUP : 0) | (i == defaultButton ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON), x,
                     60, kButton, 14));
     return box;
@@ -94,7 +94,7 @@ INT_PTR CALLBACK BoxProc(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
     {
     case WM_INITDIALOG:
         if (const int icon = HIWORD(lParam) >> 4) // the icons are numbered as their flags are
-            SendDlgItemMessageA(box, kIconId, STM_SETICON,
+            SendDlgItemMessageW(box, kIconId, STM_SETICON,
                                 reinterpret_cast<WPARAM>(LoadIconA(nullptr, IDI_APPLICATION + icon)), 0);
         // The default button has the focus from the start.
         SetFocus(GetDlgItem(box, LOWORD(lParam)));
@@ -117,7 +117,7 @@ INT_PTR CALLBACK BoxProc(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
 
 using namespace offscreen;
 
-int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type)
+int MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type)
 {
     Inside inside;
     if (owner && !Lookup(owner))
@@ -131,4 +131,10 @@ int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type)
     const HWND box = CreateDialogFrom(BoxTemplate(text, caption, type, buttons), nullptr, owner, BoxProc,
                                       MAKELPARAM(buttons[defaultButton].id, type & MB_ICONMASK), true);
     return box ? static_cast<int>(RunModal(box, owner)) : 0;
+}
+
+int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type)
+{
+    Inside inside;
+    return MessageBoxW(owner, Widened(text), Widened(caption), type);
 }

@@ -1,8 +1,9 @@
-// Sending, posting and fetching messages, and timers.
+// Posting and fetching messages, and timers. The messages in the queue are Unicode ones.
 
-#include "afx/offscreen/Internal.h"
+#include "afx/offscreen/TextMessages.h"
 
 #include <chrono>
+#include <optional>
 
 namespace offscreen
 {
@@ -20,6 +21,7 @@ struct Timer
 struct MessageState
 {
     std::deque<MSG> queue;
+    std::optional<MSG> trail; // The second byte of a double-byte character whose first has been fetched
     bool quitting = false;
     int exitCode = 0;
     bool hanging = false;
@@ -187,23 +189,12 @@ char CharacterOf(WPARAM key)
 }
 } // namespace
 
-LRESULT CallProc(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    const Pin pin(Find(window));
-    Outside outside;
-    return procedure(window, message, wParam, lParam);
-}
-
-LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    const Window* found = Find(window);
-    return found ? CallProc(found->procedure, window, message, wParam, lParam) : 0;
-}
-
 void ForgetMessages(HWND window)
 {
     MessageState& state = State();
     std::erase_if(state.queue, [=](const MSG& msg) { return msg.hwnd == window; });
+    if (state.trail && state.trail->hwnd == window)
+        state.trail.reset();
     std::erase_if(state.timers, [=](const Timer& timer) { return timer.window == window; });
 }
 
@@ -216,35 +207,103 @@ void ReportHang(const char* where)
     state.quitting = true;
 }
 
-void ResetMessages() { State() = MessageState{}; }
+void ResetMessages()
+{
+    State() = MessageState{};
+    ForgetLeadByte();
+}
 
 int CountTimers() { return static_cast<int>(State().timers.size()); }
 } // namespace offscreen
 
 using namespace offscreen;
 
-LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+namespace
 {
-    Inside inside;
-    if (window == HWND_BROADCAST)
-        return NotModelled("SendMessage(HWND_BROADCAST)", 0);
-    return Lookup(window) ? Send(window, message, wParam, lParam) : 0;
-}
+bool IsCharacter(UINT message) { return message == WM_CHAR || message == WM_SYSCHAR; }
 
-LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+BOOL PostFrom(bool unicode, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    Inside inside;
-    return procedure ? CallProc(procedure, window, message, wParam, lParam) : 0;
-}
-
-BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    Inside inside;
     if (window == HWND_BROADCAST)
         return NotModelled("PostMessage(HWND_BROADCAST)", FALSE);
     if (window && !Lookup(window))
         return FALSE;
+    if (!unicode && IsCharacter(message) && !WidenCharacter(window, wParam))
+        return TRUE; // It is posted together with the second byte.
     return Post(window, message, wParam, lParam);
+}
+
+BOOL Get(MSG& message, HWND window, UINT first, UINT last)
+{
+    if (!Take(message, window, first, last, true, true))
+    {
+        ReportHang("GetMessage");
+        if (!TakeQuit(message, true))
+            message = MakeMessage(nullptr, WM_QUIT, 0, 0);
+    }
+    return message.message != WM_QUIT;
+}
+
+bool TakeTrail(MSG& message, HWND window, UINT first, UINT last, bool remove)
+{
+    std::optional<MSG>& trail = State().trail;
+    if (!trail || !IsWanted(*trail, window, first, last))
+        return false;
+    message = *trail;
+    if (remove)
+        trail.reset();
+    return true;
+}
+
+// A double-byte character comes as two messages.
+void Narrow(MSG& message, bool removed)
+{
+    if (!IsCharacter(message.message))
+        return;
+    const char16_t c = static_cast<char16_t>(message.wParam);
+    const std::string bytes = ToAnsi({&c, 1});
+    if (bytes.size() == 2 && removed)
+    {
+        State().trail = message;
+        State().trail->wParam = static_cast<unsigned char>(bytes[1]);
+    }
+    message.wParam = static_cast<unsigned char>(bytes[0]);
+}
+
+LRESULT DispatchFrom(bool unicode, const MSG& message)
+{
+    if (message.message == WM_TIMER && message.lParam)
+    {
+        const auto callback = reinterpret_cast<TIMERPROC>(message.lParam);
+        Outside outside;
+        callback(message.hwnd, WM_TIMER, message.wParam, Now());
+        return 0;
+    }
+    if (!message.hwnd)
+        return 0;
+    Window* found = Lookup(message.hwnd);
+    if (!found)
+        return 0;
+    // A procedure that ignores WM_PAINT would be asked again forever.
+    const Pin pin(found);
+    const LRESULT result =
+        CallProc(found->procedure, unicode, message.hwnd, message.message, message.wParam, message.lParam);
+    if (message.message == WM_PAINT && !found->dead && found->needsPaint)
+        ForgetPaint(*found);
+    return result;
+}
+} // namespace
+
+BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    return PostFrom(false, window, message, wParam, lParam);
+}
+
+BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Inside inside;
+    return PostFrom(true, window, message, wParam, lParam);
 }
 
 void PostQuitMessage(int exitCode)
@@ -256,16 +315,32 @@ void PostQuitMessage(int exitCode)
 BOOL GetMessageA(LPMSG message, HWND window, UINT first, UINT last)
 {
     Inside inside;
-    if (!Take(*message, window, first, last, true, true))
-    {
-        ReportHang("GetMessage");
-        if (!TakeQuit(*message, true))
-            *message = MakeMessage(nullptr, WM_QUIT, 0, 0);
-    }
-    return message->message != WM_QUIT;
+    if (TakeTrail(*message, window, first, last, true))
+        return TRUE;
+    const BOOL result = Get(*message, window, first, last);
+    Narrow(*message, true);
+    return result;
+}
+
+BOOL GetMessageW(LPMSG message, HWND window, UINT first, UINT last)
+{
+    Inside inside;
+    return Get(*message, window, first, last);
 }
 
 BOOL PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove)
+{
+    Inside inside;
+    const bool removes = (remove & PM_REMOVE) != 0;
+    if (TakeTrail(*message, window, first, last, removes))
+        return TRUE;
+    if (!Take(*message, window, first, last, removes, false))
+        return FALSE;
+    Narrow(*message, removes);
+    return TRUE;
+}
+
+BOOL PeekMessageW(LPMSG message, HWND window, UINT first, UINT last, UINT remove)
 {
     Inside inside;
     return Take(*message, window, first, last, (remove & PM_REMOVE) != 0, false);
@@ -285,25 +360,13 @@ BOOL TranslateMessage(const MSG* message)
 LRESULT DispatchMessageA(const MSG* message)
 {
     Inside inside;
-    if (message->message == WM_TIMER && message->lParam)
-    {
-        const auto callback = reinterpret_cast<TIMERPROC>(message->lParam);
-        Outside outside;
-        callback(message->hwnd, WM_TIMER, message->wParam, Now());
-        return 0;
-    }
-    if (!message->hwnd)
-        return 0;
-    Window* found = Lookup(message->hwnd);
-    if (!found)
-        return 0;
-    // A procedure that ignores WM_PAINT would be asked again forever.
-    const Pin pin(found);
-    const LRESULT result =
-        CallProc(found->procedure, message->hwnd, message->message, message->wParam, message->lParam);
-    if (message->message == WM_PAINT && !found->dead && found->needsPaint)
-        ForgetPaint(*found);
-    return result;
+    return DispatchFrom(false, *message);
+}
+
+LRESULT DispatchMessageW(const MSG* message)
+{
+    Inside inside;
+    return DispatchFrom(true, *message);
 }
 
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callback)

@@ -66,12 +66,12 @@ std::size_t PeImage::OffsetOf(DWORD address, std::size_t size) const
     return kNowhere;
 }
 
-bool PeImage::NameMatches(DWORD nameField, LPCSTR name) const
+bool PeImage::NameMatches(DWORD nameField, LPCWSTR name) const
 {
     if (IS_INTRESOURCE(name))
         return nameField == LOWORD(name);
     if (name[0] == '#')
-        return nameField == static_cast<DWORD>(std::strtoul(name + 1, nullptr, 10));
+        return nameField == static_cast<DWORD>(std::strtoul(ToAnsi(name + 1).c_str(), nullptr, 10));
     if (!(nameField & kSubdirectory))
         return false;
     const std::size_t offset = m_resources + (nameField & ~kSubdirectory);
@@ -80,10 +80,10 @@ bool PeImage::NameMatches(DWORD nameField, LPCSTR name) const
         return false;
     std::u16string text(length, u'\0');
     std::memcpy(text.data(), m_data + offset + 2, length * 2);
-    return CompareTexts(ToAnsi(text), name) == 0;
+    return CompareTexts(text, name) == 0;
 }
 
-bool PeImage::FindChild(std::size_t directory, LPCSTR name, std::size_t& child, bool& isDirectory) const
+bool PeImage::FindChild(std::size_t directory, LPCWSTR name, std::size_t& child, bool& isDirectory) const
 {
     if (!Has(directory, 16))
         return false;
@@ -103,17 +103,31 @@ bool PeImage::FindChild(std::size_t directory, LPCSTR name, std::size_t& child, 
     return false;
 }
 
-const BYTE* PeImage::FindEntry(LPCSTR type, LPCSTR name) const
+const BYTE* PeImage::FindEntry(LPCWSTR type, LPCWSTR name) const
 {
     if (m_resources == kNowhere)
         return nullptr;
     std::size_t place = m_resources;
     bool isDirectory = true;
     // Type, name and language; the first language is as good as any.
-    for (LPCSTR wanted : {type, name, LPCSTR{}})
+    for (LPCWSTR wanted : {type, name, LPCWSTR{}})
         if (!isDirectory || !FindChild(place, wanted, place, isDirectory))
             return nullptr;
     return isDirectory ? nullptr : m_data + place;
+}
+
+std::vector<WORD> PeImage::LanguagesOf(LPCWSTR type, LPCWSTR name) const
+{
+    std::size_t place = m_resources;
+    bool isDirectory = m_resources != kNowhere;
+    for (LPCWSTR wanted : {type, name})
+        if (!isDirectory || !FindChild(place, wanted, place, isDirectory))
+            return {};
+    std::vector<WORD> languages;
+    const std::size_t count = isDirectory ? Read<WORD>(place + 12) + std::size_t{Read<WORD>(place + 14)} : 0;
+    for (std::size_t i = 0; i < count && Has(place + 16 + i * 8, 8); ++i)
+        languages.push_back(Read<WORD>(place + 16 + i * 8));
+    return languages;
 }
 
 Bytes PeImage::DataOf(const BYTE* entry) const

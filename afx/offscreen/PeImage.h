@@ -16,7 +16,9 @@ public:
     bool IsValid() const { return m_valid; }
 
     // The data entry of a resource, null when there is none. Names are compared without case.
-    const BYTE* FindEntry(LPCSTR type, LPCSTR name) const;
+    const BYTE* FindEntry(LPCWSTR type, LPCWSTR name) const;
+    // The languages that a resource is there in; nothing when there is no such type or name.
+    std::vector<WORD> LanguagesOf(LPCWSTR type, LPCWSTR name) const;
     // The data that an entry from FindEntry stands for.
     Bytes DataOf(const BYTE* entry) const;
 
@@ -25,8 +27,8 @@ private:
     template <class T>
     T Read(std::size_t offset) const;
     std::size_t OffsetOf(DWORD address, std::size_t size) const;
-    bool FindChild(std::size_t directory, LPCSTR name, std::size_t& child, bool& isDirectory) const;
-    bool NameMatches(DWORD nameField, LPCSTR name) const;
+    bool FindChild(std::size_t directory, LPCWSTR name, std::size_t& child, bool& isDirectory) const;
+    bool NameMatches(DWORD nameField, LPCWSTR name) const;
 
     static constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
 

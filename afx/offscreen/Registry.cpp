@@ -10,6 +10,16 @@ namespace offscreen
 {
 namespace
 {
+// Names of keys and values are found whatever their case.
+std::string Folded(std::string_view name)
+{
+    std::string folded(name);
+    for (char& c : folded)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c | 0x20);
+    return folded;
+}
+
 struct Value
 {
     std::string text;
@@ -44,7 +54,7 @@ std::string PathOf(HKEY key)
 
 std::string Below(const std::string& path, LPCSTR subKey)
 {
-    return subKey && *subKey ? path + "\\" + LowerCase(subKey) : path;
+    return subKey && *subKey ? path + "\\" + Folded(subKey) : path;
 }
 
 // A key exists when it has values or another key below it has.
@@ -57,7 +67,7 @@ bool Exists(const std::string& path)
 
 void SetRegistryValue(HKEY root, const char* subKey, const char* name, const char* value, DWORD type)
 {
-    State().keys[Below(PathOf(root), subKey)][LowerCase(name ? name : "")] = {value, type};
+    State().keys[Below(PathOf(root), subKey)][Folded(name ? name : "")] = {value, type};
 }
 
 void ClearRegistry() { State().keys.clear(); }
@@ -95,7 +105,7 @@ LSTATUS RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD, LPDWORD type, LPBYTE da
     const auto values = State().keys.find(path);
     if (values == State().keys.end())
         return ERROR_FILE_NOT_FOUND;
-    const auto value = values->second.find(LowerCase(name ? name : ""));
+    const auto value = values->second.find(Folded(name ? name : ""));
     if (value == values->second.end())
         return ERROR_FILE_NOT_FOUND;
     if (type)

@@ -195,7 +195,7 @@ HMODULE LoadFile(const std::string& name)
 }
 } // namespace
 
-Bytes FindResourceBytes(HMODULE handle, LPCSTR name, LPCSTR type)
+Bytes FindResourceBytes(HMODULE handle, LPCWSTR name, LPCWSTR type)
 {
     const Module* module = ModuleOf(handle);
     const BYTE* entry = module ? module->image.FindEntry(type, name) : nullptr;
@@ -296,7 +296,7 @@ HRSRC FindResourceA(HMODULE handle, LPCSTR name, LPCSTR type)
 {
     Inside inside;
     const Module* module = ModuleOf(handle);
-    const BYTE* entry = module ? module->image.FindEntry(type, name) : nullptr;
+    const BYTE* entry = module ? module->image.FindEntry(Widened(type), Widened(name)) : nullptr;
     if (!entry)
         SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
     return reinterpret_cast<HRSRC>(const_cast<BYTE*>(entry));
@@ -313,29 +313,69 @@ HGLOBAL LoadResource(HMODULE handle, HRSRC resource)
 
 LPVOID LockResource(HGLOBAL data) { return data; }
 
-int LoadStringA(HINSTANCE instance, UINT id, LPSTR text, int size)
+BOOL EnumResourceLanguagesW(HMODULE handle, LPCWSTR type, LPCWSTR name, ENUMRESLANGPROCW callback, LONG_PTR param)
 {
     Inside inside;
-    if (!text || size <= 0)
-        return 0;
-    text[0] = 0;
+    const Module* module = ModuleOf(handle);
+    if (!module)
+        return FALSE;
+    const std::vector<WORD> languages = module->image.LanguagesOf(type, name);
+    if (languages.empty())
+    {
+        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
+        return FALSE;
+    }
+    for (const WORD language : languages)
+    {
+        Outside outside;
+        if (!callback(handle, type, name, language, param))
+            return FALSE;
+    }
+    return TRUE;
+}
+
+namespace
+{
+// A string as it lies in the resources, nothing when it is not there or empty.
+std::u16string_view FindString(HINSTANCE instance, UINT id)
+{
     // Strings come in blocks of sixteen, each with its length before it.
-    Bytes block = FindResourceBytes(instance, MAKEINTRESOURCEA((LOWORD(id) >> 4) + 1), RT_STRING);
+    Bytes block =
+        FindResourceBytes(instance, MAKEINTRESOURCEW((LOWORD(id) >> 4) + 1), reinterpret_cast<LPCWSTR>(RT_STRING));
     for (UINT index = id & 15; block.data && block.size >= 2; --index)
     {
         WORD length = 0;
         std::memcpy(&length, block.data, sizeof length);
         const std::size_t bytes = length * sizeof(char16_t);
         if (bytes > block.size - 2)
-            return 0;
+            return {};
         if (index == 0)
-        {
-            std::u16string wide(length, u'\0');
-            std::memcpy(wide.data(), block.data + 2, bytes);
-            return CopyText(ToAnsi(wide), text, static_cast<std::size_t>(size));
-        }
+            return {reinterpret_cast<LPCWSTR>(block.data + 2), length};
         block.data += 2 + bytes;
         block.size -= 2 + bytes;
     }
-    return 0;
+    return {};
+}
+} // namespace
+
+int LoadStringA(HINSTANCE instance, UINT id, LPSTR text, int size)
+{
+    Inside inside;
+    if (!text || size <= 0)
+        return 0;
+    text[0] = 0;
+    return CopyAnsi(FindString(instance, id), text, static_cast<std::size_t>(size));
+}
+
+int LoadStringW(HINSTANCE instance, UINT id, LPWSTR text, int size)
+{
+    Inside inside;
+    if (!text || size < 0)
+        return 0;
+    const std::u16string_view found = FindString(instance, id);
+    if (size > 0)
+        return CopyText(found, text, static_cast<std::size_t>(size));
+    // Without room for a copy the caller wants to read the string where it lies, not terminated.
+    *reinterpret_cast<LPCWSTR*>(text) = found.data();
+    return static_cast<int>(found.size());
 }

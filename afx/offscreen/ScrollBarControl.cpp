@@ -60,7 +60,7 @@ ScrollState* ScrollOf(Window& window, int bar)
 {
     if (bar != SB_CTL)
         return bar == SB_HORZ || bar == SB_VERT ? &window.scroll[bar] : nullptr;
-    auto* state = window.windowClass->procedure == ScrollBarProc ? StateOf<ScrollBarState>(window) : nullptr;
+    auto* state = window.windowClass->procedure.function == ScrollBarProc ? StateOf<ScrollBarState>(window) : nullptr;
     return state ? &state->scroll : nullptr;
 }
 

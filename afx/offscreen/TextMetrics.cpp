@@ -1,9 +1,8 @@
 // The fonts that the desktop knows: their heights and the widths of their characters, as measured with
 // GetTextExtentPoint32 on the bitmap faces of the system at 96 dots per inch.
 
+#include "afx/offscreen/CodePages.h"
 #include "afx/offscreen/Internal.h"
-
-#include <strings.h>
 
 #include <cstdlib>
 #include <memory>
@@ -99,16 +98,17 @@ FontMetrics* MakeStrike(const Size& size, bool bold)
                        size.averageWidth + extra,
                        size.maximumWidth + extra,
                        size.height - size.internalLeading + 1,
+                       size.averageWidth + 2,
                        strike->widths};
     return &strike->metrics;
 }
 
 // Every face that is not one of the others looks like MS Sans Serif.
-const Size& SizeFor(const LOGFONTA& font)
+const Size& SizeFor(const LOGFONTW& font)
 {
-    if (strcasecmp(font.lfFaceName, "System") == 0)
+    if (CompareTexts(font.lfFaceName, u"System") == 0)
         return kSystem;
-    if (strcasecmp(font.lfFaceName, "Courier") == 0 || strcasecmp(font.lfFaceName, "Courier New") == 0)
+    if (CompareTexts(font.lfFaceName, u"Courier") == 0 || CompareTexts(font.lfFaceName, u"Courier New") == 0)
         return kCourier;
     // A negative height is that of the characters, a positive one that of the cell.
     const int height = font.lfHeight < 0 ? -font.lfHeight : font.lfHeight == 0 ? 12 : font.lfHeight;
@@ -121,7 +121,7 @@ const Size& SizeFor(const LOGFONTA& font)
 BaseUnits g_systemUnits{8, 16};
 } // namespace
 
-const FontMetrics& MetricsFor(const LOGFONTA& font)
+const FontMetrics& MetricsFor(const LOGFONTW& font)
 {
     constexpr const Size* kSizes[] = {&kSmall, &kMedium, &kLarge, &kSystem, &kCourier};
     static FontMetrics* strikes[std::size(kSizes)][2] = {};
@@ -134,15 +134,36 @@ const FontMetrics& MetricsFor(const LOGFONTA& font)
     return *strike;
 }
 
-int TextWidth(const FontMetrics& metrics, std::string_view text)
+namespace
+{
+constexpr char16_t kDefaultCharacter = 0x1F; // Drawn for those that the font does not have
+
+// Thai vowels and tone marks above and below a consonant
+bool IsCombining(char16_t c) { return c == 0x0E31 || (c >= 0x0E34 && c <= 0x0E3A) || (c >= 0x0E47 && c <= 0x0E4E); }
+bool IsThai(char16_t c) { return c >= 0x0E01 && c <= 0x0E5B; }
+bool IsHalfWidth(char16_t c) { return c >= 0xFF61 && c <= 0xFFDC; }
+
+// Characters beyond ASCII; the ones that the faces do not have are drawn by the system with fonts of their scripts.
+int WidthOf(const FontMetrics& metrics, char16_t c)
+{
+    static const CodePage& western = *CodePage::Find(1252);
+    if (const WORD byte = western.BytesOf(c))
+        return metrics.widths[byte];
+    if (IsFullWidth(c))
+        return metrics.doubleByteWidth;
+    if (IsHalfWidth(c))
+        return metrics.doubleByteWidth / 2;
+    if (IsCombining(c))
+        return 0;
+    return IsThai(c) ? metrics.thaiWidth : metrics.widths[kDefaultCharacter];
+}
+} // namespace
+
+int TextWidth(const FontMetrics& metrics, std::u16string_view text)
 {
     int width = 0;
-    for (std::size_t i = 0; i < text.size();)
-    {
-        const int length = CharacterLength(text, i);
-        width += length == 2 ? metrics.doubleByteWidth : metrics.widths[static_cast<unsigned char>(text[i])];
-        i += static_cast<std::size_t>(length);
-    }
+    for (const char16_t c : text)
+        width += c < 0x80 ? metrics.widths[c] : WidthOf(metrics, c);
     return width;
 }
 
@@ -150,7 +171,7 @@ BaseUnits SystemBaseUnits() { return g_systemUnits; }
 
 BaseUnits BaseUnitsOf(HFONT font)
 {
-    constexpr std::string_view kAlphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    constexpr std::u16string_view kAlphabet = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     const FontMetrics& metrics = MetricsOf(font);
     return {(TextWidth(metrics, kAlphabet) / 26 + 1) / 2, metrics.height};
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-// The part of the Win32 API (ANSI functions) that the MFC classes, the dialogs and their tests use, for systems that
-// are not Windows. Names, values and signatures are those of <windows.h> compiled without UNICODE and with STRICT, so
-// that the same sources compile against either. The functions work on windows that are kept in memory; what they do is
-// described by the Windows documentation and not repeated here.
+// The part of the Win32 API (ANSI and Unicode functions) that the MFC classes, the dialogs and their tests use, for
+// systems that are not Windows. Names, values and signatures are those of <windows.h> compiled without UNICODE and with
+// STRICT, so that the same sources compile against either. The functions work on windows that are kept in memory; what
+// they do is described by the Windows documentation and not repeated here.
 
 #include <cstddef>
 #include <cstdint>
@@ -54,9 +54,15 @@ typedef DWORD COLORREF;
 typedef DWORD ACCESS_MASK;
 typedef ACCESS_MASK REGSAM;
 typedef LONG LSTATUS;
+typedef WORD LANGID;
+typedef DWORD LCID;
+typedef DWORD LCTYPE;
 
 typedef CHAR* LPSTR;
 typedef const CHAR* LPCSTR;
+typedef WCHAR* LPWSTR;
+typedef const WCHAR* LPCWSTR;
+typedef BOOL* LPBOOL;
 typedef BYTE* LPBYTE;
 typedef BYTE* PBYTE;
 typedef DWORD* LPDWORD;
@@ -94,6 +100,7 @@ typedef LRESULT(CALLBACK* WNDPROC)(HWND, UINT, WPARAM, LPARAM);
 typedef INT_PTR(CALLBACK* DLGPROC)(HWND, UINT, WPARAM, LPARAM);
 typedef void(CALLBACK* TIMERPROC)(HWND, UINT, UINT_PTR, DWORD);
 typedef BOOL(CALLBACK* WNDENUMPROC)(HWND, LPARAM);
+typedef BOOL(CALLBACK* ENUMRESLANGPROCW)(HMODULE, LPCWSTR, LPCWSTR, WORD, LONG_PTR);
 
 struct RECT
 {
@@ -147,6 +154,24 @@ struct LOGFONTA
     BYTE lfPitchAndFamily;
     CHAR lfFaceName[32];
 };
+
+struct LOGFONTW
+{
+    LONG lfHeight;
+    LONG lfWidth;
+    LONG lfEscapement;
+    LONG lfOrientation;
+    LONG lfWeight;
+    BYTE lfItalic;
+    BYTE lfUnderline;
+    BYTE lfStrikeOut;
+    BYTE lfCharSet;
+    BYTE lfOutPrecision;
+    BYTE lfClipPrecision;
+    BYTE lfQuality;
+    BYTE lfPitchAndFamily;
+    WCHAR lfFaceName[32];
+};
 typedef LOGFONTA LOGFONT;
 
 struct TEXTMETRICA
@@ -173,6 +198,31 @@ struct TEXTMETRICA
     BYTE tmCharSet;
 };
 typedef TEXTMETRICA* LPTEXTMETRICA;
+
+struct TEXTMETRICW
+{
+    LONG tmHeight;
+    LONG tmAscent;
+    LONG tmDescent;
+    LONG tmInternalLeading;
+    LONG tmExternalLeading;
+    LONG tmAveCharWidth;
+    LONG tmMaxCharWidth;
+    LONG tmWeight;
+    LONG tmOverhang;
+    LONG tmDigitizedAspectX;
+    LONG tmDigitizedAspectY;
+    WCHAR tmFirstChar;
+    WCHAR tmLastChar;
+    WCHAR tmDefaultChar;
+    WCHAR tmBreakChar;
+    BYTE tmItalic;
+    BYTE tmUnderlined;
+    BYTE tmStruckOut;
+    BYTE tmPitchAndFamily;
+    BYTE tmCharSet;
+};
+typedef TEXTMETRICW* LPTEXTMETRICW;
 
 struct LOGBRUSH
 {
@@ -206,6 +256,20 @@ struct WNDCLASSA
     LPCSTR lpszClassName;
 };
 
+struct WNDCLASSW
+{
+    UINT style;
+    WNDPROC lpfnWndProc;
+    int cbClsExtra;
+    int cbWndExtra;
+    HINSTANCE hInstance;
+    HICON hIcon;
+    HCURSOR hCursor;
+    HBRUSH hbrBackground;
+    LPCWSTR lpszMenuName;
+    LPCWSTR lpszClassName;
+};
+
 struct CREATESTRUCTA
 {
     LPVOID lpCreateParams;
@@ -219,6 +283,22 @@ struct CREATESTRUCTA
     LONG style;
     LPCSTR lpszName;
     LPCSTR lpszClass;
+    DWORD dwExStyle;
+};
+
+struct CREATESTRUCTW
+{
+    LPVOID lpCreateParams;
+    HINSTANCE hInstance;
+    HMENU hMenu;
+    HWND hwndParent;
+    int cy;
+    int cx;
+    int y;
+    int x;
+    LONG style;
+    LPCWSTR lpszName;
+    LPCWSTR lpszClass;
     DWORD dwExStyle;
 };
 
@@ -318,6 +398,7 @@ struct HELPINFO
 #define MAKEWPARAM(l, h) ((WPARAM)(DWORD)MAKELONG(l, h))
 #define MAKELPARAM(l, h) ((LPARAM)(DWORD)MAKELONG(l, h))
 #define MAKEINTRESOURCEA(i) ((LPSTR)((ULONG_PTR)((WORD)(i))))
+#define MAKEINTRESOURCEW(i) ((LPWSTR)((ULONG_PTR)((WORD)(i))))
 #define MAKEINTRESOURCE MAKEINTRESOURCEA
 #define IS_INTRESOURCE(r) ((((ULONG_PTR)(r)) >> 16) == 0)
 #define RGB(r, g, b) ((COLORREF)(((BYTE)(r) | ((WORD)((BYTE)(g)) << 8)) | (((DWORD)(BYTE)(b)) << 16)))
@@ -623,6 +704,7 @@ struct HELPINFO
 #define EM_LINEINDEX 0x00BB
 #define EM_GETHANDLE 0x00BD
 #define EM_REPLACESEL 0x00C2
+#define EM_GETLINE 0x00C4
 #define EM_LIMITTEXT 0x00C5
 #define EM_GETFIRSTVISIBLELINE 0x00CE
 #define EM_SETREADONLY 0x00CF
@@ -660,8 +742,10 @@ struct HELPINFO
 #define LB_GETTEXT 0x0189
 #define LB_GETTEXTLEN 0x018A
 #define LB_GETCOUNT 0x018B
+#define LB_SELECTSTRING 0x018C
 #define LB_DIR 0x018D
 #define LB_GETTOPINDEX 0x018E
+#define LB_FINDSTRING 0x018F
 #define LB_SETTABSTOPS 0x0192
 #define LB_SETHORIZONTALEXTENT 0x0194
 #define LB_SETTOPINDEX 0x0197
@@ -701,6 +785,7 @@ struct HELPINFO
 #define CB_GETLBTEXTLEN 0x0149
 #define CB_INSERTSTRING 0x014A
 #define CB_RESETCONTENT 0x014B
+#define CB_FINDSTRING 0x014C
 #define CB_SELECTSTRING 0x014D
 #define CB_SETCURSEL 0x014E
 #define CB_SHOWDROPDOWN 0x014F
@@ -921,6 +1006,8 @@ struct HELPINFO
 #define ERROR_PROC_NOT_FOUND 127
 #define ERROR_BAD_EXE_FORMAT 193
 #define ERROR_MORE_DATA 234
+#define ERROR_INVALID_FLAGS 1004
+#define ERROR_NO_UNICODE_TRANSLATION 1113
 #define ERROR_INVALID_WINDOW_HANDLE 1400
 #define ERROR_INVALID_MENU_HANDLE 1401
 #define ERROR_TLW_WITH_WSCHILD 1406
@@ -931,11 +1018,29 @@ struct HELPINFO
 #define ERROR_INVALID_INDEX 1413
 #define ERROR_CONTROL_ID_NOT_FOUND 1421
 #define ERROR_CLIPBOARD_NOT_OPEN 1418
+#define ERROR_RESOURCE_TYPE_NOT_FOUND 1813
 #define ERROR_RESOURCE_NAME_NOT_FOUND 1814
 
 #define GMEM_MOVEABLE 0x0002
 
 #define CF_TEXT 1
+#define CF_UNICODETEXT 13
+
+#define CP_ACP 0
+#define CP_UTF8 65001
+#define MB_PRECOMPOSED 0x0001U
+#define MB_ERR_INVALID_CHARS 0x0008U
+#define WC_ERR_INVALID_CHARS 0x0080U
+#define WC_NO_BEST_FIT_CHARS 0x0400U
+
+#define MAKELANGID(primary, sub) ((WORD)((((WORD)(sub)) << 10) | (WORD)(primary)))
+#define PRIMARYLANGID(language) ((WORD)(language)&0x3ff)
+#define SUBLANGID(language) ((WORD)(language) >> 10)
+#define MAKELCID(language, sort) ((DWORD)((((DWORD)((WORD)(sort))) << 16) | ((DWORD)((WORD)(language)))))
+#define LANGIDFROMLCID(locale) ((WORD)(locale))
+#define SORT_DEFAULT 0x0
+#define LOCALE_IDEFAULTANSICODEPAGE 0x1004U
+#define LOCALE_RETURN_NUMBER 0x20000000U
 
 #define HKEY_CLASSES_ROOT ((HKEY)(ULONG_PTR)((LONG)0x80000000))
 #define HKEY_CURRENT_USER ((HKEY)(ULONG_PTR)((LONG)0x80000001))
@@ -953,12 +1058,18 @@ struct HELPINFO
 ATOM RegisterClassA(const WNDCLASSA* wndClass);
 BOOL UnregisterClassA(LPCSTR className, HINSTANCE instance);
 int GetClassNameA(HWND window, LPSTR text, int size);
+ATOM RegisterClassW(const WNDCLASSW* wndClass);
+BOOL UnregisterClassW(LPCWSTR className, HINSTANCE instance);
+int GetClassNameW(HWND window, LPWSTR text, int size);
 
 // Windows: life, relations, properties
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
                      HWND parent, HMENU menuOrId, HINSTANCE instance, LPVOID param);
+HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, int x, int y, int width, int height,
+                     HWND parent, HMENU menuOrId, HINSTANCE instance, LPVOID param);
 BOOL DestroyWindow(HWND window);
 BOOL IsWindow(HWND window);
+BOOL IsWindowUnicode(HWND window);
 HWND GetParent(HWND window);
 HWND GetWindow(HWND window, UINT relation);
 HWND GetDesktopWindow();
@@ -973,10 +1084,17 @@ BOOL IsIconic(HWND window);
 BOOL SetWindowTextA(HWND window, LPCSTR text);
 int GetWindowTextA(HWND window, LPSTR text, int size);
 int GetWindowTextLengthA(HWND window);
+BOOL SetWindowTextW(HWND window, LPCWSTR text);
+int GetWindowTextW(HWND window, LPWSTR text, int size);
+int GetWindowTextLengthW(HWND window);
 LONG GetWindowLongA(HWND window, int index);
 LONG SetWindowLongA(HWND window, int index, LONG value);
 LONG_PTR GetWindowLongPtrA(HWND window, int index);
 LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value);
+LONG GetWindowLongW(HWND window, int index);
+LONG SetWindowLongW(HWND window, int index, LONG value);
+LONG_PTR GetWindowLongPtrW(HWND window, int index);
+LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value);
 DWORD GetCurrentThreadId();
 DWORD GetCurrentProcessId();
 
@@ -992,6 +1110,7 @@ SHORT GetKeyState(int key);
 BOOL GetKeyboardState(PBYTE keys);
 BOOL SetKeyboardState(LPBYTE keys);
 HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name);
+HCURSOR LoadCursorW(HINSTANCE instance, LPCWSTR name);
 HICON LoadIconA(HINSTANCE instance, LPCSTR name);
 
 // Geometry
@@ -1004,6 +1123,7 @@ BOOL ClientToScreen(HWND window, LPPOINT point);
 int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count);
 int GetSystemMetrics(int index);
 BOOL SystemParametersInfoA(UINT action, UINT param, LPVOID value, UINT flags);
+BOOL SystemParametersInfoW(UINT action, UINT param, LPVOID value, UINT flags);
 BOOL SetRect(LPRECT rect, int left, int top, int right, int bottom);
 BOOL SetRectEmpty(LPRECT rect);
 BOOL InflateRect(LPRECT rect, int dx, int dy);
@@ -1023,6 +1143,14 @@ BOOL TranslateMessage(const MSG* message);
 LRESULT DispatchMessageA(const MSG* message);
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT SendDlgItemMessageW(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam);
+BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+BOOL GetMessageW(LPMSG message, HWND window, UINT first, UINT last);
+BOOL PeekMessageW(LPMSG message, HWND window, UINT first, UINT last, UINT remove);
+LRESULT DispatchMessageW(const MSG* message);
+LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CallWindowProcW(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC callback);
 BOOL KillTimer(HWND window, UINT_PTR id);
 
@@ -1031,9 +1159,15 @@ HWND CreateDialogIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplat
                                 LPARAM param);
 INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
                                 LPARAM param);
+HWND CreateDialogIndirectParamW(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
+                                LPARAM param);
+INT_PTR DialogBoxIndirectParamW(HINSTANCE instance, LPCDLGTEMPLATE dialogTemplate, HWND owner, DLGPROC procedure,
+                                LPARAM param);
 BOOL EndDialog(HWND dialog, INT_PTR result);
 LRESULT DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT DefDlgProcW(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL IsDialogMessageA(HWND dialog, LPMSG message);
+BOOL IsDialogMessageW(HWND dialog, LPMSG message);
 HWND GetDlgItem(HWND dialog, int id);
 int GetDlgCtrlID(HWND window);
 HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous);
@@ -1043,9 +1177,12 @@ UINT IsDlgButtonChecked(HWND dialog, int id);
 BOOL CheckRadioButton(HWND dialog, int first, int last, int checked);
 BOOL SetDlgItemTextA(HWND dialog, int id, LPCSTR text);
 UINT GetDlgItemTextA(HWND dialog, int id, LPSTR text, int size);
+BOOL SetDlgItemTextW(HWND dialog, int id, LPCWSTR text);
+UINT GetDlgItemTextW(HWND dialog, int id, LPWSTR text, int size);
 BOOL MapDialogRect(HWND dialog, LPRECT rect);
 LONG GetDialogBaseUnits();
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
+int MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type);
 BOOL MessageBeep(UINT type);
 
 // Scroll bars and combo boxes
@@ -1059,11 +1196,13 @@ BOOL SetScrollRange(HWND window, int bar, int low, int high, BOOL redraw);
 HMENU CreatePopupMenu();
 BOOL DestroyMenu(HMENU menu);
 BOOL AppendMenuA(HMENU menu, UINT flags, UINT_PTR id, LPCSTR text);
+BOOL AppendMenuW(HMENU menu, UINT flags, UINT_PTR id, LPCWSTR text);
 BOOL EnableMenuItem(HMENU menu, UINT id, UINT flags);
 int GetMenuItemCount(HMENU menu);
 UINT GetMenuItemID(HMENU menu, int position);
 UINT GetMenuState(HMENU menu, UINT id, UINT flags);
 int GetMenuStringA(HMENU menu, UINT id, LPSTR text, int size, UINT flags);
+int GetMenuStringW(HMENU menu, UINT id, LPWSTR text, int size, UINT flags);
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int reserved, HWND owner, const RECT* rect);
 BOOL IsMenu(HMENU menu);
 
@@ -1085,7 +1224,9 @@ BOOL DeleteObject(HGDIOBJ object);
 HGDIOBJ GetStockObject(int index);
 DWORD GetObjectType(HGDIOBJ object);
 int GetObjectA(HANDLE object, int size, LPVOID buffer);
+int GetObjectW(HANDLE object, int size, LPVOID buffer);
 HFONT CreateFontIndirectA(const LOGFONTA* font);
+HFONT CreateFontIndirectW(const LOGFONTW* font);
 HBRUSH CreateSolidBrush(COLORREF color);
 HPEN CreatePen(int style, int width, COLORREF color);
 COLORREF SetTextColor(HDC dc, COLORREF color);
@@ -1102,6 +1243,11 @@ BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, LPSIZE size);
 BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int length);
 BOOL ExtTextOutA(HDC dc, int x, int y, UINT options, const RECT* rect, LPCSTR text, UINT length, const INT* widths);
 int DrawTextA(HDC dc, LPCSTR text, int length, LPRECT rect, UINT format);
+BOOL GetTextMetricsW(HDC dc, LPTEXTMETRICW metrics);
+BOOL GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size);
+BOOL TextOutW(HDC dc, int x, int y, LPCWSTR text, int length);
+BOOL ExtTextOutW(HDC dc, int x, int y, UINT options, const RECT* rect, LPCWSTR text, UINT length, const INT* widths);
+int DrawTextW(HDC dc, LPCWSTR text, int length, LPRECT rect, UINT format);
 int FillRect(HDC dc, const RECT* rect, HBRUSH brush);
 int FrameRect(HDC dc, const RECT* rect, HBRUSH brush);
 BOOL DrawFocusRect(HDC dc, const RECT* rect);
@@ -1121,6 +1267,8 @@ HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
 HGLOBAL LoadResource(HMODULE module, HRSRC resource);
 LPVOID LockResource(HGLOBAL data);
 int LoadStringA(HINSTANCE instance, UINT id, LPSTR text, int size);
+int LoadStringW(HINSTANCE instance, UINT id, LPWSTR text, int size);
+BOOL EnumResourceLanguagesW(HMODULE module, LPCWSTR type, LPCWSTR name, ENUMRESLANGPROCW callback, LONG_PTR param);
 
 // Clipboard and movable memory
 BOOL OpenClipboard(HWND owner);
@@ -1143,6 +1291,12 @@ DWORD ExpandEnvironmentStringsA(LPCSTR source, LPSTR target, DWORD size);
 
 // Text, code pages, system
 BOOL IsDBCSLeadByte(BYTE c);
+BOOL IsDBCSLeadByteEx(UINT codePage, BYTE c);
+int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int length, LPWSTR target, int size);
+int WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR text, int length, LPSTR target, int size,
+                        LPCSTR defaultChar, LPBOOL usedDefault);
+int GetLocaleInfoA(LCID locale, LCTYPE type, LPSTR text, int size);
+int GetLocaleInfoW(LCID locale, LCTYPE type, LPWSTR text, int size);
 UINT GetACP();
 LPSTR lstrcpynA(LPSTR target, LPCSTR source, int size);
 DWORD GetLastError();

@@ -23,7 +23,7 @@ struct Roots
     Window* messages = nullptr;
 };
 
-Window* MakeRoot(const char* className)
+Window* MakeRoot(LPCWSTR className)
 {
     const HWND handle = Windows().Add<HWND>(std::make_unique<Window>());
     Window* root = Windows().Find(handle);
@@ -40,8 +40,8 @@ Roots& TheRoots()
     static auto* roots = [] {
         RegisterStandardClasses();
         auto* made = new Roots;
-        made->desktop = MakeRoot("#32769");
-        made->messages = MakeRoot("Message");
+        made->desktop = MakeRoot(u"#32769");
+        made->messages = MakeRoot(u"Message");
         return made;
     }();
     return *roots;
@@ -254,7 +254,7 @@ Relations RelationsFor(HWND given, DWORD style)
 }
 
 // A window in its place among the others, not told of anything yet.
-Window* MakeWindow(WindowClass& windowClass, const Relations& relations, const CREATESTRUCTA& create)
+Window* MakeWindow(WindowClass& windowClass, const Relations& relations, const CREATESTRUCTW& create)
 {
     const HWND handle = Windows().Add<HWND>(std::make_unique<Window>());
     Window* window = Windows().Find(handle);
@@ -278,7 +278,7 @@ Window* MakeWindow(WindowClass& windowClass, const Relations& relations, const C
 }
 
 // Asks the window itself. False when it refused or did not survive.
-bool AcceptsCreation(Window& window, CREATESTRUCTA& create)
+bool AcceptsCreation(Window& window, CREATESTRUCTW& create)
 {
     const auto param = reinterpret_cast<LPARAM>(&create);
     if (!Send(window.handle, WM_NCCREATE, 0, param))
@@ -304,7 +304,7 @@ void TellOfCreation(Window& window)
 }
 } // namespace
 
-HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
+HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, int x, int y, int width, int height,
                      HWND parent, HMENU menuOrId, HINSTANCE instance, LPVOID param)
 {
     Inside inside;
@@ -319,7 +319,7 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     ReplaceDefaults(style, x, y, width, height);
     CompleteStyles(style, exStyle);
 
-    CREATESTRUCTA create{};
+    CREATESTRUCTW create{};
     create.lpCreateParams = param;
     create.hInstance = instance;
     create.hMenu = menuOrId;
@@ -345,6 +345,14 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     if (!window->dead && (style & WS_VISIBLE))
         ShowWindow(handle, SW_SHOW);
     return window->dead ? nullptr : handle;
+}
+
+HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
+                     HWND parent, HMENU menuOrId, HINSTANCE instance, LPVOID param)
+{
+    Inside inside;
+    return CreateWindowExW(exStyle, Widened(className), Widened(text), style, x, y, width, height, parent, menuOrId,
+                           instance, param);
 }
 
 BOOL DestroyWindow(HWND window)

@@ -1,8 +1,5 @@
 #include "afx/offscreen/Internal.h"
 
-#include <strings.h>
-
-#include <cstring>
 #include <list>
 
 namespace offscreen
@@ -22,7 +19,7 @@ ATOM NextAtom()
     return ++atom;
 }
 
-ATOM Register(const WNDCLASSA& definition)
+ATOM Register(const WNDCLASSW& definition, bool unicode)
 {
     if (!definition.lpszClassName || !definition.lpfnWndProc)
     {
@@ -37,7 +34,7 @@ ATOM Register(const WNDCLASSA& definition)
     WindowClass windowClass;
     windowClass.name = definition.lpszClassName;
     windowClass.atom = NextAtom();
-    windowClass.procedure = definition.lpfnWndProc;
+    windowClass.procedure = ProcedureOf(definition.lpfnWndProc, unicode);
     windowClass.windowExtra = definition.cbWndExtra;
     windowClass.background = definition.hbrBackground;
     Classes().push_front(std::move(windowClass)); // Before a standard class of the same name.
@@ -45,22 +42,22 @@ ATOM Register(const WNDCLASSA& definition)
 }
 } // namespace
 
-WindowClass* FindClass(LPCSTR name)
+WindowClass* FindClass(LPCWSTR name)
 {
     for (WindowClass& windowClass : Classes())
     {
-        if (IS_INTRESOURCE(name) ? windowClass.atom == LOWORD(name) : strcasecmp(windowClass.name.c_str(), name) == 0)
+        if (IS_INTRESOURCE(name) ? windowClass.atom == LOWORD(name) : CompareTexts(windowClass.name, name) == 0)
             return &windowClass;
     }
     return nullptr;
 }
 
-void RegisterBuiltIn(const char* name, WNDPROC procedure, int windowExtra, int atom)
+void RegisterBuiltIn(LPCWSTR name, WNDPROC procedure, int windowExtra, int atom)
 {
     WindowClass windowClass;
     windowClass.name = name;
     windowClass.atom = atom ? static_cast<ATOM>(atom) : NextAtom();
-    windowClass.procedure = procedure;
+    windowClass.procedure = {procedure, true};
     windowClass.windowExtra = windowExtra;
     windowClass.builtIn = true;
     Classes().push_back(std::move(windowClass));
@@ -68,29 +65,47 @@ void RegisterBuiltIn(const char* name, WNDPROC procedure, int windowExtra, int a
 
 void RegisterStandardClasses()
 {
-    RegisterBuiltIn("Button", ButtonProc);
-    RegisterBuiltIn("Static", StaticProc);
-    RegisterBuiltIn("Edit", EditProc);
-    RegisterBuiltIn("ComboBox", ComboBoxProc);
-    RegisterBuiltIn("ListBox", ListBoxProc);
-    RegisterBuiltIn("ComboLBox", ListBoxProc);
-    RegisterBuiltIn("ScrollBar", ScrollBarProc);
-    RegisterBuiltIn("#32770", DefDlgProcA, DLGWINDOWEXTRA, 0x8002);
-    RegisterBuiltIn("#32769", DefWindowProcA, 0, 0x8001);
-    RegisterBuiltIn("Message", DefWindowProcA);
+    RegisterBuiltIn(u"Button", ButtonProc);
+    RegisterBuiltIn(u"Static", StaticProc);
+    RegisterBuiltIn(u"Edit", EditProc);
+    RegisterBuiltIn(u"ComboBox", ComboBoxProc);
+    RegisterBuiltIn(u"ListBox", ListBoxProc);
+    RegisterBuiltIn(u"ComboLBox", ListBoxProc);
+    RegisterBuiltIn(u"ScrollBar", ScrollBarProc);
+    RegisterBuiltIn(u"#32770", DefDlgProcW, DLGWINDOWEXTRA, 0x8002);
+    RegisterBuiltIn(u"#32769", DefWindowProcW, 0, 0x8001);
+    RegisterBuiltIn(u"Message", DefWindowProcW);
 }
 } // namespace offscreen
 
 using namespace offscreen;
 
+ATOM RegisterClassW(const WNDCLASSW* wndClass)
+{
+    Inside inside;
+    DesktopWindow();
+    return Register(*wndClass, true);
+}
+
 ATOM RegisterClassA(const WNDCLASSA* wndClass)
 {
     Inside inside;
     DesktopWindow();
-    return Register(*wndClass);
+    const Widened name(wndClass->lpszClassName);
+    WNDCLASSW wide{};
+    wide.style = wndClass->style;
+    wide.lpfnWndProc = wndClass->lpfnWndProc;
+    wide.cbClsExtra = wndClass->cbClsExtra;
+    wide.cbWndExtra = wndClass->cbWndExtra;
+    wide.hInstance = wndClass->hInstance;
+    wide.hIcon = wndClass->hIcon;
+    wide.hCursor = wndClass->hCursor;
+    wide.hbrBackground = wndClass->hbrBackground;
+    wide.lpszClassName = name;
+    return Register(wide, false);
 }
 
-BOOL UnregisterClassA(LPCSTR className, HINSTANCE)
+BOOL UnregisterClassW(LPCWSTR className, HINSTANCE)
 {
     Inside inside;
     DesktopWindow();
@@ -109,11 +124,26 @@ BOOL UnregisterClassA(LPCSTR className, HINSTANCE)
     return TRUE;
 }
 
-int GetClassNameA(HWND window, LPSTR text, int size)
+BOOL UnregisterClassA(LPCSTR className, HINSTANCE instance)
+{
+    Inside inside;
+    return UnregisterClassW(Widened(className), instance);
+}
+
+int GetClassNameW(HWND window, LPWSTR text, int size)
 {
     Inside inside;
     const Window* found = Lookup(window);
     if (!found || size <= 0)
         return 0;
     return CopyText(found->windowClass->name, text, static_cast<std::size_t>(size));
+}
+
+int GetClassNameA(HWND window, LPSTR text, int size)
+{
+    Inside inside;
+    const Window* found = Lookup(window);
+    if (!found || size <= 0)
+        return 0;
+    return CopyAnsi(found->windowClass->name, text, static_cast<std::size_t>(size));
 }

@@ -1,6 +1,6 @@
 // What a window is asked and told about itself: its state, its text, its numbers.
 
-#include "afx/offscreen/Internal.h"
+#include "afx/offscreen/DialogState.h"
 
 #include <cstring>
 
@@ -57,9 +57,13 @@ BOOL IsIconic(HWND window)
 BOOL SetWindowTextA(HWND window, LPCSTR text)
 {
     Inside inside;
-    if (!Lookup(window))
-        return FALSE;
-    return static_cast<BOOL>(Send(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)));
+    return Lookup(window) && SendMessageA(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+}
+
+BOOL SetWindowTextW(HWND window, LPCWSTR text)
+{
+    Inside inside;
+    return Lookup(window) && Send(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
 }
 
 int GetWindowTextA(HWND window, LPSTR text, int size)
@@ -68,15 +72,30 @@ int GetWindowTextA(HWND window, LPSTR text, int size)
     if (!text || size <= 0)
         return 0;
     text[0] = 0;
-    if (!Lookup(window))
+    return static_cast<int>(
+        SendMessageA(window, WM_GETTEXT, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(text)));
+}
+
+int GetWindowTextW(HWND window, LPWSTR text, int size)
+{
+    Inside inside;
+    if (!text || size <= 0)
         return 0;
-    return static_cast<int>(Send(window, WM_GETTEXT, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(text)));
+    text[0] = 0;
+    return static_cast<int>(
+        SendMessageW(window, WM_GETTEXT, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(text)));
 }
 
 int GetWindowTextLengthA(HWND window)
 {
     Inside inside;
-    return Lookup(window) ? static_cast<int>(Send(window, WM_GETTEXTLENGTH)) : 0;
+    return static_cast<int>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0));
+}
+
+int GetWindowTextLengthW(HWND window)
+{
+    Inside inside;
+    return static_cast<int>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0));
 }
 
 namespace
@@ -102,7 +121,7 @@ LONG_PTR ReadExtra(const Window& window, int index, std::size_t size)
     return value;
 }
 
-LONG_PTR GetLong(HWND window, int index, std::size_t size)
+LONG_PTR GetLong(HWND window, int index, std::size_t size, bool unicode)
 {
     const Window* found = Lookup(window);
     if (!found)
@@ -110,7 +129,7 @@ LONG_PTR GetLong(HWND window, int index, std::size_t size)
     switch (index)
     {
     case GWLP_WNDPROC:
-        return reinterpret_cast<LONG_PTR>(found->procedure);
+        return reinterpret_cast<LONG_PTR>(AddressFor(found->procedure, unicode));
     case GWLP_HWNDPARENT:
         return reinterpret_cast<LONG_PTR>(GetParent(window));
     case GWLP_ID:
@@ -126,16 +145,16 @@ LONG_PTR GetLong(HWND window, int index, std::size_t size)
     }
 }
 
-LONG_PTR SetLong(HWND window, int index, LONG_PTR value, std::size_t size)
+LONG_PTR SetLong(HWND window, int index, LONG_PTR value, std::size_t size, bool unicode)
 {
-    const LONG_PTR before = GetLong(window, index, size);
+    const LONG_PTR before = GetLong(window, index, size, unicode);
     Window* found = Find(window);
     if (!found)
         return 0;
     switch (index)
     {
     case GWLP_WNDPROC:
-        found->procedure = reinterpret_cast<WNDPROC>(value);
+        found->procedure = ProcedureOf(reinterpret_cast<WNDPROC>(value), unicode);
         break;
     case GWLP_HWNDPARENT:
         found->owner = reinterpret_cast<HWND>(value);
@@ -157,6 +176,8 @@ LONG_PTR SetLong(HWND window, int index, LONG_PTR value, std::size_t size)
     default:
         if (index < 0 || static_cast<std::size_t>(index) + size > found->extra.size())
             return 0;
+        if (index == static_cast<int>(DWLP_DLGPROC) && found->dialog)
+            DialogStateOf(window)->unicodeProcedure = unicode;
         if (size == sizeof(LONG))
         {
             const LONG narrow = static_cast<LONG>(value);
@@ -168,32 +189,61 @@ LONG_PTR SetLong(HWND window, int index, LONG_PTR value, std::size_t size)
     }
     return before;
 }
+
+LONG SetNarrowLong(HWND window, int index, LONG value, bool unicode)
+{
+    if (index == GWLP_WNDPROC)
+        return NotModelled("SetWindowLong(GWL_WNDPROC), which would cut the pointer: use SetWindowLongPtr", 0);
+    return static_cast<LONG>(SetLong(window, index, value, sizeof(LONG), unicode));
+}
 } // namespace
 
 LONG GetWindowLongA(HWND window, int index)
 {
     Inside inside;
-    return static_cast<LONG>(GetLong(window, index, sizeof(LONG)));
+    return static_cast<LONG>(GetLong(window, index, sizeof(LONG), false));
+}
+
+LONG GetWindowLongW(HWND window, int index)
+{
+    Inside inside;
+    return static_cast<LONG>(GetLong(window, index, sizeof(LONG), true));
 }
 
 LONG SetWindowLongA(HWND window, int index, LONG value)
 {
     Inside inside;
-    if (index == GWLP_WNDPROC)
-        return NotModelled("SetWindowLong(GWL_WNDPROC), which would cut the pointer: use SetWindowLongPtr", 0);
-    return static_cast<LONG>(SetLong(window, index, value, sizeof(LONG)));
+    return SetNarrowLong(window, index, value, false);
+}
+
+LONG SetWindowLongW(HWND window, int index, LONG value)
+{
+    Inside inside;
+    return SetNarrowLong(window, index, value, true);
 }
 
 LONG_PTR GetWindowLongPtrA(HWND window, int index)
 {
     Inside inside;
-    return GetLong(window, index, sizeof(LONG_PTR));
+    return GetLong(window, index, sizeof(LONG_PTR), false);
+}
+
+LONG_PTR GetWindowLongPtrW(HWND window, int index)
+{
+    Inside inside;
+    return GetLong(window, index, sizeof(LONG_PTR), true);
 }
 
 LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value)
 {
     Inside inside;
-    return SetLong(window, index, value, sizeof(LONG_PTR));
+    return SetLong(window, index, value, sizeof(LONG_PTR), false);
+}
+
+LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value)
+{
+    Inside inside;
+    return SetLong(window, index, value, sizeof(LONG_PTR), true);
 }
 
 DWORD GetCurrentThreadId() { return 0x24; }

@@ -234,20 +234,22 @@ TEST_F(OffscreenDesktop, LoadsLibrariesThatATestRegistered)
 
 // ------------------------------------------------------------------------------------------------------- code pages
 
-TEST_F(OffscreenDesktop, EditsCountBytesAndKeepCharactersWhole)
+TEST_F(OffscreenDesktop, EditsCountCharactersWhateverTheirBytes)
 {
     CodePage japanese(932);
     EXPECT_TRUE(IsDBCSLeadByte(0x82));
     EXPECT_FALSE(IsDBCSLeadByte('A'));
     TestDialog dialog(TemplateBuilder(kDialog).Control(kEdit, 1, "", ES_AUTOHSCROLL));
     dialog.Send(1, EM_LIMITTEXT, 3);
-    TypeInto(dialog.Item(1), "\x82\xA0\x82\xA2"); // Two characters of two bytes each
-    EXPECT_EQ(dialog.Text(1), "\x82\xA0");
+    TypeInto(dialog.Item(1), "\x82\xA0\x82\xA2\x82\xA4\x82\xA6"); // Four characters of two bytes each
+    EXPECT_EQ(dialog.Text(1), "\x82\xA0\x82\xA2\x82\xA4");
+    EXPECT_EQ(GetWindowTextLengthA(dialog.Item(1)), 6);
+    dialog.Send(1, EM_SETSEL, 1, 2);
     TypeInto(dialog.Item(1), "a");
     EXPECT_EQ(dialog.Text(1), "\x82\xA0"
-                              "a");
+                              "a\x82\xA4");
     TypeInto(dialog.Item(1), "\b\b");
-    EXPECT_EQ(dialog.Text(1), "");
+    EXPECT_EQ(dialog.Text(1), "\x82\xA4");
 }
 
 namespace
