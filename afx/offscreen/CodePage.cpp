@@ -162,6 +162,12 @@ BOOL IsDBCSLeadByteEx(UINT codePage, BYTE c)
     return found && found->IsLead(c);
 }
 
+BOOL IsValidCodePage(UINT codePage)
+{
+    Inside inside;
+    return codePage != CP_ACP && CodePageOf(codePage) != nullptr;
+}
+
 int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int length, LPWSTR target, int size)
 {
     Inside inside;

@@ -1039,6 +1039,8 @@ struct HELPINFO
 #define MAKELCID(language, sort) ((DWORD)((((DWORD)((WORD)(sort))) << 16) | ((DWORD)((WORD)(language)))))
 #define LANGIDFROMLCID(locale) ((WORD)(locale))
 #define SORT_DEFAULT 0x0
+#define LANG_NEUTRAL 0x00
+#define LANG_ENGLISH 0x09
 #define LOCALE_IDEFAULTANSICODEPAGE 0x1004U
 #define LOCALE_RETURN_NUMBER 0x20000000U
 
@@ -1292,6 +1294,7 @@ DWORD ExpandEnvironmentStringsA(LPCSTR source, LPSTR target, DWORD size);
 // Text, code pages, system
 BOOL IsDBCSLeadByte(BYTE c);
 BOOL IsDBCSLeadByteEx(UINT codePage, BYTE c);
+BOOL IsValidCodePage(UINT codePage);
 int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int length, LPWSTR target, int size);
 int WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR text, int length, LPSTR target, int size,
                         LPCSTR defaultChar, LPBOOL usedDefault);
