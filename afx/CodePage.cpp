@@ -1,7 +1,6 @@
 #include "afx/CodePage.h"
 
-#include "afx/Object.h"
-#include "afx/Window.h"
+#include "afx/afx.h"
 
 #include <cstring>
 #include <utility>
@@ -44,15 +43,10 @@ UINT AfxPageOfString(HINSTANCE module, UINT id)
 // ---- Wide texts -----------------------------------------------------------------------------------------------------
 
 CWideBuffer::CWideBuffer(int size)
-    : m_text(size <= kBrief ? m_brief : static_cast<LPWSTR>(AfxReallocate(nullptr, size * sizeof(WCHAR))))
+    : m_text(size <= kBrief ? m_brief
+                            : reinterpret_cast<LPWSTR>(m_long.GetBuffer(size * static_cast<int>(sizeof(WCHAR)))))
 {
     m_text[0] = 0;
-}
-
-CWideBuffer::~CWideBuffer()
-{
-    if (m_text != m_brief)
-        AfxFree(m_text);
 }
 
 // A narrow text has at least as many bytes as the wide one has characters.

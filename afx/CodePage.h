@@ -40,7 +40,6 @@ class AFX_API CWideBuffer
 {
 public:
     explicit CWideBuffer(int size);
-    ~CWideBuffer();
     CWideBuffer(const CWideBuffer&) = delete;
     CWideBuffer& operator=(const CWideBuffer&) = delete;
 
@@ -50,6 +49,7 @@ private:
     static constexpr int kBrief = 512;
 
     WCHAR m_brief[kBrief];
+    CString m_long;
     LPWSTR m_text;
 };
 

@@ -19,7 +19,7 @@ list(APPEND robot_sources ${PROJECT_SOURCE_DIR}/afx/${desktop}/Console.cpp
                           ${PROJECT_SOURCE_DIR}/afx/${desktop}/Screenshot.cpp)
 list(REMOVE_ITEM afx_sources ${robot_sources})
 if(PEXLO_WITH_MFC)
-    list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|HtmlHelp|System|win32/ExceptionMemory)\\.cpp$")
+    list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|CodePage|HtmlHelp|System|win32/ExceptionMemory)\\.cpp$")
 endif()
 
 add_library(afx OBJECT ${afx_sources})
@@ -27,8 +27,8 @@ add_library(wizard OBJECT ${wizard_sources})
 foreach(objects afx wizard)
     target_compile_definitions(${objects} PRIVATE PEXLO_BUILD $<$<BOOL:${PEXLO_WITH_MFC}>:PEXLO_WITH_MFC>)
     target_include_directories(${objects} PUBLIC ${PROJECT_SOURCE_DIR})
-    # Dialogs are as fast as the system is: a higher level only makes the library larger.
-    target_compile_options(${objects} PRIVATE $<$<CONFIG:Release>:-O2>)
+    # Dialogs are as fast as the system is: a higher level of optimization only makes the library larger.
+    target_compile_options(${objects} PRIVATE $<$<CONFIG:Release>:-Os>)
     if(NOT PEXLO_WITH_MFC)
         target_precompile_headers(${objects} PRIVATE ${PROJECT_SOURCE_DIR}/afx/afx.h)
     endif()

@@ -50,7 +50,22 @@ struct SColumn
 
     void Measure(CDC& dc, const CString& text) { widest = std::max<int>(widest, dc.GetTextExtent(text).cx); }
     int Width() const { return widest > 0 ? widest + margin : widthWithoutText; }
+
+    /// In dialog units. A column is reckoned in those of the system; the list takes them for those of its font, and
+    /// where these are smaller its texts must not reach the next column.
+    int WidthInUnits(int listUnit) const
+    {
+        constexpr int kGap = 4;
+        return std::max(Width() * 4 / LOWORD(AfxGetDialogBaseUnits()), (widest + kGap) * 4 / listUnit);
+    }
 };
+
+/// Of a letter, in pixels, as the system reckons it.
+int AverageWidth(CDC& dc)
+{
+    const CString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    return (dc.GetTextExtent(letters).cx / 26 + 1) / 2;
+}
 
 CString TakeColumn(CString& text)
 {
@@ -138,10 +153,10 @@ void CPosSelectDlg::SetTabStops()
         mnemonic.Measure(dc, TakeColumn(text));
         number.Measure(dc, TakeColumn(text));
     }
-    const int unit = LOWORD(AfxGetDialogBaseUnits());
+    const int listUnit = AverageWidth(dc);
     int stops[2];
-    stops[0] = mnemonic.Width() * 4 / unit;
-    stops[1] = stops[0] + number.Width() * 4 / unit;
+    stops[0] = mnemonic.WidthInUnits(listUnit);
+    stops[1] = stops[0] + number.WidthInUnits(listUnit);
     list->SetTabStops(2, stops);
 }
 
