@@ -294,6 +294,34 @@ TEST_F(CPosSelectListTest, HasColumnsAsWideAsTheWidestTextOfTheCatalogue)
     }
 }
 
+// The list draws a stop as so many quarters of the average width of the letters of its font.
+TEST_F(CPosSelectListTest, KeepsItsColumnsApartInEveryLanguage)
+{
+    for (const int language : BuiltLanguages())
+    {
+        SCOPED_TRACE(testing::Message() << "language " << language);
+        m_wizard.SetLanguageInfo(language);
+        const CTabStopWatch watch;
+        Look(0, [&](CDialogRobot& robot) {
+            CWnd* list = robot.Dialog()->GetDlgItem(kList);
+            CClientDC dc(list);
+            CFont* previous = dc.SelectObject(list->GetFont());
+            const CString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+            const int unit = (dc.GetTextExtent(letters).cx / 26 + 1) / 2;
+            const std::vector<int> stops = watch.Of(list->m_hWnd);
+            ASSERT_EQ(stops.size(), 2u);
+            for (const CString& item : robot.Items(kList))
+            {
+                const int first = item.Find('\t');
+                const CString rest = item.Mid(first + 1);
+                EXPECT_LT(dc.GetTextExtent(item.Left(first)).cx, stops[0] * unit / 4) << item;
+                EXPECT_LT(dc.GetTextExtent(rest.Left(rest.Find('\t'))).cx, (stops[1] - stops[0]) * unit / 4) << item;
+            }
+            dc.SelectObject(previous);
+        });
+    }
+}
+
 TEST_F(CPosSelectListTest, HasColumnsInTheTextsOfTheLibrary)
 {
     UseSelectionOnly();
