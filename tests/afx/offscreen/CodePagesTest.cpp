@@ -117,6 +117,14 @@ TEST(CodePagesTest, TheAnsiCodePageIsMeantByItsNumber0)
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
 }
 
+TEST(CodePagesTest, KnowsTheCodePagesThatItConverts)
+{
+    for (const UINT codePage : {874u, 932u, 936u, 949u, 950u, 1252u, 65001u})
+        EXPECT_TRUE(IsValidCodePage(codePage)) << codePage;
+    EXPECT_FALSE(IsValidCodePage(CP_ACP));
+    EXPECT_FALSE(IsValidCodePage(12345));
+}
+
 TEST(CodePagesTest, LengthsAndSizes)
 {
     WCHAR wide[4] = {};
