@@ -165,7 +165,7 @@ BOOL IsDBCSLeadByteEx(UINT codePage, BYTE c)
 BOOL IsValidCodePage(UINT codePage)
 {
     Inside inside;
-    return codePage != CP_ACP && CodePageOf(codePage) != nullptr;
+    return codePage == CP_UTF8 || (codePage != CP_ACP && CodePageOf(codePage) != nullptr);
 }
 
 int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int length, LPWSTR target, int size)

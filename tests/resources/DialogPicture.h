@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "afx/DialogRobot.h"
 #include "tests/resources/LanguageLibrary.h"
+#include "tests/resources/WideResources.h"
 
 struct SPicturedControl
 {
@@ -16,8 +18,9 @@ struct SPicturedControl
     std::string className;
     std::string text;
     DWORD style;
-    RECT rect;     ///< in pixels of the client area
-    int textWidth; ///< of the text as it is drawn: access keys marked, tabs expanded
+    RECT rect;        ///< in pixels of the client area
+    int textWidth;    ///< of the text as it is drawn: access keys marked, tabs expanded
+    std::string name; ///< for messages: its class, id and text
 };
 
 struct SDialogPicture
@@ -28,8 +31,8 @@ struct SDialogPicture
     int width = 0; ///< of the client area, in pixels
     int height = 0;
     int lineHeight = 0; ///< of a line of text
+    SIZE window = {};   ///< with caption and frame
     std::vector<SPicturedControl> controls;
-    std::map<unsigned, std::vector<int>> columnWidths; ///< of the strings asked for: one width, or one for each column
     std::vector<std::string> failures;
 
     const SPicturedControl* Find(unsigned id) const
@@ -41,11 +44,11 @@ struct SDialogPicture
     }
 };
 
-/// Measures texts in the dialogs' font.
+/// Measures texts in a font.
 class CTextRuler
 {
 public:
-    explicit CTextRuler(CWnd* window) : m_dc(window), m_previous(m_dc.SelectObject(window->GetFont())) {}
+    explicit CTextRuler(CFont* font) : m_dc(nullptr), m_previous(m_dc.SelectObject(font)) {}
     ~CTextRuler() { m_dc.SelectObject(m_previous); }
 
     int LineHeight() const { return m_dc.GetTextExtent("X", 1).cy; }
@@ -106,41 +109,57 @@ inline std::vector<std::string> Columns(const std::string& text)
     return columns;
 }
 
-inline void TakePicture(const CDialogRobot& robot, const std::vector<unsigned>& texts, SDialogPicture& picture)
+/// The widths of strings in the dialogs' font: one, or one for each column.
+inline std::map<unsigned, std::vector<int>> ColumnWidths(int language, const std::vector<unsigned>& texts)
+{
+    CLanguage scope(language);
+    const CTextRuler ruler(scope.Wizard().CreateDlgFont(nullptr));
+    std::map<unsigned, std::vector<int>> widths;
+    for (unsigned id : texts)
+        for (const std::string& column : Columns(LoadText(id).value_or("")))
+            widths[id].push_back(ruler.Width(column));
+    return widths;
+}
+
+inline void TakePicture(const CDialogRobot& robot, SDialogPicture& picture)
 {
     CWnd* window = robot.Dialog();
-    const CTextRuler ruler(window);
+    const CTextRuler ruler(window->GetFont());
     CRect client;
+    CRect whole;
     window->GetClientRect(&client);
+    window->GetWindowRect(&whole);
 
     picture.caption = Plain(robot.Caption());
     picture.style = window->GetStyle();
     picture.width = client.Width();
     picture.height = client.Height();
+    picture.window = whole.Size();
     picture.lineHeight = ruler.LineHeight();
     for (const SRobotControl& control : robot.Controls())
     {
         const std::string text = Plain(control.text);
-        picture.controls.push_back({control.id, Plain(control.className), text, control.style, control.rect,
-                                    ruler.DrawnWidth(text, IsPrefixed(control))});
+        const std::string className = Plain(control.className);
+        picture.controls.push_back(
+            {control.id, className, text, control.style, control.rect, ruler.DrawnWidth(text, IsPrefixed(control)),
+             className + " " + std::to_string(control.id) + " \"" + Utf8(FromPage(text, AfxGetTextPage())) + "\""});
     }
-    for (unsigned id : texts)
-        for (const std::string& column : Columns(LoadText(id).value_or("")))
-            picture.columnWidths[id].push_back(ruler.Width(column));
 }
 
-/// Opens the template of the resources in use as a dialog in the dialogs' font, looks at it, measures strings of the
-/// resources in use, and closes it.
-inline SDialogPicture PictureOf(unsigned templateId, const std::vector<unsigned>& texts = {})
+/// Opens a template as a dialog in the dialogs' font, looks at it and closes it.
+inline SDialogPicture TakePictureOf(int language, unsigned templateId)
 {
+    CLanguage scope(language);
     SDialogPicture picture;
-    CFunWizard wizard;
+    picture.language = language;
+    if (!scope.IsLoaded())
+        picture.failures.push_back("there is no language library");
     CDialog dialog(templateId);
     CDialogRobot robot;
     const int result = robot.Play([&] { return static_cast<int>(dialog.DoModal()); }, {[&](CDialogRobot& scene) {
-                                      wizard.CreateDlgFont(scene.Dialog());
-                                      wizard.SetDlgFont(scene.Dialog(), 0, nullptr);
-                                      TakePicture(scene, texts, picture);
+                                      scope.Wizard().CreateDlgFont(scene.Dialog());
+                                      scope.Wizard().SetDlgFont(scene.Dialog(), 0, nullptr);
+                                      TakePicture(scene, picture);
                                       scene.Click(IDCANCEL);
                                   }});
     if (result != IDCANCEL)
@@ -148,4 +167,14 @@ inline SDialogPicture PictureOf(unsigned templateId, const std::vector<unsigned>
     for (const CString& failure : robot.Failures())
         picture.failures.push_back(Plain(failure));
     return picture;
+}
+
+/// The picture of a template in a language, taken once.
+inline const SDialogPicture& PictureOf(int language, unsigned templateId)
+{
+    static std::map<std::pair<int, unsigned>, SDialogPicture> taken;
+    const auto [picture, isNew] = taken.try_emplace({language, templateId});
+    if (isNew)
+        picture->second = TakePictureOf(language, templateId);
+    return picture->second;
 }

@@ -27,6 +27,8 @@ public:
 
     /// False when the language has no library: the resources in use are then the module's.
     bool IsLoaded() const { return m_loaded; }
+    /// A wizard object of that language.
+    CFunWizard& Wizard() { return m_wizard; }
 
 private:
     CFunWizard m_wizard;

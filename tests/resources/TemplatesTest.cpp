@@ -40,11 +40,6 @@ EControl KindOf(const SPicturedControl& control)
     return EControl::Static;
 }
 
-std::string Name(const SPicturedControl& control)
-{
-    return control.className + " " + std::to_string(control.id) + " \"" + control.text + "\"";
-}
-
 bool AreInOneRow(const RECT& a, const RECT& b) { return a.top < b.bottom && b.top < a.bottom; }
 bool Overlap(const RECT& a, const RECT& b) { return AreInOneRow(a, b) && a.left < b.right && b.left < a.right; }
 bool Holds(const RECT& a, const RECT& b)
@@ -100,28 +95,18 @@ class TemplatesTest : public testing::TestWithParam<SExpectedTemplate>
 protected:
     /// Calls look() with the picture of the template in each language there is.
     template <class TLook>
-    static void InEveryLanguage(const std::vector<unsigned>& texts, const std::vector<unsigned>& libraryTexts,
-                                TLook look)
+    static void InEveryLanguage(TLook look)
     {
         for (int language : BuiltLanguages())
         {
             if (language == kModule && GetParam().onlyInLibraries)
                 continue;
             SCOPED_TRACE("language " + std::to_string(language));
-            const CLanguage scope(language);
-            ASSERT_TRUE(scope.IsLoaded());
-            SDialogPicture picture = PictureOf(GetParam().id, language == kModule ? texts : libraryTexts);
-            picture.language = language;
+            const SDialogPicture& picture = PictureOf(language, GetParam().id);
             ASSERT_EQ(picture.failures, std::vector<std::string>());
             ASSERT_FALSE(picture.controls.empty());
             look(picture);
         }
-    }
-
-    template <class TLook>
-    static void InEveryLanguage(TLook look)
-    {
-        InEveryLanguage({}, {}, look);
     }
 };
 
@@ -144,8 +129,7 @@ TEST_P(TemplatesTest, HasItsEnglishTexts)
     {
         if (language == kModule && GetParam().onlyInLibraries)
             continue;
-        const CLanguage scope(language);
-        const SDialogPicture picture = PictureOf(GetParam().id);
+        const SDialogPicture& picture = PictureOf(language, GetParam().id);
         EXPECT_EQ(picture.caption, GetParam().caption);
         const std::vector<SExpectedControl> expected = GetParam().ControlsIn(language != kModule);
         ASSERT_EQ(picture.controls.size(), expected.size());
@@ -169,7 +153,7 @@ TEST_P(TemplatesTest, LetsTheKeyboardReachEveryInput)
     InEveryLanguage([](const SDialogPicture& picture) {
         for (const SPicturedControl& control : picture.controls)
         {
-            EXPECT_EQ((control.style & WS_TABSTOP) != 0, !IsNoInput(control)) << Name(control);
+            EXPECT_EQ((control.style & WS_TABSTOP) != 0, !IsNoInput(control)) << control.name;
         }
     });
 }
@@ -179,17 +163,17 @@ TEST_P(TemplatesTest, KeepsItsControlsInsideAndApart)
     InEveryLanguage([](const SDialogPicture& picture) {
         for (const SPicturedControl& control : picture.controls)
         {
-            EXPECT_GT(Width(control.rect), 0) << Name(control);
-            EXPECT_GT(Height(control.rect), 0) << Name(control);
-            EXPECT_GE(control.rect.left, 0) << Name(control);
-            EXPECT_GE(control.rect.top, 0) << Name(control);
-            EXPECT_LE(control.rect.right, picture.width) << Name(control);
-            EXPECT_LE(control.rect.bottom, picture.height) << Name(control);
+            EXPECT_GT(Width(control.rect), 0) << control.name;
+            EXPECT_GT(Height(control.rect), 0) << control.name;
+            EXPECT_GE(control.rect.left, 0) << control.name;
+            EXPECT_GE(control.rect.top, 0) << control.name;
+            EXPECT_LE(control.rect.right, picture.width) << control.name;
+            EXPECT_LE(control.rect.bottom, picture.height) << control.name;
             for (const SPicturedControl& other : picture.controls)
             {
                 if (&other == &control || IsFrameOf(control, other) || IsFrameOf(other, control))
                     continue;
-                EXPECT_FALSE(Overlap(control.rect, other.rect)) << Name(control) << " and " << Name(other);
+                EXPECT_FALSE(Overlap(control.rect, other.rect)) << control.name << " and " << other.name;
             }
         }
     });
@@ -208,9 +192,9 @@ TEST_P(TemplatesTest, ReadsFromTheTopLeftToTheBottomRight)
             if (control.rect.left >= before.rect.right && control.rect.bottom <= before.rect.top)
                 continue;
             if (AreInOneRow(before.rect, control.rect))
-                EXPECT_GE(control.rect.left, before.rect.right) << Name(before) << ", " << Name(control);
+                EXPECT_GE(control.rect.left, before.rect.right) << before.name << ", " << control.name;
             else
-                EXPECT_GE(control.rect.top, before.rect.bottom) << Name(before) << ", " << Name(control);
+                EXPECT_GE(control.rect.top, before.rect.bottom) << before.name << ", " << control.name;
         }
     });
 }
@@ -220,11 +204,11 @@ TEST_P(TemplatesTest, ShowsEveryTextWhole)
     InEveryLanguage([](const SDialogPicture& picture) {
         for (const SPicturedControl& control : picture.controls)
         {
-            EXPECT_LE(control.textWidth, RoomForText(control)) << Name(control);
+            EXPECT_LE(control.textWidth, RoomForText(control)) << control.name;
             if (!control.text.empty())
             {
                 const auto lines = 1 + std::count(control.text.begin(), control.text.end(), '\n');
-                EXPECT_LE(picture.lineHeight * lines, Height(control.rect)) << Name(control);
+                EXPECT_LE(picture.lineHeight * lines, Height(control.rect)) << control.name;
             }
         }
     });
@@ -233,28 +217,28 @@ TEST_P(TemplatesTest, ShowsEveryTextWhole)
 // Other languages need more room than English.
 TEST_P(TemplatesTest, LeavesRoomForLongerWords)
 {
-    const CLanguage english(kEnglish);
-    for (const SPicturedControl& control : PictureOf(GetParam().id).controls)
-        EXPECT_LE(control.textWidth * 13 / 10, RoomForText(control)) << Name(control);
+    for (const SPicturedControl& control : PictureOf(kEnglish, GetParam().id).controls)
+        EXPECT_LE(control.textWidth * 13 / 10, RoomForText(control)) << control.name;
 }
 
 TEST_P(TemplatesTest, ShowsEveryListItemWhole)
 {
-    std::vector<unsigned> texts;
-    for (const SExpectedItems& items : GetParam().items)
-        texts.insert(texts.end(), items.texts.begin(), items.texts.end());
-    std::vector<unsigned> libraryTexts = texts;
-    for (const SExpectedItems& items : GetParam().itemsOfLibraries)
-        libraryTexts.insert(libraryTexts.end(), items.texts.begin(), items.texts.end());
-
-    InEveryLanguage(texts, libraryTexts, [](const SDialogPicture& picture) {
+    InEveryLanguage([](const SDialogPicture& picture) {
         for (const SExpectedItems& items : GetParam().ItemsIn(picture.language != kModule))
         {
             const SPicturedControl* list = picture.Find(items.combo);
             ASSERT_NE(list, nullptr) << items.combo;
-            for (unsigned text : items.texts)
-                EXPECT_LE(picture.columnWidths.at(text).front(), RoomForItem(*list)) << text << " in " << items.combo;
+            for (const auto& [text, widths] : ColumnWidths(picture.language, items.texts))
+                EXPECT_LE(widths.front(), RoomForItem(*list)) << text << " in " << items.combo;
         }
+    });
+}
+
+TEST_P(TemplatesTest, FitsASmallScreen)
+{
+    InEveryLanguage([](const SDialogPicture& picture) {
+        EXPECT_LE(picture.window.cx, 800);
+        EXPECT_LE(picture.window.cy, 600);
     });
 }
 
@@ -269,10 +253,10 @@ TEST_P(TemplatesTest, GivesEveryAccessKeyOnce)
             const size_t mark = control.text.find('&');
             if (mark == std::string::npos)
                 continue;
-            ASSERT_LT(mark + 1, control.text.size()) << Name(control);
+            ASSERT_LT(mark + 1, control.text.size()) << control.name;
             const char key = static_cast<char>(std::toupper(static_cast<unsigned char>(control.text[mark + 1])));
-            const auto [known, isNew] = keys.emplace(key, Name(control));
-            EXPECT_TRUE(isNew) << known->second << " and " << Name(control);
+            const auto [known, isNew] = keys.emplace(key, control.name);
+            EXPECT_TRUE(isNew) << known->second << " and " << control.name;
         }
     });
 }
@@ -315,7 +299,7 @@ std::vector<unsigned> Ids(unsigned first, unsigned last)
 
 TEST(SelectTemplate, HasAListWithTabStopsAndAReadOnlyExplanation)
 {
-    const SDialogPicture picture = PictureOf(1001);
+    const SDialogPicture& picture = PictureOf(kModule, 1001);
     ASSERT_NE(picture.Find(2001), nullptr);
     ASSERT_NE(picture.Find(2002), nullptr);
     constexpr DWORD kList = LBS_NOTIFY | LBS_USETABSTOPS;
@@ -346,13 +330,12 @@ TEST(SelectTemplate, ShowsItsLongestItemsWhole)
     constexpr int kScrollBarAndEdges = 20 + 4;
     for (int language : BuiltLanguages())
     {
-        const CLanguage scope(language);
         const unsigned last = language == kModule ? 10022 : 10038;
-        const SDialogPicture picture = PictureOf(1001, Ids(10000, last));
+        const SDialogPicture& picture = PictureOf(language, 1001);
         ASSERT_NE(picture.Find(2001), nullptr);
 
         std::vector<int> widths(3);
-        for (const auto& [id, columns] : picture.columnWidths)
+        for (const auto& [id, columns] : ColumnWidths(language, Ids(10000, last)))
         {
             ASSERT_EQ(columns.size(), widths.size()) << id;
             for (size_t i = 0; i < widths.size(); ++i)
@@ -367,7 +350,7 @@ TEST(SelectTemplate, ShowsItsLongestItemsWhole)
 TEST(SelectTemplate, ShowsEveryInstructionOfAFamilyWithoutScrolling)
 {
     constexpr int kMostItems = 11;
-    const SDialogPicture picture = PictureOf(1001);
+    const SDialogPicture& picture = PictureOf(kModule, 1001);
     ASSERT_NE(picture.Find(2001), nullptr);
     EXPECT_GE(Height(picture.Find(2001)->rect), kMostItems * picture.lineHeight + 4);
 }
@@ -378,18 +361,17 @@ TEST(SelectTemplate, ShowsEveryExplanationWithoutScrolling)
     constexpr int kScrollBarAndEdges = 20 + 4;
     for (int language : BuiltLanguages())
     {
-        const CLanguage scope(language);
         std::vector<unsigned> texts = Ids(10001, language == kModule ? 10023 : 10039);
         for (unsigned id : Ids(10501, 10515))
             texts.push_back(id);
         if (language != kModule)
             texts.insert(texts.end(), {22005, 22006, 22007, 22008, 22009});
 
-        const SDialogPicture picture = PictureOf(1001, texts);
+        const SDialogPicture& picture = PictureOf(language, 1001);
         ASSERT_NE(picture.Find(2002), nullptr);
         const RECT& edit = picture.Find(2002)->rect;
         const int lines = (Height(edit) - 4) / picture.lineHeight;
-        for (const auto& [id, columns] : picture.columnWidths)
+        for (const auto& [id, columns] : ColumnWidths(language, texts))
             EXPECT_LE(columns.front(), lines * (Width(edit) - kScrollBarAndEdges) * 4 / 5)
                 << "language " << language << ", text " << id;
     }

@@ -170,42 +170,4 @@ TEST(LibraryTexts, SayWhatIsOutsideItsRange)
     }
 }
 
-// Whatever the language, a format keeps its codes and a list text its columns.
-std::string Codes(const std::string& text)
-{
-    std::string codes;
-    for (size_t i = 0; i < text.size(); ++i)
-    {
-        if (text[i] == '\t' || text[i] == '\n')
-            codes += text[i];
-        else if (text[i] == '%')
-        {
-            const size_t end = text.find_first_of("dfs%", i + 1);
-            codes += text.substr(i, end - i + 1);
-            i = std::min(end, text.size() - 1);
-        }
-    }
-    return codes;
-}
-
-TEST(LibraryTexts, KeepTheirCodesInEveryLanguage)
-{
-    // A per cent sign in a text that is no format is just a character.
-    const std::set<unsigned> noFormats =
-        Union({IdsBetween(11001, 11001), IdsBetween(11041, 11042), ModuleExplanations(), LibraryOnlyExplanations()});
-    for (int language : BuiltLanguages())
-    {
-        if (language == kModule)
-            continue;
-        const Texts texts = AllTexts(language);
-        EXPECT_EQ(IdsOf(texts), IdsOf(LibraryTexts())) << "language " << language;
-        for (const auto& [id, text] : LibraryTexts())
-        {
-            if (noFormats.contains(id))
-                continue;
-            EXPECT_EQ(Codes(TextOf(texts, id)), Codes(text)) << "language " << language << ", text " << id;
-        }
-    }
-}
-
 } // namespace
