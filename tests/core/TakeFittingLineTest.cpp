@@ -30,8 +30,6 @@ void PrintTo(const SBroken& broken, std::ostream* out)
 class TakeFittingLineTest : public ::testing::Test
 {
 protected:
-    ~TakeFittingLineTest() override { UseCodePage(kCodePages[0]); }
-
     SBroken Take(int width, const std::string& text)
     {
         CString rest = text.c_str();
@@ -39,12 +37,7 @@ protected:
         return {static_cast<LPCSTR>(line), static_cast<LPCSTR>(rest)};
     }
 
-    int Width(const std::string& text)
-    {
-        SIZE size = {};
-        ::GetTextExtentPoint32A(m_dc.GetSafeHdc(), text.c_str(), static_cast<int>(text.size()), &size);
-        return size.cx;
-    }
+    int Width(const std::string& text) { return m_dc.GetTextExtent(text.c_str(), static_cast<int>(text.size())).cx; }
 
     /// The text in characters of one or two bytes.
     static std::vector<std::string> Characters(const std::string& text)
@@ -52,7 +45,8 @@ protected:
         std::vector<std::string> characters;
         for (size_t i = 0; i < text.size();)
         {
-            const bool isDouble = ::IsDBCSLeadByte(static_cast<BYTE>(text[i])) && i + 1 < text.size();
+            const bool isDouble =
+                ::IsDBCSLeadByteEx(AfxGetTextPage(), static_cast<BYTE>(text[i])) && i + 1 < text.size();
             characters.push_back(text.substr(i, isDouble ? 2 : 1));
             i += characters.back().size();
         }
@@ -209,7 +203,7 @@ TEST_F(TakeFittingLineTest, AgreesWithTheModelAndLosesNothing)
     const std::string alphabet = "abcdefgWil.,-()  \t\x81\x83\xA0\xE0\xFC";
     for (const unsigned codePage : kCodePages)
     {
-        UseCodePage(codePage);
+        const CTextPage page(codePage);
         for (int round = 0; round < 1000; ++round)
         {
             std::string text = random.From(alphabet, random.Below(60));
@@ -244,9 +238,7 @@ TEST_F(TakeFittingLineTest, ComesToAnEnd)
 
 TEST_F(TakeFittingLineTest, NeverSplitsADoubleByteCharacter)
 {
-    UseCodePage(932);
-    if (!::IsDBCSLeadByte(0x83))
-        GTEST_SKIP() << "code page " << ::GetACP() << " has no double-byte characters";
+    const CTextPage page(932);
     const std::string wide = "\x83\x70\x83\x8B\x83\x58"; // three characters
     const std::string one = wide.substr(0, 2);
     EXPECT_EQ(Take(Width(wide) - 1, wide), (SBroken{wide.substr(0, 4), wide.substr(4)}));
@@ -329,10 +321,9 @@ TEST_F(TakeFittingLineTest, BreaksWhereTheLanguageAllows)
         const std::string fits = Narrow(row.fits);
         const std::string behind = Narrow(row.behind);
         const std::string line = Narrow(row.line);
-        const int width = m_dc.GetTextExtent(fits.c_str(), static_cast<int>(fits.size())).cx;
         SCOPED_TRACE(testing::Message() << "code page " << row.codePage << ", row " << &row - kBreaks);
         const std::string text = fits + behind;
-        EXPECT_EQ(Take(width, text), (SBroken{line, text.substr(line.size())}));
+        EXPECT_EQ(Take(Width(fits), text), (SBroken{line, text.substr(line.size())}));
     }
 }
 
@@ -343,7 +334,7 @@ TEST_F(TakeFittingLineTest, KeepsThaiMarksWithTheirConsonants)
     const std::string text = Narrow(u"ตำแหน่งเป้าหมายที่ตั้งไว้ด้วยพัลส์กำลังส่งเอาต์พุตอยู่");
     const std::string marks = Narrow(u"ะัาำิีึืฺุูๅๆ็่้๊๋์ํ๎");
     const std::string vowels = Narrow(u"เแโใไ");
-    const int widest = m_dc.GetTextExtent(text.c_str(), static_cast<int>(text.size())).cx;
+    const int widest = Width(text);
     for (int width = widest / 8; width < widest; ++width)
     {
         const SBroken broken = Take(width, text);
