@@ -87,5 +87,7 @@ CString LeftWhole(const CString& text, int bytes);
 CString FitEntered(const CString& entered, const CString& before, int bytes);
 
 /// Takes the first line that fits into `width` pixels off `text`, broken after the last blank that fits, or before the
-/// first character that does not fit; "\r\n" always ends a line. At least one character is taken.
+/// first character that does not fit; "\r\n" always ends a line. At least one character is taken. A break before a
+/// character moves a few characters back where East Asian or Thai texts must not be broken: before closing punctuation
+/// or a Thai mark, behind an opening bracket, in a word of another script.
 CString TakeFittingLine(CDC* dc, int width, CString& text);

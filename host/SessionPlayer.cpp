@@ -86,7 +86,10 @@ std::string FileName(const std::string& text)
 }
 } // namespace
 
-CSessionPlayer::CSessionPlayer(std::ostream& report, std::string shots) : m_report(report), m_shots(std::move(shots)) {}
+CSessionPlayer::CSessionPlayer(std::ostream& report, std::string shots, CSessionWatcher* watcher)
+    : m_report(report), m_shots(std::move(shots)), m_watcher(watcher)
+{
+}
 
 bool CSessionPlayer::Play(const SSession& session)
 {
@@ -119,14 +122,17 @@ void CSessionPlayer::PlayRun(const SRun& run)
     m_report << "Result: " << result << '\n';
     ReportFailures(robot, "");
 
-    if (run.wizard == EWizard::ControlCode)
+    const bool fillsLists = run.wizard != EWizard::ControlCode;
+    const int generated = fillsLists ? m_wizard.CreateInstCode() : 0;
+    if (m_watcher != nullptr)
+        m_watcher->SeeRun(m_wizard, result, m_controlCode);
+    if (!fillsLists)
     {
         char code[9];
         std::snprintf(code, sizeof code, "%08X", static_cast<unsigned>(m_controlCode));
         m_report << "Control code: " << code << '\n';
         return;
     }
-    const int generated = m_wizard.CreateInstCode();
     m_report << '\n' << ResultText(m_wizard);
     m_report << "Ladder: " << (generated != 0 ? "complete" : "incomplete") << '\n' << CLadder::Of(m_wizard).Text();
 }
@@ -165,6 +171,8 @@ void CSessionPlayer::PlayDialog(CDialogRobot& robot, const CDialogSteps& steps)
     else
         m_report << "Dialog " << Quoted(Utf8(robot.Caption())) << '\n';
 
+    if (m_watcher != nullptr)
+        m_watcher->SeeDialog(robot);
     for (const SStep& step : steps)
     {
         if (&step == &steps.back())
@@ -173,6 +181,8 @@ void CSessionPlayer::PlayDialog(CDialogRobot& robot, const CDialogSteps& steps)
             SaveShot(robot, step.shot.empty() ? m_captions[&step] : step.shot);
         }
         PlayStep(robot, step);
+        if (m_watcher != nullptr)
+            m_watcher->SeeDialog(robot);
     }
 }
 

@@ -9,13 +9,24 @@
 
 class CDialogRobot;
 
+/// Looks on while a session is played.
+class CSessionWatcher
+{
+public:
+    virtual ~CSessionWatcher() = default;
+    /// A dialog has come up, or a step has been played in it; that may have ended it.
+    virtual void SeeDialog(CDialogRobot& robot) = 0;
+    /// A run has ended with this result; the wizard's lists are complete.
+    virtual void SeeRun(const CFunWizard& wizard, int result, ULONG controlCode) = 0;
+};
+
 class CSessionPlayer
 {
 public:
     /// The report goes to `report`. Unless `shots` is empty, a picture of each dialog is saved just before the step
     /// that closes it, and wherever the session asks for one; `shots` is what the paths of the files start with.
     /// Pictures need windows on a screen.
-    CSessionPlayer(std::ostream& report, std::string shots);
+    CSessionPlayer(std::ostream& report, std::string shots, CSessionWatcher* watcher = nullptr);
 
     /// Plays every run on one wizard object. False when the dialogs did not do as the session said; the reasons are in
     /// the report.
@@ -37,6 +48,7 @@ private:
 
     std::ostream& m_report;
     std::string m_shots;
+    CSessionWatcher* m_watcher;
     int m_shotCount = 0;
     std::map<const SStep*, int> m_selectedItems;
     std::map<const SStep*, std::string> m_captions;

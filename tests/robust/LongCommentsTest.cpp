@@ -3,6 +3,7 @@
 #include "tests/robust/CodePage.h"
 
 #include "host/ResultText.h"
+#include "host/Utf8.h"
 
 #include <string>
 
@@ -29,7 +30,8 @@ protected:
         const SResults results = ReadResults(m_wizard);
         EXPECT_EQ(results.comments.size(), 5u);
         const std::string comment = results.comments.at(kCommentOfInitialSpeed);
-        EXPECT_NE(ResultText(m_wizard).find("   1  " + comment + "\n   2  "), std::string::npos);
+        const std::string shown = ToUtf8(comment.c_str(), m_wizard.GetTextCodePage());
+        EXPECT_NE(ResultText(m_wizard).find("   1  " + shown + "\n   2  "), std::string::npos);
 
         std::string buffer(kLongest + 2, '#');
         EXPECT_EQ(m_wizard.GetCmtInfo(kCommentOfInitialSpeed, buffer.data()), 1);
