@@ -1,0 +1,209 @@
+// That the texts of a language read as written in it: nothing left in English, and its own punctuation.
+#include "tests/resources/KeptWords.h"
+#include "tests/resources/LanguageTest.h"
+
+#include <set>
+#include <span>
+#include <string_view>
+
+namespace
+{
+
+using CTranslationTest = CLanguageTest;
+
+bool IsLetter(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z'); }
+bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
+/// Of a word in a script of Latin letters, accents included.
+bool IsOfWord(char16_t c) { return IsLetter(c) || IsDigit(c) || (c >= 0xC0 && c < 0x250); }
+bool IsIdeographOrKana(char16_t c) { return c >= 0x3040 && c < 0xA000; }
+
+/// The text as it is read: without access keys and directives.
+std::u16string Read(const std::u16string& text)
+{
+    std::u16string read;
+    for (size_t i = 0; i < text.size(); ++i)
+    {
+        if (text[i] == u'(' && text.substr(i + 1, 1) == u"&" && text.substr(i + 3, 1) == u")")
+            i += 3;
+        else if (text[i] == u'%')
+        {
+            const size_t end = text.find_first_not_of(u"0123456789.", i + 1);
+            if (end != std::u16string::npos && std::u16string_view(u"dfs").find(text[end]) != std::u16string_view::npos)
+                i = end;
+        }
+        else if (text[i] != u'&')
+            read += text[i];
+    }
+    return read;
+}
+
+/// The words that begin with a Latin letter.
+std::set<std::string> Words(const std::u16string& text)
+{
+    std::set<std::string> words;
+    const std::u16string read = Read(text);
+    for (size_t i = 0; i < read.size();)
+    {
+        size_t end = i;
+        while (end < read.size() && IsOfWord(read[end]))
+            ++end;
+        // The unit of "100kHz" is a word.
+        while (i < end && IsDigit(read[i]))
+            ++i;
+        if (i < end)
+            words.insert(Utf8(read.substr(i, end - i)));
+        i = end + 1;
+    }
+    return words;
+}
+
+std::vector<std::u16string> Lines(const std::u16string& text)
+{
+    std::vector<std::u16string> lines(1);
+    for (const char16_t c : text)
+    {
+        if (c == u'\n')
+            lines.emplace_back();
+        else
+            lines.back() += c;
+    }
+    return lines;
+}
+
+/// What is left of English in a text. Where letters are Latin, a word of the English text; else any Latin word.
+std::set<std::string> EnglishWords(EScript script, const std::u16string& english, const std::u16string& text)
+{
+    std::set<std::string> words = Words(text);
+    if (script == kLatin)
+    {
+        const std::set<std::string> candidates = Words(english);
+        std::erase_if(words, [&](const std::string& word) { return !candidates.contains(word); });
+    }
+    return words;
+}
+
+bool IsKept(const std::string& word)
+{
+    return std::any_of(std::begin(kKeptWords), std::end(kKeptWords), [&](const SKeptWord& kept) {
+        return word == kept.word && kept.IsKeptIn(CTranslationTest::GetParam());
+    });
+}
+
+constexpr const char* kFontFace = "text 21001";
+
+TEST_P(CTranslationTest, LeavesNothingInEnglish)
+{
+    const std::vector<SPlacedText>& english = TextsIn(kEnglish);
+    const std::vector<SPlacedText>& texts = TextsIn(GetParam().index);
+    for (size_t i = 0; i < texts.size(); ++i)
+    {
+        if (texts[i].place == kFontFace)
+            continue;
+        for (const std::string& word : EnglishWords(GetParam().script, english[i].text, texts[i].text))
+            EXPECT_TRUE(IsKept(word)) << word << " in " << texts[i].place << ": " << Utf8(texts[i].text);
+    }
+}
+
+TEST_P(CTranslationTest, HasNoBlankTooMany)
+{
+    ForEachText([](const std::u16string& english, const std::u16string& text) {
+        for (const std::u16string_view wrong : {u"  ", u" :", u" ;", u" ,", u" .", u" )", u"( ", u" \t", u"\t ", u" \n",
+                                                u"\n ", u"\u3000\u3000", u"\u00A0"})
+            EXPECT_EQ(text.find(wrong), std::u16string::npos) << "\"" << Utf8(std::u16string(wrong)) << "\"";
+        if (text.empty() || text == english) // what is the same everywhere may stand behind something
+            return;
+        EXPECT_NE(text.front(), u' ');
+        EXPECT_NE(text.back(), u' ');
+    });
+}
+
+TEST_P(CTranslationTest, OpensWhatItCloses)
+{
+    constexpr std::u16string_view kPairs[] = {u"()",           u"[]",           u"\uFF08\uFF09", u"\u300C\u300D",
+                                              u"\u300E\u300F", u"\u3010\u3011", u"\u00BF?",      u"\u00A1!",
+                                              u"\u00AB\u00BB", u"\u201C\u201D"};
+    const bool marksOpen = GetParam().language == 0xC0A;
+    ForEachText([=](const std::u16string&, const std::u16string& text) {
+        for (const std::u16string_view pair : kPairs)
+            if (marksOpen || (pair[1] != u'?' && pair[1] != u'!'))
+                EXPECT_EQ(std::count(text.begin(), text.end(), pair[0]), std::count(text.begin(), text.end(), pair[1]))
+                    << Utf8(std::u16string(pair));
+    });
+}
+
+bool IsMessage(const std::string& place) { return place.starts_with("text 20"); }
+
+// The lines of a message are sentences, but those that give a number.
+TEST_P(CTranslationTest, EndsTheSentencesOfItsMessages)
+{
+    const std::u16string stop = GetParam().fullStop;
+    for (const SPlacedText& message : TextsIn(GetParam().index))
+    {
+        if (!IsMessage(message.place))
+            continue;
+        SCOPED_TRACE(message.place + ": " + Utf8(message.text));
+        for (const std::u16string& line : Lines(message.text))
+            if (!line.ends_with(u"%d"))
+                EXPECT_TRUE(stop.empty() ? !line.ends_with(u'.') : line.ends_with(stop)) << Utf8(line);
+    }
+}
+
+// Punctuation between ideographs has their width; half the width is for numbers and Latin words.
+TEST_P(CTranslationTest, PutsWidePunctuationBehindIdeographs)
+{
+    ForEachText([](const std::u16string&, const std::u16string& text) {
+        for (size_t i = 1; i < text.size(); ++i)
+        {
+            if (std::u16string_view(u",.;:!?").find(text[i]) != std::u16string_view::npos)
+                EXPECT_FALSE(IsIdeographOrKana(text[i - 1]));
+        }
+    });
+}
+
+TEST_P(CTranslationTest, HasNoOddCharacters)
+{
+    ForEachText([](const std::u16string&, const std::u16string& text) {
+        for (const char16_t c : text)
+        {
+            EXPECT_TRUE(c >= u' ' || c == u'\t' || c == u'\n') << "control character " << static_cast<int>(c);
+            EXPECT_FALSE(c >= 0xFF61 && c <= 0xFF9F) << "katakana of half the width";
+            EXPECT_FALSE(c >= 0xFF10 && c <= 0xFF19) << "digit of double width";
+            EXPECT_FALSE((c >= 0xFF21 && c <= 0xFF3A) || (c >= 0xFF41 && c <= 0xFF5A)) << "letter of double width";
+        }
+    });
+}
+
+constexpr std::span kTranslations = std::span(kExpectedLanguages).subspan(1); // English is the original
+
+INSTANTIATE_TEST_SUITE_P(Languages, CTranslationTest, testing::ValuesIn(kTranslations), NameOf);
+
+/// All that a translation keeps.
+std::set<std::string> WordsKeptIn(const SExpectedLanguage& language)
+{
+    const std::vector<SPlacedText>& english = TextsIn(kEnglish);
+    const std::vector<SPlacedText>& texts = TextsIn(language.index);
+    std::set<std::string> kept;
+    for (size_t i = 0; i < texts.size(); ++i)
+        kept.merge(EnglishWords(language.script, english[i].text, texts[i].text));
+    return kept;
+}
+
+// A word that no translation keeps any more leaves the list.
+TEST(KeptWords, AreAllNeeded)
+{
+    std::map<std::string, std::set<std::string>> keptIn;
+    for (const SExpectedLanguage& language : kTranslations)
+        keptIn.emplace(language.name, WordsKeptIn(language));
+    for (const SKeptWord& word : kKeptWords)
+    {
+        const auto keepsIt = [&](const SExpectedLanguage& language) {
+            return keptIn[language.name].contains(word.word);
+        };
+        EXPECT_TRUE(std::any_of(kTranslations.begin(), kTranslations.end(), keepsIt)) << word.word;
+        for (const SExpectedLanguage& language : kTranslations)
+            if (*word.onlyIn != '\0' && word.IsKeptIn(language))
+                EXPECT_TRUE(keepsIt(language)) << word.word << " in " << language;
+    }
+}
+
+} // namespace
