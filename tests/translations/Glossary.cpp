@@ -65,7 +65,7 @@ SGlossary ReadGlossary(std::istream& page, const std::string& language)
         if (cells.empty())
             table = kOther;
         else if (table == kTerms && !IsRule(cells))
-            glossary.terms.push_back({FromPage(cells[0], CP_UTF8), Parts(cells.at(column))});
+            glossary.terms.push_back({Parts(cells[0]), Parts(cells.at(column))});
         else if (table == kAmbiguous && !IsRule(cells))
             glossary.ambiguous.insert(FromPage(cells[0], CP_UTF8));
         else if (cells[0] == "English")

@@ -6,10 +6,11 @@
 #include <string>
 #include <vector>
 
-/// A term in English and the forms that it has in a language: as a whole, shortened, inflected.
+/// A term in English, which may have several names, and the forms that it has in a language: as a whole, shortened,
+/// inflected.
 struct STerm
 {
-    std::u16string english;
+    std::vector<std::u16string> english;
     std::vector<std::u16string> forms;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace
 {
@@ -37,26 +38,30 @@ size_t FindTerm(const std::u16string& text, const std::u16string& term, size_t s
     return std::u16string::npos;
 }
 
-/// The terms of an English text, the longest where several begin or end in one another.
-std::vector<const STerm*> TermsIn(const std::u16string& english, const std::vector<STerm>& terms)
+struct SName
 {
-    std::vector<const STerm*> byLength;
-    for (const STerm& term : terms)
-        byLength.push_back(&term);
-    std::stable_sort(byLength.begin(), byLength.end(),
-                     [](const STerm* a, const STerm* b) { return a->english.size() > b->english.size(); });
+    std::u16string text;
+    const STerm* term;
+};
 
-    std::vector<const STerm*> found;
+/// The terms of an English text, the longest where several begin or end in one another.
+std::set<const STerm*> TermsIn(const std::u16string& english, const std::vector<STerm>& terms)
+{
+    std::vector<SName> names;
+    for (const STerm& term : terms)
+        for (const std::u16string& name : term.english)
+            names.push_back({Plain(name), &term});
+    std::stable_sort(names.begin(), names.end(),
+                     [](const SName& a, const SName& b) { return a.text.size() > b.text.size(); });
+
+    std::set<const STerm*> found;
     std::u16string rest = Plain(english);
-    for (const STerm* term : byLength)
-    {
-        const std::u16string name = Plain(term->english);
-        bool isThere = false;
-        for (size_t at = 0; (at = FindTerm(rest, name, at)) != std::u16string::npos; isThere = true)
-            rest.replace(at, name.size(), name.size(), u'\n');
-        if (isThere)
-            found.push_back(term);
-    }
+    for (const SName& name : names)
+        for (size_t at = 0; (at = FindTerm(rest, name.text, at)) != std::u16string::npos;)
+        {
+            rest.replace(at, name.text.size(), name.text.size(), u'\n');
+            found.insert(name.term);
+        }
     return found;
 }
 
@@ -111,8 +116,8 @@ std::vector<SFinding> CheckTexts(const std::vector<SPlacedText>& english, const 
                                 Pair(placed.text, text) + ", elsewhere \"" + Utf8(first->second) + "\""});
         for (const STerm* term : TermsIn(placed.text, glossary.terms))
             if (isNew && !HasForm(text, *term))
-                findings.push_back(
-                    {EFinding::Term, placed.place, Pair(placed.text, text) + ", term \"" + Utf8(term->english) + "\""});
+                findings.push_back({EFinding::Term, placed.place,
+                                    Pair(placed.text, text) + ", term \"" + Utf8(term->english.front()) + "\""});
     }
     for (const SPlacedText& text : texts)
         if (translated.contains(text.place))
