@@ -60,13 +60,21 @@ CWideText::CWideText(LPCSTR text, int length, UINT page)
 
 // ---- Narrow texts ---------------------------------------------------------------------------------------------------
 
+// No other character than the one entered, however alike: what the page lacks becomes a question mark, which no entry
+// takes. UTF-8 lacks nothing and knows no such flag.
+static DWORD NarrowFlags(UINT page)
+{
+    const UINT number = page == CP_ACP ? ::GetACP() : page;
+    return number == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
+}
+
 CString AfxNarrow(LPCWSTR text, int length, UINT page)
 {
     constexpr int kMostBytes = 3; // of a character: the system's page may be UTF-8
     CString narrow;
     const int capacity = length * kMostBytes;
-    const int used = length > 0 ? ::WideCharToMultiByte(page, 0, text, length, narrow.GetBuffer(capacity), capacity,
-                                                        nullptr, nullptr)
+    const int used = length > 0 ? ::WideCharToMultiByte(page, NarrowFlags(page), text, length,
+                                                        narrow.GetBuffer(capacity), capacity, nullptr, nullptr)
                                 : 0;
     narrow.ReleaseBuffer(used);
     return narrow;
@@ -74,12 +82,13 @@ CString AfxNarrow(LPCWSTR text, int length, UINT page)
 
 int AfxNarrow(LPCWSTR text, int length, LPSTR buffer, int size)
 {
+    const DWORD flags = NarrowFlags(textPage);
     int used = 0;
     for (int i = 0; i < length; ++i)
     {
         char character[4];
         const int bytes =
-            ::WideCharToMultiByte(textPage, 0, text + i, 1, character, sizeof character, nullptr, nullptr);
+            ::WideCharToMultiByte(textPage, flags, text + i, 1, character, sizeof character, nullptr, nullptr);
         if (used + bytes >= size)
             break;
         std::memcpy(buffer + used, character, bytes);
