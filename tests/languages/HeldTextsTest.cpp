@@ -20,32 +20,12 @@ namespace
 /// The code page that a run on the system of a country is to find; null in other runs.
 const char* SystemAskedFor() { return std::getenv("PEXLO_CODE_PAGE"); }
 
-struct SSystem
-{
-    STranslation translation;
-    unsigned page;
-};
-
-std::ostream& operator<<(std::ostream& out, const SSystem& row)
-{
-    return out << row.translation << " on code page " << row.page;
-}
-
-std::vector<SSystem> Systems()
-{
-    std::vector<SSystem> rows;
-    for (const STranslation& translation : kTranslations)
-        for (const unsigned page : SystemPages(translation))
-            rows.push_back({translation, page});
-    return rows;
-}
-
 void WithoutEmpty(std::vector<std::string>& texts)
 {
     std::erase_if(texts, [](const std::string& text) { return text.empty(); });
 }
 
-class CHeldTextsTest : public CDesktopTest, public testing::WithParamInterface<SSystem>
+class CHeldTextsTest : public CDesktopTest, public testing::WithParamInterface<SLanguageOnSystem>
 {
 protected:
     CHeldTextsTest()
@@ -86,6 +66,31 @@ protected:
              }});
         EXPECT_GT(count, 0) << "no text of the language";
     }
+
+    /// No line begins with closing punctuation or a Thai mark, none ends with what opens or goes before.
+    static void ExpectAllowedBreaks(const std::string& lines)
+    {
+        const auto isOneOf = [](const std::vector<std::string>& characters, const auto& isAt) {
+            return std::any_of(characters.begin(), characters.end(), isAt);
+        };
+        const std::vector<std::string> neverFirst = {"、", "。", "，", "．", "；", "：", "？", "！", "）", "」",
+                                                     "』", "】", "〉", "》", "”",  "’",  "ー", ")",  ",",  ".",
+                                                     ":",  ";",  "ะ",  "ั",   "า",  "ำ",  "ิ",   "ี",   "ึ",   "ื",
+                                                     "ุ",   "ู",   "็",   "่",   "้",   "๊",   "๋",   "์",   "ๆ"};
+        const std::vector<std::string> neverLast = {"（", "「", "『", "【", "〈", "《", "“",
+                                                    "‘",  "(",  "เ",  "แ",  "โ",  "ใ",  "ไ"};
+        for (size_t at = 0; (at = lines.find("\r\n", at)) != std::string::npos; at += 2)
+        {
+            const std::string before = lines.substr(0, at);
+            const std::string after = lines.substr(at + 2);
+            EXPECT_FALSE(isOneOf(neverFirst, [&](const std::string& c) { return after.starts_with(c); })) << lines;
+            EXPECT_FALSE(isOneOf(neverLast, [&](const std::string& c) { return before.ends_with(c); })) << lines;
+            EXPECT_FALSE(!before.empty() && IsLetter(before.back()) && !after.empty() && IsLetter(after.front()))
+                << lines;
+        }
+    }
+
+    static bool IsLetter(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
     static std::string ToUtf8(const CString& text)
     {
@@ -160,6 +165,7 @@ TEST_P(CHeldTextsTest, OfTheSelection)
                      SCOPED_TRACE(testing::Message() << "mode " << +mode << ", item " << item);
                      dialog.Select(IDC_SELECT_LIST, item);
                      texts += ExpectKnownTexts(dialog);
+                     ExpectAllowedBreaks(ToUtf8(dialog.Text(IDC_SELECT_EXPLANATION)));
                  }
                  dialog.Click(IDCANCEL);
              }});
@@ -167,9 +173,8 @@ TEST_P(CHeldTextsTest, OfTheSelection)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Systems, CHeldTextsTest, testing::ValuesIn(Systems()), [](const auto& test) {
-    return std::string(test.param.translation.name) + '_' + std::to_string(test.param.page);
-});
+INSTANTIATE_TEST_SUITE_P(Systems, CHeldTextsTest, testing::ValuesIn(LanguagesOnSystems()),
+                         [](const auto& test) { return NameOf(test.param); });
 
 // For runs on the system of a country: without it those above would be silent about another one.
 TEST(HeldTextsTest, AreThoseOfTheSystemThatWasAskedFor)
