@@ -1,6 +1,7 @@
 // Whatever the code page of the system is, the windows of every dialog hold the texts of the language exactly.
 #include "tests/languages/HeldTexts.h"
 #include "tests/languages/KnownTexts.h"
+#include "tests/languages/LineBreaks.h"
 #include "tests/languages/Translations.h"
 
 #include "tests/dialogs/InstructionDialogs.h"
@@ -66,31 +67,6 @@ protected:
              }});
         EXPECT_GT(count, 0) << "no text of the language";
     }
-
-    /// No line begins with closing punctuation or a Thai mark, none ends with what opens or goes before.
-    static void ExpectAllowedBreaks(const std::string& lines)
-    {
-        const auto isOneOf = [](const std::vector<std::string>& characters, const auto& isAt) {
-            return std::any_of(characters.begin(), characters.end(), isAt);
-        };
-        const std::vector<std::string> neverFirst = {"、", "。", "，", "．", "；", "：", "？", "！", "）", "」",
-                                                     "』", "】", "〉", "》", "”",  "’",  "ー", ")",  ",",  ".",
-                                                     ":",  ";",  "ะ",  "ั",   "า",  "ำ",  "ิ",   "ี",   "ึ",   "ื",
-                                                     "ุ",   "ู",   "็",   "่",   "้",   "๊",   "๋",   "์",   "ๆ"};
-        const std::vector<std::string> neverLast = {"（", "「", "『", "【", "〈", "《", "“",
-                                                    "‘",  "(",  "เ",  "แ",  "โ",  "ใ",  "ไ"};
-        for (size_t at = 0; (at = lines.find("\r\n", at)) != std::string::npos; at += 2)
-        {
-            const std::string before = lines.substr(0, at);
-            const std::string after = lines.substr(at + 2);
-            EXPECT_FALSE(isOneOf(neverFirst, [&](const std::string& c) { return after.starts_with(c); })) << lines;
-            EXPECT_FALSE(isOneOf(neverLast, [&](const std::string& c) { return before.ends_with(c); })) << lines;
-            EXPECT_FALSE(!before.empty() && IsLetter(before.back()) && !after.empty() && IsLetter(after.front()))
-                << lines;
-        }
-    }
-
-    static bool IsLetter(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
     static std::string ToUtf8(const CString& text)
     {
