@@ -14,6 +14,10 @@ int Length(LPCSTR text) { return text ? static_cast<int>(std::strlen(text)) : 0;
 
 LPWSTR IntResource(UINT id) { return reinterpret_cast<LPWSTR>(static_cast<UINT_PTR>(id)); }
 
+// So that a character which the page lacks becomes a question mark, not another one that looks like it: a digit of full
+// width is no digit. UTF-8 lacks none, and takes no flags.
+DWORD NarrowingFlags(UINT page) { return (page == CP_ACP ? ::GetACP() : page) == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS; }
+
 BOOL CALLBACK TakeLanguage(HMODULE, LPCWSTR, LPCWSTR, WORD language, LONG_PTR taken)
 {
     *reinterpret_cast<WORD*>(taken) = language;
@@ -60,20 +64,12 @@ CWideText::CWideText(LPCSTR text, int length, UINT page)
 
 // ---- Narrow texts ---------------------------------------------------------------------------------------------------
 
-// No other character than the one entered, however alike: what the page lacks becomes a question mark, which no entry
-// takes. UTF-8 lacks nothing and knows no such flag.
-static DWORD NarrowFlags(UINT page)
-{
-    const UINT number = page == CP_ACP ? ::GetACP() : page;
-    return number == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
-}
-
 CString AfxNarrow(LPCWSTR text, int length, UINT page)
 {
     constexpr int kMostBytes = 3; // of a character: the system's page may be UTF-8
     CString narrow;
     const int capacity = length * kMostBytes;
-    const int used = length > 0 ? ::WideCharToMultiByte(page, NarrowFlags(page), text, length,
+    const int used = length > 0 ? ::WideCharToMultiByte(page, NarrowingFlags(page), text, length,
                                                         narrow.GetBuffer(capacity), capacity, nullptr, nullptr)
                                 : 0;
     narrow.ReleaseBuffer(used);
@@ -82,7 +78,7 @@ CString AfxNarrow(LPCWSTR text, int length, UINT page)
 
 int AfxNarrow(LPCWSTR text, int length, LPSTR buffer, int size)
 {
-    const DWORD flags = NarrowFlags(textPage);
+    const DWORD flags = NarrowingFlags(textPage);
     int used = 0;
     for (int i = 0; i < length; ++i)
     {

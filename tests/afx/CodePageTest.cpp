@@ -155,7 +155,9 @@ TEST_P(CPageTest, EndsTextsThatAreNotOfThePage)
         EXPECT_LE(wide.GetLength(), static_cast<int>(std::strlen(invalid)));
         EXPECT_EQ(static_cast<LPCWSTR>(wide)[wide.GetLength()], 0);
         if (invalid[0] == 'a')
+        {
             EXPECT_EQ(static_cast<LPCWSTR>(wide)[0], static_cast<WCHAR>('a'));
+        }
     }
 }
 

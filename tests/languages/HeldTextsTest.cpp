@@ -1,6 +1,7 @@
 // Whatever the code page of the system is, the windows of every dialog hold the texts of the language exactly.
 #include "tests/languages/HeldTexts.h"
 #include "tests/languages/KnownTexts.h"
+#include "tests/languages/LineBreaks.h"
 #include "tests/languages/Translations.h"
 
 #include "tests/dialogs/InstructionDialogs.h"
@@ -20,32 +21,12 @@ namespace
 /// The code page that a run on the system of a country is to find; null in other runs.
 const char* SystemAskedFor() { return std::getenv("PEXLO_CODE_PAGE"); }
 
-struct SSystem
-{
-    STranslation translation;
-    unsigned page;
-};
-
-std::ostream& operator<<(std::ostream& out, const SSystem& row)
-{
-    return out << row.translation << " on code page " << row.page;
-}
-
-std::vector<SSystem> Systems()
-{
-    std::vector<SSystem> rows;
-    for (const STranslation& translation : kTranslations)
-        for (const unsigned page : SystemPages(translation))
-            rows.push_back({translation, page});
-    return rows;
-}
-
 void WithoutEmpty(std::vector<std::string>& texts)
 {
     std::erase_if(texts, [](const std::string& text) { return text.empty(); });
 }
 
-class CHeldTextsTest : public CDesktopTest, public testing::WithParamInterface<SSystem>
+class CHeldTextsTest : public CDesktopTest, public testing::WithParamInterface<SLanguageOnSystem>
 {
 protected:
     CHeldTextsTest()
@@ -160,6 +141,7 @@ TEST_P(CHeldTextsTest, OfTheSelection)
                      SCOPED_TRACE(testing::Message() << "mode " << +mode << ", item " << item);
                      dialog.Select(IDC_SELECT_LIST, item);
                      texts += ExpectKnownTexts(dialog);
+                     ExpectAllowedBreaks(ToUtf8(dialog.Text(IDC_SELECT_EXPLANATION)));
                  }
                  dialog.Click(IDCANCEL);
              }});
@@ -167,9 +149,8 @@ TEST_P(CHeldTextsTest, OfTheSelection)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Systems, CHeldTextsTest, testing::ValuesIn(Systems()), [](const auto& test) {
-    return std::string(test.param.translation.name) + '_' + std::to_string(test.param.page);
-});
+INSTANTIATE_TEST_SUITE_P(Systems, CHeldTextsTest, testing::ValuesIn(LanguagesOnSystems()),
+                         [](const auto& test) { return NameOf(test.param); });
 
 // For runs on the system of a country: without it those above would be silent about another one.
 TEST(HeldTextsTest, AreThoseOfTheSystemThatWasAskedFor)

@@ -36,7 +36,10 @@ public:
     {
         SResults results = ReadResults(wizard);
         for (std::string& comment : results.comments)
+        {
+            m_seen.comments.push_back(ToUtf8(comment.c_str(), wizard.GetTextCodePage()));
             comment.clear(); // what counts is how many there are
+        }
         m_log << "result " << result << ", control code " << controlCode << '\n'
               << results << CLadder::Of(wizard).Text();
         m_boxes = 0; // the robot of the next run counts its own

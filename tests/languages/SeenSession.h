@@ -19,6 +19,7 @@ struct SSeenSession
     /// After every step the focus, the selection, and the state of each control; after every run the lists.
     std::string log;
     std::vector<SSeenMessage> messages;
+    std::vector<std::string> comments; ///< as UTF-8
 };
 
 /// Plays a session and looks on. Natively at every control of every dialog after every step; elsewhere, where that

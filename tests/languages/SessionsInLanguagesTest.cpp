@@ -1,4 +1,5 @@
 // Every recorded session in every language: the dialogs do, refuse and confirm as they do in English.
+#include "tests/languages/KnownTexts.h"
 #include "tests/languages/SeenSession.h"
 #include "tests/languages/Translations.h"
 #include "tests/robust/CodePage.h"
@@ -27,14 +28,13 @@ std::vector<std::string> SessionNames()
 
 struct STranslatedSession
 {
-    STranslation translation;
-    unsigned page; ///< of the system
+    SLanguageOnSystem language;
     std::string name;
 };
 
 std::ostream& operator<<(std::ostream& out, const STranslatedSession& row)
 {
-    return out << row.translation << ' ' << row.name << " on code page " << row.page;
+    return out << row.name << " in " << row.language;
 }
 
 // All of them; or as a sample a third of the sessions in each language, another one in the next.
@@ -43,14 +43,9 @@ std::vector<STranslatedSession> TranslatedSessions()
     const std::vector<std::string> names = SessionNames();
     const size_t every = IsThorough() ? 1 : 3;
     std::vector<STranslatedSession> rows;
-    size_t first = 0;
-    for (const STranslation& translation : kTranslations)
-    {
-        for (const unsigned page : SystemPages(translation))
-            for (size_t i = first % every; i < names.size(); i += every)
-                rows.push_back({translation, page, names[i]});
-        ++first;
-    }
+    for (const SLanguageOnSystem& language : LanguagesOnSystems())
+        for (size_t i = static_cast<size_t>(language.translation.index) % every; i < names.size(); i += every)
+            rows.push_back({language, names[i]});
     return rows;
 }
 
@@ -74,15 +69,34 @@ const SEnglishSession& InEnglish(const std::string& name)
     return row->second;
 }
 
+const CKnownTexts& KnownTexts(int language)
+{
+    static std::map<int, CKnownTexts> known;
+    const auto row = known.find(language);
+    return row != known.end() ? row->second : known.try_emplace(language, CLibraryTexts(language)).first->second;
+}
+
 class CSessionsInLanguagesTest : public CDesktopTest, public testing::WithParamInterface<STranslatedSession>
 {
 protected:
     ~CSessionsInLanguagesTest() override { UseCodePage(kWesternPage); }
 
+    /// Whether a comment is made from one text of the language, or from two with a blank between.
+    static bool IsComment(const std::string& text)
+    {
+        const CKnownTexts& known = KnownTexts(GetParam().language.translation.index);
+        if (known.Contains(text))
+            return true;
+        for (size_t blank = text.find(' '); blank != std::string::npos; blank = text.find(' ', blank + 1))
+            if (known.Contains(text.substr(0, blank)) && known.Contains(text.substr(blank + 1)))
+                return true;
+        return false;
+    }
+
     void ExpectSameMessages(const std::vector<SSeenMessage>& shown, const std::vector<SSeenMessage>& english)
     {
         ASSERT_EQ(shown.size(), english.size());
-        const CLibraryTexts texts(GetParam().translation.index);
+        const CLibraryTexts texts(GetParam().language.translation.index);
         const CLibraryTexts englishTexts(0);
         for (size_t i = 0; i < shown.size(); ++i)
         {
@@ -100,21 +114,22 @@ TEST_P(CSessionsInLanguagesTest, PlayAsInEnglish)
     const SEnglishSession& english = InEnglish(GetParam().name);
     ASSERT_TRUE(english.seen.success) << english.seen.report;
 
-    UseCodePage(GetParam().page);
-    ASSERT_EQ(::GetACP(), GetParam().page);
+    UseCodePage(GetParam().language.page);
+    ASSERT_EQ(::GetACP(), GetParam().language.page);
     SSession session = english.session;
-    session.language = GetParam().translation.index;
+    session.language = GetParam().language.translation.index;
     const SSeenSession seen = SeeSession(session);
     EXPECT_TRUE(seen.success) << seen.report;
     EXPECT_EQ(seen.log, english.seen.log);
     EXPECT_NE(seen.report, english.seen.report) << "played in English";
     ExpectSameMessages(seen.messages, english.seen.messages);
+    for (const std::string& comment : seen.comments)
+        EXPECT_TRUE(IsComment(comment)) << comment;
 }
 
 INSTANTIATE_TEST_SUITE_P(Sessions, CSessionsInLanguagesTest, testing::ValuesIn(TranslatedSessions()),
                          [](const auto& test) {
-                             std::string name = std::string(test.param.translation.name) + '_' +
-                                                std::to_string(test.param.page) + '_' + test.param.name;
+                             std::string name = NameOf(test.param.language) + '_' + test.param.name;
                              std::replace(name.begin(), name.end(), '-', '_');
                              return name;
                          });

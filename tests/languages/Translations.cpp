@@ -25,6 +25,15 @@ std::vector<unsigned> SystemPages(const STranslation& translation)
     return pages.empty() ? std::vector<unsigned>{system} : pages;
 }
 
+std::vector<SLanguageOnSystem> LanguagesOnSystems()
+{
+    std::vector<SLanguageOnSystem> rows;
+    for (const STranslation& translation : kTranslations)
+        for (const unsigned page : SystemPages(translation))
+            rows.push_back({translation, page});
+    return rows;
+}
+
 std::string Utf8(LPCWSTR text, int length) { return static_cast<LPCSTR>(AfxNarrow(text, length, CP_UTF8)); }
 
 CLibraryTexts::CLibraryTexts(int language)

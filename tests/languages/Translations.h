@@ -29,6 +29,27 @@ inline constexpr unsigned kWesternPage = 1252;
 /// that there is.
 std::vector<unsigned> SystemPages(const STranslation& translation);
 
+/// A language on a system.
+struct SLanguageOnSystem
+{
+    STranslation translation;
+    unsigned page; ///< of the system
+};
+
+inline std::ostream& operator<<(std::ostream& out, const SLanguageOnSystem& row)
+{
+    return out << row.translation << " on code page " << row.page;
+}
+
+/// Every language on every system that it can be tried on.
+std::vector<SLanguageOnSystem> LanguagesOnSystems();
+
+/// The name of a test's parameter.
+inline std::string NameOf(const SLanguageOnSystem& row)
+{
+    return std::string(row.translation.name) + '_' + std::to_string(row.page);
+}
+
 /// A wide text, exactly, as UTF-8.
 std::string Utf8(LPCWSTR text, int length);
 

@@ -163,7 +163,9 @@ TEST_P(CLanguageResourcesTest, TranslateTheLastColumnOfTheSelectionListAlone)
 {
     ForEachText([](const std::u16string& english, const std::u16string& text) {
         if (std::count(english.begin(), english.end(), u'\t') == 2)
+        {
             EXPECT_EQ(Utf8(text.substr(0, text.rfind(u'\t'))), Utf8(english.substr(0, english.rfind(u'\t'))));
+        }
     });
 }
 

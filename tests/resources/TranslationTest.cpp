@@ -1,4 +1,5 @@
 // That the texts of a language read as written in it: nothing left in English, and its own punctuation.
+#include "tests/resources/DialogPicture.h"
 #include "tests/resources/KeptWords.h"
 #include "tests/resources/LanguageTest.h"
 
@@ -57,18 +58,20 @@ std::set<std::string> Words(const std::u16string& text)
     return words;
 }
 
-std::vector<std::u16string> Lines(const std::u16string& text)
+std::vector<std::u16string> Parts(const std::u16string& text, char16_t separator)
 {
-    std::vector<std::u16string> lines(1);
+    std::vector<std::u16string> parts(1);
     for (const char16_t c : text)
     {
-        if (c == u'\n')
-            lines.emplace_back();
+        if (c == separator)
+            parts.emplace_back();
         else
-            lines.back() += c;
+            parts.back() += c;
     }
-    return lines;
+    return parts;
 }
+
+std::vector<std::u16string> Lines(const std::u16string& text) { return Parts(text, u'\n'); }
 
 /// What is left of English in a text. Where letters are Latin, a word of the English text; else any Latin word.
 std::set<std::string> EnglishWords(EScript script, const std::u16string& english, const std::u16string& text)
@@ -126,8 +129,10 @@ TEST_P(CTranslationTest, OpensWhatItCloses)
     ForEachText([=](const std::u16string&, const std::u16string& text) {
         for (const std::u16string_view pair : kPairs)
             if (marksOpen || (pair[1] != u'?' && pair[1] != u'!'))
+            {
                 EXPECT_EQ(std::count(text.begin(), text.end(), pair[0]), std::count(text.begin(), text.end(), pair[1]))
                     << Utf8(std::u16string(pair));
+            }
     });
 }
 
@@ -144,8 +149,27 @@ TEST_P(CTranslationTest, EndsTheSentencesOfItsMessages)
         SCOPED_TRACE(message.place + ": " + Utf8(message.text));
         for (const std::u16string& line : Lines(message.text))
             if (!line.ends_with(u"%d"))
+            {
                 EXPECT_TRUE(stop.empty() ? !line.ends_with(u'.') : line.ends_with(stop)) << Utf8(line);
+            }
     }
+}
+
+// A message box breaks lines at blanks alone in some systems; what has none must fit one on a screen of 800 pixels, of
+// which it takes five eighths, beside its icon.
+TEST_P(CTranslationTest, NeedsNoBreakInAMessageWhereThereIsNoBlank)
+{
+    constexpr int kRoom = 800 * 5 / 8 - 80;
+    CLanguage scope(GetParam().index);
+    const CTextRuler ruler(scope.Wizard().CreateDlgFont(nullptr));
+    for (const SPlacedText& message : TextsIn(GetParam().index))
+        if (IsMessage(message.place))
+        {
+            for (const std::u16string& line : Lines(message.text))
+                for (const std::u16string& piece : Parts(line, u' '))
+                    EXPECT_LE(ruler.Width(InPage(piece, AfxGetTextPage())), kRoom)
+                        << message.place << ": " << Utf8(piece);
+        }
 }
 
 // Punctuation between ideographs has their width; half the width is for numbers and Latin words.
@@ -155,7 +179,9 @@ TEST_P(CTranslationTest, PutsWidePunctuationBehindIdeographs)
         for (size_t i = 1; i < text.size(); ++i)
         {
             if (std::u16string_view(u",.;:!?").find(text[i]) != std::u16string_view::npos)
+            {
                 EXPECT_FALSE(IsIdeographOrKana(text[i - 1]));
+            }
         }
     });
 }
@@ -202,7 +228,9 @@ TEST(KeptWords, AreAllNeeded)
         EXPECT_TRUE(std::any_of(kTranslations.begin(), kTranslations.end(), keepsIt)) << word.word;
         for (const SExpectedLanguage& language : kTranslations)
             if (*word.onlyIn != '\0' && word.IsKeptIn(language))
+            {
                 EXPECT_TRUE(keepsIt(language)) << word.word << " in " << language;
+            }
     }
 }
 
