@@ -1,5 +1,6 @@
 // That the texts of a language read as written in it: nothing left in English, and its own punctuation.
 #include "tests/resources/DialogPicture.h"
+#include "tests/resources/EnglishWords.h"
 #include "tests/resources/KeptWords.h"
 #include "tests/resources/LanguageTest.h"
 
@@ -12,51 +13,7 @@ namespace
 
 using CTranslationTest = CLanguageTest;
 
-bool IsLetter(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z'); }
-bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
-/// Of a word in a script of Latin letters, accents included.
-bool IsOfWord(char16_t c) { return IsLetter(c) || IsDigit(c) || (c >= 0xC0 && c < 0x250); }
 bool IsIdeographOrKana(char16_t c) { return c >= 0x3040 && c < 0xA000; }
-
-/// The text as it is read: without access keys and directives.
-std::u16string Read(const std::u16string& text)
-{
-    std::u16string read;
-    for (size_t i = 0; i < text.size(); ++i)
-    {
-        if (text[i] == u'(' && text.substr(i + 1, 1) == u"&" && text.substr(i + 3, 1) == u")")
-            i += 3;
-        else if (text[i] == u'%')
-        {
-            const size_t end = text.find_first_not_of(u"0123456789.", i + 1);
-            if (end != std::u16string::npos && std::u16string_view(u"dfs").find(text[end]) != std::u16string_view::npos)
-                i = end;
-        }
-        else if (text[i] != u'&')
-            read += text[i];
-    }
-    return read;
-}
-
-/// The words that begin with a Latin letter.
-std::set<std::string> Words(const std::u16string& text)
-{
-    std::set<std::string> words;
-    const std::u16string read = Read(text);
-    for (size_t i = 0; i < read.size();)
-    {
-        size_t end = i;
-        while (end < read.size() && IsOfWord(read[end]))
-            ++end;
-        // The unit of "100kHz" is a word.
-        while (i < end && IsDigit(read[i]))
-            ++i;
-        if (i < end)
-            words.insert(Utf8(read.substr(i, end - i)));
-        i = end + 1;
-    }
-    return words;
-}
 
 std::vector<std::u16string> Parts(const std::u16string& text, char16_t separator)
 {
@@ -73,25 +30,6 @@ std::vector<std::u16string> Parts(const std::u16string& text, char16_t separator
 
 std::vector<std::u16string> Lines(const std::u16string& text) { return Parts(text, u'\n'); }
 
-/// What is left of English in a text. Where letters are Latin, a word of the English text; else any Latin word.
-std::set<std::string> EnglishWords(EScript script, const std::u16string& english, const std::u16string& text)
-{
-    std::set<std::string> words = Words(text);
-    if (script == kLatin)
-    {
-        const std::set<std::string> candidates = Words(english);
-        std::erase_if(words, [&](const std::string& word) { return !candidates.contains(word); });
-    }
-    return words;
-}
-
-bool IsKept(const std::string& word)
-{
-    return std::any_of(std::begin(kKeptWords), std::end(kKeptWords), [&](const SKeptWord& kept) {
-        return word == kept.word && kept.IsKeptIn(CTranslationTest::GetParam());
-    });
-}
-
 constexpr const char* kFontFace = "text 21001";
 
 TEST_P(CTranslationTest, LeavesNothingInEnglish)
@@ -102,8 +40,8 @@ TEST_P(CTranslationTest, LeavesNothingInEnglish)
     {
         if (texts[i].place == kFontFace)
             continue;
-        for (const std::string& word : EnglishWords(GetParam().script, english[i].text, texts[i].text))
-            EXPECT_TRUE(IsKept(word)) << word << " in " << texts[i].place << ": " << Utf8(texts[i].text);
+        for (const std::string& word : EnglishWords(GetParam(), english[i].text, texts[i].text))
+            EXPECT_TRUE(IsKeptIn(GetParam(), word)) << word << " in " << texts[i].place << ": " << Utf8(texts[i].text);
     }
 }
 
@@ -210,7 +148,7 @@ std::set<std::string> WordsKeptIn(const SExpectedLanguage& language)
     const std::vector<SPlacedText>& texts = TextsIn(language.index);
     std::set<std::string> kept;
     for (size_t i = 0; i < texts.size(); ++i)
-        kept.merge(EnglishWords(language.script, english[i].text, texts[i].text));
+        kept.merge(EnglishWords(language, english[i].text, texts[i].text));
     return kept;
 }
 

@@ -1,5 +1,8 @@
 #include "tests/translations/TextCheck.h"
 
+#include "tests/resources/EnglishWords.h"
+#include "tests/resources/RoomForText.h"
+
 #include <algorithm>
 #include <map>
 #include <set>
@@ -72,13 +75,13 @@ bool HasForm(const std::u16string& text, const STerm& term)
                        [&](const std::u16string& form) { return plain.find(Plain(form)) != std::u16string::npos; });
 }
 
-/// Two small letters in a row: no name, unit or mnemonic.
-bool HasWords(const std::u16string& text)
+bool HasEnglishWords(const SExpectedLanguage& language, const std::u16string& english, const std::u16string& text)
 {
-    const auto isSmall = [](char16_t c) { return c >= u'a' && c <= u'z'; };
-    return std::adjacent_find(text.begin(), text.end(),
-                              [=](char16_t a, char16_t b) { return isSmall(a) && isSmall(b); }) != text.end();
+    const std::set<std::string> words = EnglishWords(language, english, text);
+    return !std::all_of(words.begin(), words.end(), [&](const std::string& word) { return IsKeptIn(language, word); });
 }
+
+constexpr const char* kFontFace = "text 21001";
 
 std::string Pair(const std::u16string& english, const std::u16string& text)
 {
@@ -87,8 +90,8 @@ std::string Pair(const std::u16string& english, const std::u16string& text)
 
 } // namespace
 
-std::vector<SFinding> CheckTexts(const std::vector<SPlacedText>& english, const std::vector<SPlacedText>& texts,
-                                 const SGlossary& glossary)
+std::vector<SFinding> CheckTexts(const SExpectedLanguage& language, const std::vector<SPlacedText>& english,
+                                 const std::vector<SPlacedText>& texts, const SGlossary& glossary)
 {
     std::vector<SFinding> findings;
     std::map<std::string, std::u16string> translated;
@@ -108,7 +111,7 @@ std::vector<SFinding> CheckTexts(const std::vector<SPlacedText>& english, const 
         translated.erase(found);
         if (placed.text.empty())
             continue;
-        if (text == placed.text && HasWords(text))
+        if (placed.place != kFontFace && HasEnglishWords(language, placed.text, text))
             findings.push_back({EFinding::English, placed.place, Utf8(text)});
         const auto [first, isNew] = known.emplace(Plain(placed.text), Plain(text));
         if (!isNew && first->second != Plain(text) && !glossary.ambiguous.contains(placed.text))
@@ -122,5 +125,26 @@ std::vector<SFinding> CheckTexts(const std::vector<SPlacedText>& english, const 
     for (const SPlacedText& text : texts)
         if (translated.contains(text.place))
             findings.push_back({EFinding::Superfluous, text.place, Utf8(text.text)});
+    return findings;
+}
+
+std::vector<SFinding> CheckWidths(int language)
+{
+    std::vector<SFinding> findings;
+    for (const unsigned id : TemplateIds())
+    {
+        const SDialogPicture& picture = PictureOf(language, id);
+        for (size_t i = 0; i < picture.controls.size(); ++i)
+        {
+            const SPicturedControl& control = picture.controls[i];
+            if (control.textWidth <= RoomForText(control))
+                continue;
+            const std::string place = "dialog " + std::to_string(id) + ", control " + std::to_string(i);
+            const std::string pixels =
+                std::to_string(control.textWidth) + " pixels where " + std::to_string(RoomForText(control)) + " are";
+            findings.push_back(
+                {EFinding::TooLong, place, "\"" + Utf8(FromPage(control.text, AfxGetTextPage())) + "\", " + pixels});
+        }
+    }
     return findings;
 }

@@ -1,6 +1,7 @@
 // What is to be looked at in the texts of a language.
 #pragma once
 
+#include "tests/resources/ExpectedLanguages.h"
 #include "tests/resources/WideResources.h"
 #include "tests/translations/Glossary.h"
 
@@ -11,7 +12,7 @@ enum class EFinding
 {
     Missing,     ///< there in English only
     Superfluous, ///< there in this language only
-    English,     ///< the same as in English, though it has words
+    English,     ///< has English words that the language does not keep
     TwoWays,     ///< the same English text is translated in another way elsewhere
     Term,        ///< does not have the term of the glossary
     TooLong      ///< does not fit its control
@@ -25,5 +26,8 @@ struct SFinding
 };
 
 /// Compares the texts of a language with the English ones, in the order of the latter.
-std::vector<SFinding> CheckTexts(const std::vector<SPlacedText>& english, const std::vector<SPlacedText>& texts,
-                                 const SGlossary& glossary);
+std::vector<SFinding> CheckTexts(const SExpectedLanguage& language, const std::vector<SPlacedText>& english,
+                                 const std::vector<SPlacedText>& texts, const SGlossary& glossary);
+
+/// The texts that do not fit their controls, in the dialogs of a language, whose resources must be in use.
+std::vector<SFinding> CheckWidths(int language);

@@ -6,22 +6,35 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <map>
 #include <stdexcept>
 
 namespace
 {
 
-std::vector<SPlacedText> TextsOf(const std::string& language)
+/// All findings of a language.
+std::vector<SFinding> Check(int language, const SGlossary& glossary)
 {
-    const CLanguage scope(*LanguageIndex(language));
-    if (!scope.IsLoaded())
-        throw std::runtime_error("There is no library for " + language + ".");
-    return PlacedTexts();
+    const auto expected = std::find_if(std::begin(kExpectedLanguages), std::end(kExpectedLanguages),
+                                       [=](const SExpectedLanguage& one) { return one.index == language; });
+    std::vector<SPlacedText> english;
+    {
+        const CLanguage scope(kEnglish);
+        english = PlacedTexts();
+    }
+    const CLanguage scope(language);
+    if (!scope.IsLoaded() || expected == std::end(kExpectedLanguages))
+        throw std::runtime_error("This language has no library.");
+    std::vector<SFinding> findings = CheckTexts(*expected, english, PlacedTexts(), glossary);
+    const std::vector<SFinding> widths = CheckWidths(language);
+    findings.insert(findings.end(), widths.begin(), widths.end());
+    return findings;
 }
 
 const char* Name(EFinding what)
@@ -56,7 +69,7 @@ int Run(int argc, char** argv)
 
     std::ifstream glossary(page);
     std::map<EFinding, int> counts;
-    for (const SFinding& finding : CheckTexts(TextsOf("English"), TextsOf(language), ReadGlossary(glossary, language)))
+    for (const SFinding& finding : Check(*LanguageIndex(language), ReadGlossary(glossary, language)))
     {
         ++counts[finding.what];
         std::cout << Name(finding.what) << ": " << finding.place << ": " << finding.text << '\n';
