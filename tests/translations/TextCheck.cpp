@@ -54,8 +54,7 @@ std::set<const STerm*> TermsIn(const std::u16string& english, const std::vector<
     for (const STerm& term : terms)
         for (const std::u16string& name : term.english)
             names.push_back({Plain(name), &term});
-    std::stable_sort(names.begin(), names.end(),
-                     [](const SName& a, const SName& b) { return a.text.size() > b.text.size(); });
+    std::sort(names.begin(), names.end(), [](const SName& a, const SName& b) { return a.text.size() > b.text.size(); });
 
     std::set<const STerm*> found;
     std::u16string rest = Plain(english);
