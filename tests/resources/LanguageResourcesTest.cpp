@@ -1,6 +1,8 @@
 // Every language library against the English one: what a program relies on is the same in all of them.
 #include "tests/resources/LanguageTest.h"
 
+#include <filesystem>
+
 namespace
 {
 
@@ -167,6 +169,16 @@ TEST_P(CLanguageResourcesTest, TranslateTheLastColumnOfTheSelectionListAlone)
             EXPECT_EQ(Utf8(text.substr(0, text.rfind(u'\t'))), Utf8(english.substr(0, english.rfind(u'\t'))));
         }
     });
+}
+
+TEST_P(CLanguageResourcesTest, TakeLessThan400KiB)
+{
+    CFunWizard wizard;
+    const HINSTANCE library = wizard.SetLanguageInfo(GetParam().index);
+    ASSERT_NE(library, nullptr);
+    char path[MAX_PATH] = "";
+    ASSERT_NE(::GetModuleFileNameA(library, path, sizeof path), 0u);
+    EXPECT_LT(std::filesystem::file_size(path), 400u * 1024);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, CLanguageResourcesTest, testing::ValuesIn(kExpectedLanguages), NameOf);
