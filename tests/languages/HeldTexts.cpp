@@ -1,8 +1,8 @@
 #include "tests/languages/HeldTexts.h"
 
+#include "core/ResourceScope.h"
 #include "tests/languages/Translations.h"
-
-#include <gtest/gtest.h>
+#include "tests/resources/WideResources.h"
 
 #include <cstring>
 
@@ -47,41 +47,6 @@ void AddTexts(HWND control, std::vector<SHeldText>& texts)
         texts.push_back({id, className, ItemText(control, messages, static_cast<WPARAM>(i))});
 }
 
-/// Reads an extended dialog template (DLGTEMPLATEEX) from its beginning to its end.
-class CTemplateReader
-{
-public:
-    explicit CTemplateReader(const void* data) : m_start(static_cast<const BYTE*>(data)), m_next(m_start) {}
-
-    WORD Word()
-    {
-        WORD word;
-        std::memcpy(&word, m_next, sizeof word);
-        m_next += sizeof word;
-        return word;
-    }
-    void Skip(size_t bytes) { m_next += bytes; }
-    void Align() { m_next += (4 - (m_next - m_start) % 4) % 4; }
-    /// Empty for an ordinal.
-    std::string Name()
-    {
-        std::vector<WCHAR> name;
-        WORD c = Word();
-        if (c == 0xFFFF)
-        {
-            Word();
-            return {};
-        }
-        for (; c != 0; c = Word())
-            name.push_back(static_cast<WCHAR>(c));
-        return Utf8(name.data(), static_cast<int>(name.size()));
-    }
-
-private:
-    const BYTE* m_start;
-    const BYTE* m_next;
-};
-
 } // namespace
 
 std::vector<SHeldText> HeldTexts(HWND dialog)
@@ -94,28 +59,12 @@ std::vector<SHeldText> HeldTexts(HWND dialog)
 
 std::vector<std::string> TemplateTexts(HINSTANCE library, UINT id)
 {
-    constexpr size_t kRectangle = 4 * sizeof(WORD);
-    const HRSRC resource = ::FindResourceA(library, MAKEINTRESOURCEA(id), MAKEINTRESOURCEA(5));
-    if (resource == nullptr)
+    const CResourceScope scope(library);
+    const std::optional<SWideTemplate> dialog = WideTemplate(id);
+    if (!dialog)
         return {};
-    CTemplateReader reader(::LockResource(::LoadResource(library, resource)));
-    EXPECT_EQ(reader.Word(), 1);
-    EXPECT_EQ(reader.Word(), 0xFFFF) << "an extended template";
-    reader.Skip(3 * sizeof(DWORD)); // help, extended style, style
-    const int controls = reader.Word();
-    reader.Skip(kRectangle);
-    reader.Name(); // menu
-    reader.Name(); // class
-    std::vector<std::string> texts = {reader.Name()};
-    reader.Skip(3 * sizeof(WORD)); // size, weight, slant and character set of the font
-    reader.Name();
-    for (int i = 0; i < controls; ++i)
-    {
-        reader.Align();
-        reader.Skip(3 * sizeof(DWORD) + kRectangle + sizeof(DWORD));
-        reader.Name(); // class
-        texts.push_back(reader.Name());
-        reader.Skip(reader.Word());
-    }
+    std::vector<std::string> texts = {Utf8(dialog->caption)};
+    for (const SWideControl& control : dialog->controls)
+        texts.push_back(Utf8(control.text));
     return texts;
 }
