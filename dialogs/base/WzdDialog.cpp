@@ -46,9 +46,17 @@ CWzdDialog::CWzdDialog(CFunWizard* wizard, UINT templateId, CWnd* parent)
 INT_PTR CWzdDialog::DoModal()
 {
     const COpenWizard open(m_wizard, this);
-    const CResourceScope scope(m_wizard != nullptr ? m_wizard->GetLoadInstance() : nullptr);
+    const CResourceScope scope(Library());
     const INT_PTR result = CDialog::DoModal();
     return open.IsOrphaned() ? IDCANCEL : result;
+}
+
+HINSTANCE CWzdDialog::Library() const { return m_wizard != nullptr ? m_wizard->GetLoadInstance() : nullptr; }
+
+LRESULT CWzdDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const CMessageScope scope(Library());
+    return CDialog::WindowProc(message, wParam, lParam);
 }
 
 BOOL CWzdDialog::OnInitDialog()

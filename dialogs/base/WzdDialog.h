@@ -21,6 +21,8 @@ public:
     /// To be asked again after a message box or another dialog: the host may have destroyed the object meanwhile, and a
     /// stand-in has taken its place.
     CFunWizard& Wizard() const { return *m_wizard; }
+    /// The language library of the texts; null for the module itself.
+    HINSTANCE Library() const;
 
     // ---- Controls; a control that the template does not carry counts as empty, unchecked and without selection -----
 
@@ -66,6 +68,7 @@ protected:
     /// memory.
     [[nodiscard]] virtual bool Confirm() { return true; }
 
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnInitDialog() override;
     void OnOK() override;
     void OnHelpTopic();

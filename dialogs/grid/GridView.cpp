@@ -1,6 +1,7 @@
 #include "dialogs/grid/GridView.h"
 
 #include "core/Memory.h"
+#include "core/ResourceScope.h"
 #include "core/Values.h"
 
 #include <algorithm>
@@ -100,6 +101,12 @@ SGridCell CGridView::CellAt(CPoint point) const
             point.x * m_model.Columns() / std::max<int>(client.right, 1)};
 }
 
+LRESULT CGridView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const CMessageScope scope(m_dialog.Library());
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
 void CGridView::OnPaint()
 {
     CPaintDC dc(this);
@@ -128,7 +135,7 @@ void CGridView::DrawCell(CDC& dc, SGridCell cell) const
         dc.DrawFocusRect(rect);
     rect.left += kMargin;
     dc.SetTextColor(::GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : usable ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
-    dc.DrawText(CString(m_model.Text(cell)).Left(kMostDrawn), rect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    dc.DrawText(LeftWhole(m_model.Text(cell), kMostDrawn), rect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 
 // ---- Operations -----------------------------------------------------------------------------------------------------

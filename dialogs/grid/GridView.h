@@ -67,6 +67,7 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
 
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC*) { return TRUE; } // every pixel is painted
     afx_msg void OnSetFocus(CWnd*) { Invalidate(FALSE); }
