@@ -4,6 +4,9 @@
 #include "afx/Temporary.h"
 #include "afx/Window.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace
 {
 
@@ -197,7 +200,10 @@ UINT_PTR CWnd::SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC callback)
 
 int CWnd::MessageBox(LPCSTR text, LPCSTR caption, UINT type)
 {
-    return ::MessageBoxW(m_hWnd, CWideText(text), CWideText(caption, -1, CP_ACP), type);
+    // No more of the caption than fits on a screen: a wide text of that length needs no memory.
+    constexpr size_t kMostShown = 500;
+    const auto captionLength = static_cast<int>(caption ? std::min(std::strlen(caption), kMostShown) : 0);
+    return ::MessageBoxW(m_hWnd, CWideText(text), CWideText(caption, captionLength, CP_ACP), type);
 }
 
 // ---- Being modal ----------------------------------------------------------------------------------------------------

@@ -131,6 +131,28 @@ TEST_P(CFailingMemoryTest, OkSaysSoAndWorksOnceThereIsMemory)
     ExpectNoLeak();
 }
 
+// The name is the caption of the message.
+TEST_P(CFailingMemoryTest, OkSaysSoHoweverLongTheNameOfTheApplicationIs)
+{
+    for (const size_t length : {499, 500, 511, 512, 100000})
+    {
+        SCOPED_TRACE(length);
+        PexloDll_SetAppName(std::string(length, 'x').c_str());
+        const int result = Play([this] { return static_cast<int>(RunDialog()); }, {[&](CDialogRobot& dialog) {
+                                    FillIn(dialog, {});
+                                    CString message;
+                                    {
+                                        CAllocationFaults faults(0, GetParam().failures);
+                                        message = dialog.ClickAndAnswer(IDOK);
+                                    }
+                                    EXPECT_EQ(message, CString(MessageText(20002).c_str()));
+                                    dialog.Click(IDCANCEL);
+                                }});
+        EXPECT_EQ(result, IDCANCEL);
+    }
+    PexloDll_SetAppName(kAppName);
+}
+
 TEST_P(CFailingMemoryTest, OkLosesNothing)
 {
     const auto batch = [this] {
