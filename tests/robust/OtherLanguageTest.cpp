@@ -3,6 +3,7 @@
 #include "tests/languages/HeldTexts.h"
 #include "tests/support/Controller.h"
 #include "tests/support/DesktopTest.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
@@ -85,7 +86,7 @@ TEST_P(COtherLanguageTest, LeavesTheTextsBelowAlone)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, COtherLanguageTest, testing::ValuesIn(kInstructionDialogs),
+INSTANTIATE_TEST_SUITE_P(Dialogs, COtherLanguageTest, testing::ValuesIn(Sampled(kInstructionDialogs, 3)),
                          [](const auto& test) { return std::string(test.param.name); });
 
 } // namespace
