@@ -131,9 +131,9 @@ public:
     HINSTANCE SetLanguageInfo(int language);
     /// The current language library, or null.
     HINSTANCE GetLoadInstance() const;
-    /// The code page that comments are in, such as 932: that of the current library's language, whatever the system's is;
-    /// the system's with the module's own texts and with English, which fits every page. Texts that the host passes are in
-    /// the system's.
+    /// The code page that comments are in, such as 932: that of the current library's language, whatever the system's
+    /// is; the system's with the module's own texts and with English, which fits every page. Texts that the host passes
+    /// are in the system's.
     UINT GetTextCodePage() const;
 
     /// Creates the font of the dialogs in the size that suits the system's, replacing the font of an earlier call.

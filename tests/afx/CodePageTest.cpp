@@ -19,18 +19,18 @@ constexpr UINT kFontFace = 21001; // a string that every library has
 struct SPage
 {
     UINT page;
+    int bytesOfFirst;
     const char* narrow;
     const char16_t* wide;
-    int bytesOfFirst;
 };
 
 constexpr SPage kPages[] = {
-    {932, "\x8E\x9A\x83\x5C\x83\x7C%\xB1", u"\u5B57\u30BD\u30DD%\uFF71", 2}, // trail bytes '\\' and '|', half width
-    {936, "\xD7\xD6\x80\x81\x5C", u"\u5B57\u20AC\u4E57", 2},                 // a single byte, a trail byte '\\'
-    {949, "\xB1\xDB\xC0\xDA(a)", u"\uAE00\uC790(a)", 2},
-    {950, "\xA6\x72\xA5\x5C\xB3\x5C%d", u"\u5B57\u529F\u8A31%d", 2}, // trail bytes 'r' and '\\'
-    {874, "\xA1\xD8\xE9", u"\u0E01\u0E38\u0E49", 1},                 // a consonant and two marks
-    {1252, "\xE9\xBF\x80", u"\u00E9\u00BF\u20AC", 1},
+    {932, 2, "\x8E\x9A\x83\x5C\x83\x7C%\xB1", u"\u5B57\u30BD\u30DD%\uFF71"}, // trail bytes '\\' and '|', half width
+    {936, 2, "\xD7\xD6\x80\x81\x5C", u"\u5B57\u20AC\u4E57"},                 // a single byte, a trail byte '\\'
+    {949, 2, "\xB1\xDB\xC0\xDA(a)", u"\uAE00\uC790(a)"},
+    {950, 2, "\xA6\x72\xA5\x5C\xB3\x5C%d", u"\u5B57\u529F\u8A31%d"}, // trail bytes 'r' and '\\'
+    {874, 1, "\xA1\xD8\xE9", u"\u0E01\u0E38\u0E49"},                 // a consonant and two marks
+    {1252, 1, "\xE9\xBF\x80", u"\u00E9\u00BF\u20AC"},
 };
 
 LPCWSTR Wide(const char16_t* text) { return reinterpret_cast<LPCWSTR>(text); }
