@@ -325,7 +325,8 @@ TEST_F(WindowTest, DefaultGivesTheMessageOn)
 {
     CDerivedWindow window;
     ASSERT_TRUE(window.Open()); // with the text "test"
-    EXPECT_EQ(window.SendMessage(WM_GETTEXTLENGTH), 5);
+    // Wide, as the window is: a length in bytes is asked for by way of the text itself.
+    EXPECT_EQ(::SendMessageW(window.m_hWnd, WM_GETTEXTLENGTH, 0, 0), 5);
 }
 
 TEST_F(WindowTest, NoExceptionLeavesAHandler)
