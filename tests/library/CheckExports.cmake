@@ -1,5 +1,5 @@
-# Compares what Pexlo.dll exports with what it is meant to: the wizard, and the classes of MFC that its header shares
-# with the hosts. Members count as their class.
+# Compares what Pexlo.dll exports with what it is meant to: the wizard, the classes of MFC that its header shares with the
+# hosts, and the code page of their narrow texts. Members count as their class.
 #   cmake -DDLL=... -DOBJDUMP=... -DCXXFILT=... -P CheckExports.cmake
 
 set(intended
@@ -9,7 +9,9 @@ set(intended
     CString CStringArray CDWordArray AfxAllocate AfxReallocate AfxFree
     CCmdTarget CWnd CDialog CStatic CButton CEdit CComboBox CListBox CScrollBar CMenu
     CGdiObject CFont CBrush CPen CDC CClientDC CPaintDC
-    AfxGetResourceHandle AfxSetResourceHandle)
+    AfxGetResourceHandle AfxSetResourceHandle
+    # The code page of narrow texts, which their own windows need too, and what makes such texts wide and back.
+    AfxGetTextPage AfxSetTextPage CWideBuffer CWideText AfxNarrow)
 
 execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX REPLACE ".*\\[Ordinal/Name Pointer\\] Table[^\n]*\n" "" headers "${headers}")
