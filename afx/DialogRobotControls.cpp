@@ -280,6 +280,8 @@ void CDialogRobot::PressKey(UINT key, std::initializer_list<UINT> held)
     GetKeyboardState(keys);
     BYTE pressed[256];
     std::copy(std::begin(keys), std::end(keys), pressed);
+    for (UINT modifier : {VK_SHIFT, VK_CONTROL, VK_MENU}) // a busy system may still take one for held
+        pressed[modifier] = 0;
     for (UINT modifier : held)
         pressed[modifier] = 0x80;
 
