@@ -25,7 +25,12 @@ endif()
 add_library(afx OBJECT ${afx_sources})
 add_library(wizard OBJECT ${wizard_sources})
 foreach(objects afx wizard)
-    target_compile_definitions(${objects} PRIVATE PEXLO_BUILD $<$<BOOL:${PEXLO_WITH_MFC}>:PEXLO_WITH_MFC>)
+    target_compile_definitions(${objects} PRIVATE PEXLO_BUILD $<$<BOOL:${PEXLO_WITH_MFC}>:PEXLO_WITH_MFC>
+                               PEXLO_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} PEXLO_VERSION_MINOR=${PROJECT_VERSION_MINOR}
+                               PEXLO_VERSION_PATCH=${PROJECT_VERSION_PATCH})
+    # What is built does not depend on the folders of the sources and of the build.
+    target_compile_options(${objects} PRIVATE -ffile-prefix-map=${PROJECT_BINARY_DIR}=build
+                                              -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
     target_include_directories(${objects} PUBLIC ${PROJECT_SOURCE_DIR})
     if(NOT PEXLO_WITH_MFC)
         target_precompile_headers(${objects} PRIVATE ${PROJECT_SOURCE_DIR}/afx/afx.h)
@@ -53,7 +58,7 @@ target_link_libraries(robot INTERFACE ${system_libraries})
 if(WIN32)
     add_library(Pexlo SHARED $<TARGET_OBJECTS:afx> $<TARGET_OBJECTS:wizard>)
     set_target_properties(Pexlo PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
-    target_link_libraries(Pexlo PRIVATE module_resources ${system_libraries})
+    target_link_libraries(Pexlo PRIVATE module_resources version_resource ${system_libraries})
     target_include_directories(Pexlo INTERFACE ${PROJECT_SOURCE_DIR})
     target_link_options(Pexlo PRIVATE -Wl,--exclude-all-symbols $<$<CONFIG:Release>:-s>)
 endif()

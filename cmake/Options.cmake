@@ -18,4 +18,6 @@ if(WIN32)
     # No run-time library beside the system's own, and nothing that is not called.
     add_compile_options(-ffunction-sections -fdata-sections)
     add_link_options(-static -Wl,--gc-sections)
+    # Two builds of the same sources give the same bytes.
+    add_link_options(-Wl,--no-insert-timestamp)
 endif()
