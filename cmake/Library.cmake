@@ -7,6 +7,8 @@
 #   robot    what tests and recorded sessions need beside the library: CDialogRobot, pictures, the console. No part of
 #            the DLL; compiled by each program that links it.
 
+include(cmake/StdcallExports.cmake)
+
 if(WIN32)
     set(desktop win32)
 else()
@@ -60,5 +62,6 @@ if(WIN32)
     set_target_properties(Pexlo PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
     target_link_libraries(Pexlo PRIVATE module_resources version_resource ${system_libraries})
     target_include_directories(Pexlo INTERFACE ${PROJECT_SOURCE_DIR})
+    export_stdcall_functions(Pexlo wizard)
     target_link_options(Pexlo PRIVATE -Wl,--exclude-all-symbols $<$<CONFIG:Release>:-s>)
 endif()

@@ -43,10 +43,10 @@
 
 #if defined(_WIN32)
 #define PEXLO_CALL __stdcall /* of no meaning in 64 bits */
-#if defined(PEXLO_BUILD)
+#if defined(PEXLO_BUILD) && defined(_WIN64)
 #define PEXLO_API __declspec(dllexport)
-#elif defined(PEXLO_STATIC)
-#define PEXLO_API
+#elif defined(PEXLO_BUILD) || defined(PEXLO_STATIC)
+#define PEXLO_API /* in 32 bits the linker's .def file exports them, without the decoration of __stdcall */
 #else
 #define PEXLO_API __declspec(dllimport)
 #endif
