@@ -1,11 +1,12 @@
 #include "host/HostDlg.h"
 
+#include "afx/CodePage.h"
 #include "host/HostResource.h"
 #include "host/Ladder.h"
 #include "host/Languages.h"
 #include "host/Plc.h"
 #include "host/ResultText.h"
-#include "host/Utf8.h"
+#include "host/WizardLists.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -169,10 +170,11 @@ void CHostDlg::OpenWizard(const std::function<int()>& open)
 
 void CHostDlg::ShowResults()
 {
+    const SResultLists lists = ReadLists(m_wizard);
     CString status;
     status.Format("%d instruction records", m_wizard.GetInstCodeCount());
     SetDlgItemText(IDC_HOST_STATUS, status);
-    SetDlgItemText(IDC_HOST_LADDER, EditText(CLadder::Of(m_wizard).Text()));
+    SetDlgItemText(IDC_HOST_LADDER, EditText(CLadder::Of(lists.instructions).Text()));
     const CTextPage utf8(CP_UTF8); // the comments may be in any language
-    SetDlgItemText(IDC_HOST_RESULTS, EditText(ResultText(m_wizard)));
+    SetDlgItemText(IDC_HOST_RESULTS, EditText(ResultText(lists)));
 }

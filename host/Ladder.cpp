@@ -6,7 +6,7 @@
 
 namespace
 {
-// Values of SFWzdInstCode::kind.
+// Values of SInstructionEntry::kind.
 constexpr int kOperand = -1;
 constexpr int kAndContact = 1;
 constexpr int kContact = 2;
@@ -41,11 +41,10 @@ std::string Pad(std::string text, size_t width)
 }
 } // namespace
 
-CLadder CLadder::Of(const CFunWizard& wizard)
+CLadder CLadder::Of(const std::vector<SInstructionEntry>& sequence)
 {
     CLadder ladder;
-    SFWzdInstCode record;
-    for (int i = 0; wizard.GetInstCodeInfo(i, &record) != 0; ++i)
+    for (const SInstructionEntry& record : sequence)
         ladder.Add(record);
     return ladder;
 }
@@ -64,7 +63,7 @@ CLadder::SRung& CLadder::RungForOutput()
     return m_rungs.back();
 }
 
-void CLadder::Add(const SFWzdInstCode& record)
+void CLadder::Add(const SInstructionEntry& record)
 {
     const std::string device = DeviceText(record.code, record.value);
     switch (record.kind)

@@ -7,7 +7,7 @@
 // contacts stand below each other. Every ladder is as wide as its widest rung.
 #pragma once
 
-#include "core/FunWizard.h"
+#include "host/ResultLists.h"
 
 #include <string>
 #include <vector>
@@ -16,13 +16,12 @@ class CLadder
 {
 public:
     /// Appends the next record of the sequence. A contact that follows an output begins a new rung.
-    void Add(const SFWzdInstCode& record);
+    void Add(const SInstructionEntry& record);
 
     /// The drawing, every line ended by "\n"; empty when there is nothing to draw.
     std::string Text() const;
 
-    /// What the generated instructions of a wizard draw.
-    static CLadder Of(const CFunWizard& wizard);
+    static CLadder Of(const std::vector<SInstructionEntry>& sequence);
 
 private:
     struct SOutput

@@ -1,7 +1,5 @@
 #include "host/Plc.h"
 
-#include "host/DeviceText.h"
-
 #include <algorithm>
 
 namespace
@@ -72,27 +70,4 @@ const SPlc* FindPlcPreset(const std::string& name)
     const std::vector<SPlc>& presets = PlcPresets();
     const auto preset = std::find_if(presets.begin(), presets.end(), [&](const SPlc& plc) { return plc.name == name; });
     return preset == presets.end() ? nullptr : &*preset;
-}
-
-void SPlc::Configure(CFunWizard& wizard) const
-{
-    // Device ranges can be replaced but not withdrawn one by one. This forgets them all, and the results with them;
-    // the contacts have to be told separately, and the language is set again by the caller.
-    wizard.ResetContents();
-    wizard.RemoveAllContInfo();
-
-    wizard.SetPlcType(static_cast<unsigned char>(type));
-    wizard.SetMaxSlot(static_cast<unsigned char>(slots));
-    wizard.SetStartType(static_cast<unsigned char>(startType));
-    for (const SDeviceRange& range : ranges)
-        wizard.SetDevRange(-1, static_cast<short>(DeviceCode(range.device)), range.low, range.high);
-
-    wizard.ResetChannelNo();
-    for (const SOfferedChannel& offered : channels)
-        wizard.SetChannelNo(offered.channel, offered.instruction);
-    wizard.SetF175DispType(static_cast<unsigned short>(display175));
-
-    wizard.ClearSuppportFunInfo();
-    for (int instruction : instructions)
-        wizard.EntrySupportFunInfo(instruction);
 }

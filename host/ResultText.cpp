@@ -1,107 +1,94 @@
 #include "host/ResultText.h"
 
 #include "host/DeviceText.h"
-#include "host/Utf8.h"
 
 #include <cstdarg>
+#include <cstdio>
+#include <iterator>
 
 namespace
 {
-constexpr int kLongestComment = 255; // as the library promises
-
 [[gnu::format(printf, 1, 2)]] std::string Print(const char* format, ...)
 {
+    char text[128];
     va_list values;
     va_start(values, format);
-    CString text;
-    text.FormatV(format, values);
+    std::vsnprintf(text, sizeof text, format, values);
     va_end(values);
-    return static_cast<const char*>(text);
+    return text;
 }
 
-std::string List(const char* name, int count, const std::string& entries)
+template <typename T, size_t N>
+T Choose(const T (&choices)[N], int index, T otherwise)
 {
-    return Print("%s: %d\n", name, count) + entries;
+    return index >= 0 && index < static_cast<int>(N) ? choices[index] : otherwise;
 }
 
-const char* WidthText(int type)
+template <typename TEntries, typename TPrint>
+std::string Lines(const TEntries& entries, TPrint print)
 {
-    constexpr const char* kWidths[] = {"1 word", "2 words", "real"};
-    return type < 3 ? kWidths[type] : "?";
-}
-
-int ConstantCode(int format)
-{
-    constexpr int kCodes[] = {11, 12, 20}; // K, H, f
-    return format < 3 ? kCodes[format] : -1;
-}
-
-// The host adds no comments of its own, and those of the library have a limit.
-std::string Comment(const CFunWizard& wizard, int index)
-{
-    char text[kLongestComment + 1] = "";
-    wizard.GetCmtInfo(index, text);
-    return ToUtf8(text, wizard.GetTextCodePage());
+    std::string text;
+    int index = 0;
+    for (const auto& entry : entries)
+        text += Print("%4d  ", index++) + print(entry) + '\n';
+    return text;
 }
 } // namespace
 
-std::string ContactsText(const CFunWizard& wizard)
+const char* WidthText(const SDataEntry& entry)
 {
-    std::string text;
-    short kind, code;
-    int number;
-    for (int i = 0; wizard.GetContInfo(i, kind, code, number) != 0; ++i)
-        text += Print("%4d  kind %-2d  %s\n", i, kind, DeviceText(code, number).c_str());
-    return text;
+    constexpr const char* kWidths[] = {"1 word", "2 words", "real"};
+    return Choose(kWidths, entry.type, "?");
 }
 
-std::string OperandsText(const CFunWizard& wizard)
+std::string ConstantText(const SDataEntry& entry)
 {
-    std::string text;
-    short code;
-    int value;
-    for (int i = 0; wizard.GetOprdInfo(i, code, value) != 0; ++i)
-        text += Print("%4d  %s\n", i, DeviceText(code, value).c_str());
-    return text;
+    constexpr int kCodes[] = {11, 12, 20}; // K, H, f
+    return DeviceText(Choose(kCodes, entry.format, -1), entry.value);
 }
 
-std::string DataTableText(const CFunWizard& wizard)
+std::string ContactsText(const std::vector<SContactEntry>& contacts)
 {
-    std::string text;
-    SFunSetData data;
-    for (int i = 0; wizard.GetDataInfo(i, &data) != 0; ++i)
-    {
-        text += Print("%4d  %-10s  %-7s  %s\n", i, DeviceText(data.code, data.number).c_str(), WidthText(data.type),
-                      DeviceText(ConstantCode(data.format), data.value).c_str());
-    }
-    return text;
+    return Lines(contacts, [](const SContactEntry& entry) {
+        return Print("kind %-2d  %s", entry.kind, DeviceText(entry.code, entry.number).c_str());
+    });
 }
 
-std::string CommentsText(const CFunWizard& wizard)
+std::string OperandsText(const std::vector<SOperandEntry>& operands)
 {
-    std::string text;
-    for (int i = 0; i < wizard.GetCmtInfoCount(); ++i)
-        text += Print("%4d  %s\n", i, Comment(wizard, i).c_str());
-    return text;
+    return Lines(operands, [](const SOperandEntry& entry) { return DeviceText(entry.code, entry.value); });
 }
 
-std::string InstructionsText(const CFunWizard& wizard)
+std::string DataTableText(const std::vector<SDataEntry>& data)
 {
-    std::string text;
-    SFWzdInstCode record;
-    for (int i = 0; wizard.GetInstCodeInfo(i, &record) != 0; ++i)
-    {
-        text +=
-            Print("%4d  %3d %6d %11d  %d %d\n", i, record.kind, record.code, record.value, record.flag1, record.flag2);
-    }
-    return text;
+    return Lines(data, [](const SDataEntry& entry) {
+        return Print("%-10s  %-7s  %s", DeviceText(entry.code, entry.number).c_str(), WidthText(entry),
+                     ConstantText(entry).c_str());
+    });
 }
 
-std::string ResultText(const CFunWizard& wizard)
+std::string CommentsText(const std::vector<std::string>& comments)
 {
-    return List("Contacts", wizard.GetContInfoCount(), ContactsText(wizard)) +
-           List("Operands", wizard.GetOprdInfoCount(), OperandsText(wizard)) +
-           List("Data table", wizard.GetDataInfoCount(), DataTableText(wizard)) +
-           List("Comments", wizard.GetCmtInfoCount(), CommentsText(wizard)) +
-           List("Instructions", wizard.GetInstCodeCount(), InstructionsText(wizard));
+    return Lines(comments, [](const std::string& comment) { return comment; });
+}
+
+std::string InstructionsText(const std::vector<SInstructionEntry>& instructions)
+{
+    return Lines(instructions, [](const SInstructionEntry& entry) {
+        return Print("%3d %6d %11d  %d %d", entry.kind, entry.code, entry.value, entry.flag1, entry.flag2);
+    });
+}
+
+std::string ListText(const char* name, size_t count, const std::string& entries)
+{
+    return std::string(name) + ": " + std::to_string(count) + '\n' + entries;
+}
+
+std::string ResultText(const SResultLists& lists)
+{
+    return ListText("Contacts", lists.contacts.size(), ContactsText(lists.contacts)) +
+           ListText("Operands", lists.operands.size(), OperandsText(lists.operands)) +
+           ListText("Data table", lists.data.size(), DataTableText(lists.data)) +
+           ListText("Comments", lists.comments.size(), CommentsText(lists.comments)) +
+           ListText("Instructions", lists.instructions.size(), InstructionsText(lists.instructions));
 }

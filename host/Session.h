@@ -2,19 +2,15 @@
 #pragma once
 
 #include "host/Plc.h"
+#include "host/TextFile.h"
 
 #include <array>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 /// A file that is no session: the message says where and why.
-class CSessionError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
+using CSessionError = CFileError;
 
 enum class EVerb
 {

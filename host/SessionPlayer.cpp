@@ -5,6 +5,7 @@
 #include "host/Ladder.h"
 #include "host/ResultText.h"
 #include "host/Utf8.h"
+#include "host/WizardLists.h"
 
 #include <algorithm>
 #include <array>
@@ -133,8 +134,10 @@ void CSessionPlayer::PlayRun(const SRun& run)
         m_report << "Control code: " << code << '\n';
         return;
     }
-    m_report << '\n' << ResultText(m_wizard);
-    m_report << "Ladder: " << (generated != 0 ? "complete" : "incomplete") << '\n' << CLadder::Of(m_wizard).Text();
+    const SResultLists lists = ReadLists(m_wizard);
+    m_report << '\n' << ResultText(lists);
+    m_report << "Ladder: " << (generated != 0 ? "complete" : "incomplete") << '\n'
+             << CLadder::Of(lists.instructions).Text();
 }
 
 int CSessionPlayer::Open(const SRun& run)

@@ -1,6 +1,7 @@
 // Plays a recorded session in the library's own dialogs and reports what came of it.
 #pragma once
 
+#include "core/FunWizard.h"
 #include "host/Session.h"
 
 #include <iosfwd>

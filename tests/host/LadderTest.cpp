@@ -1,15 +1,17 @@
 #include "host/Ladder.h"
 
+#include "host/WizardLists.h"
+
 #include <gtest/gtest.h>
 
 #include <initializer_list>
 
 namespace
 {
-std::string Draw(std::initializer_list<SFWzdInstCode> records)
+std::string Draw(std::initializer_list<SInstructionEntry> records)
 {
     CLadder ladder;
-    for (const SFWzdInstCode& record : records)
+    for (const SInstructionEntry& record : records)
         ladder.Add(record);
     return ladder.Text();
 }
@@ -67,10 +69,10 @@ TEST(LadderTest, DrawsWhatItDoesNotKnowAsItIs)
 TEST(LadderTest, DrawsTheInstructionsOfAWizard)
 {
     CFunWizard wizard;
-    EXPECT_EQ(CLadder::Of(wizard).Text(), "");
+    EXPECT_EQ(CLadder::Of(ReadLists(wizard).instructions).Text(), "");
     wizard.AddInstCodeInfo(2, 20001, 14419, 0, 0);
     wizard.AddInstCodeInfo(8, -1, 309, 0, 0);
     wizard.AddInstCodeInfo(-1, 20, 0x40200000, 0, 0);
     wizard.AddInstCodeInfo(-1, 9, 10, 0, 0);
-    EXPECT_EQ(CLadder::Of(wizard).Text(), "|--| Sp.R9013 |-----[ F309  FMV  f2.5  DT10 ]--|\n");
+    EXPECT_EQ(CLadder::Of(ReadLists(wizard).instructions).Text(), "|--| Sp.R9013 |-----[ F309  FMV  f2.5  DT10 ]--|\n");
 }

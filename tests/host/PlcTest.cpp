@@ -1,5 +1,6 @@
 #include "host/Plc.h"
 
+#include "core/FunWizard.h"
 #include "host/DeviceText.h"
 
 #include <gtest/gtest.h>

@@ -7,6 +7,7 @@
 #include "host/HostName.h"
 #include "host/Ladder.h"
 #include "host/Utf8.h"
+#include "host/WizardLists.h"
 
 #include <sstream>
 
@@ -41,7 +42,7 @@ public:
             comment.clear(); // what counts is how many there are
         }
         m_log << "result " << result << ", control code " << controlCode << '\n'
-              << results << CLadder::Of(wizard).Text();
+              << results << CLadder::Of(ReadLists(wizard).instructions).Text();
         m_boxes = 0; // the robot of the next run counts its own
     }
 

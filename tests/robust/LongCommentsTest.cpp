@@ -4,6 +4,7 @@
 
 #include "host/ResultText.h"
 #include "host/Utf8.h"
+#include "host/WizardLists.h"
 
 #include <string>
 
@@ -31,7 +32,7 @@ protected:
         EXPECT_EQ(results.comments.size(), 5u);
         const std::string comment = results.comments.at(kCommentOfInitialSpeed);
         const std::string shown = ToUtf8(comment.c_str(), m_wizard.GetTextCodePage());
-        EXPECT_NE(ResultText(m_wizard).find("   1  " + shown + "\n   2  "), std::string::npos);
+        EXPECT_NE(ResultText(ReadLists(m_wizard)).find("   1  " + shown + "\n   2  "), std::string::npos);
 
         std::string buffer(kLongest + 2, '#');
         EXPECT_EQ(m_wizard.GetCmtInfo(kCommentOfInitialSpeed, buffer.data()), 1);
