@@ -24,6 +24,14 @@ if(PEXLO_WITH_MFC)
     list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|CodePage|HtmlHelp|System|win32/ExceptionMemory)\\.cpp$")
 endif()
 
+# What hosts include: the class with what its header includes, and the C interface.
+file(GLOB interface_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/pexlo.h ${PROJECT_SOURCE_DIR}/core/pexlo.hpp)
+set(class_headers core/FunWizard.h core/Instructions.h core/Records.h
+    afx/afx.h afx/Collections.h afx/Collections.inl afx/Controls.h afx/Dialog.h afx/Export.h afx/Gdi.h afx/Geometry.h
+    afx/Menu.h afx/MessageMap.h afx/Object.h afx/PackBegin.h afx/PackEnd.h afx/Platform.h afx/Resources.h afx/String.h
+    afx/Window.h)
+list(TRANSFORM class_headers PREPEND ${PROJECT_SOURCE_DIR}/)
+
 add_library(afx OBJECT ${afx_sources})
 add_library(wizard OBJECT ${wizard_sources})
 foreach(objects afx wizard)
@@ -61,7 +69,7 @@ if(WIN32)
     add_library(Pexlo SHARED $<TARGET_OBJECTS:afx> $<TARGET_OBJECTS:wizard>)
     set_target_properties(Pexlo PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
     target_link_libraries(Pexlo PRIVATE module_resources version_resource ${system_libraries})
-    target_include_directories(Pexlo INTERFACE ${PROJECT_SOURCE_DIR})
+    target_sources(Pexlo PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${class_headers} ${interface_headers})
     export_stdcall_functions(Pexlo wizard)
     target_link_options(Pexlo PRIVATE -Wl,--exclude-all-symbols $<$<CONFIG:Release>:-s>)
 endif()

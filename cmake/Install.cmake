@@ -1,0 +1,100 @@
+# What `cmake --install` copies: the library with its language libraries, programs, headers, import libraries, a CMake
+# package, documentation and samples. docs/packaging.md shows the folders.
+#
+#   import_libraries   Pexlo.def and, where the tools of LLVM are, Pexlo.lib, for hosts of other compilers (Windows only)
+
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Pexlo)
+
+if(TARGET pexlo_shared)
+    set(library pexlo_shared)
+    set_target_properties(pexlo_shared PROPERTIES EXPORT_NAME Pexlo)
+    target_sources(pexlo_shared PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${interface_headers})
+    set(language_folder ${CMAKE_INSTALL_LIBDIR})
+elseif(WIN32)
+    set(library Pexlo)
+    set(language_folder ${CMAKE_INSTALL_BINDIR})
+else()
+    return()
+endif()
+
+install(TARGETS ${library} EXPORT PexloTargets FILE_SET HEADERS)
+install(EXPORT PexloTargets NAMESPACE Pexlo:: DESTINATION ${package_folder})
+string(TOUPPER "${CMAKE_BUILD_TYPE}" package_configuration)
+configure_package_config_file(cmake/package/PexloConfig.cmake.in PexloConfig.cmake INSTALL_DESTINATION ${package_folder}
+                              PATH_VARS language_folder CMAKE_INSTALL_LIBDIR)
+write_basic_package_version_file(PexloConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/PexloConfig.cmake ${PROJECT_BINARY_DIR}/PexloConfigVersion.cmake
+        DESTINATION ${package_folder})
+
+# The library looks for its languages in its own folder.
+get_target_property(language_files language_libraries PEXLO_FILES)
+install(FILES ${language_files} DESTINATION ${language_folder})
+
+if(TARGET pexlo_cli)
+    set_target_properties(pexlo_cli PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+    install(TARGETS pexlo_cli)
+endif()
+
+if(WIN32)
+    find_program(PEXLO_LLVM_DLLTOOL llvm-dlltool DOC "Makes Pexlo.lib, the import library of other compilers")
+    set(import_libraries ${PROJECT_BINARY_DIR}/Pexlo.def)
+    if(PEXLO_LLVM_DLLTOOL)
+        list(APPEND import_libraries ${PROJECT_BINARY_DIR}/Pexlo.lib)
+    else()
+        message(STATUS "llvm-dlltool was not found: Pexlo.lib is not built.")
+    endif()
+    set(script ${PROJECT_SOURCE_DIR}/cmake/package/ImportLibraries.cmake)
+    add_custom_command(
+        OUTPUT ${import_libraries}
+        COMMAND ${CMAKE_COMMAND} -DNM=${CMAKE_NM} -DLLVM_DLLTOOL=${PEXLO_LLVM_DLLTOOL} -DFOLDER=${PROJECT_BINARY_DIR}
+                -DIMPORT_LIBRARY=$<TARGET_LINKER_FILE:Pexlo> -DBITS=$<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,64,32> -P ${script}
+        DEPENDS Pexlo ${script}
+        COMMENT "Making import libraries of the C interface"
+        VERBATIM)
+    add_custom_target(import_libraries ALL DEPENDS ${import_libraries})
+    install(FILES ${import_libraries} DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
+
+# With the folders that the links of the documents have.
+set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc/pexlo)
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${documents})
+install(DIRECTORY docs DESTINATION ${documents})
+if(EXISTS ${PROJECT_SOURCE_DIR}/samples)
+    install(DIRECTORY samples DESTINATION ${CMAKE_INSTALL_DATADIR}/pexlo PATTERN CMakeLists.txt EXCLUDE)
+endif()
+
+if(BUILD_TESTING)
+    # The programs of a host that finds the library; it is compiled as the library is.
+    set(programs)
+    if(WIN32)
+        list(APPEND programs UsesClass)
+    endif()
+    if(EXISTS ${PROJECT_SOURCE_DIR}/capi)
+        list(APPEND programs UsesInterface)
+    endif()
+    set(options -G ${CMAKE_GENERATOR} -DCMAKE_BUILD_TYPE=Release)
+    if(CMAKE_TOOLCHAIN_FILE)
+        list(APPEND options --toolchain ${CMAKE_TOOLCHAIN_FILE})
+    endif()
+    if(WIN32)
+        list(APPEND options -DCMAKE_EXE_LINKER_FLAGS=-static) # no run-time library of the compiler
+    endif()
+    if(PEXLO_SANITIZE)
+        list(APPEND options "-DCMAKE_C_FLAGS=-fsanitize=address,undefined" "-DCMAKE_CXX_FLAGS=-fsanitize=address,undefined")
+    endif()
+    add_test(NAME installation
+             COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR} -DFOLDER=${PROJECT_BINARY_DIR}/installation
+                     -DVERSION=${PROJECT_VERSION} -DSUFFIX=${CMAKE_EXECUTABLE_SUFFIX} "-DPROGRAMS=${programs}"
+                     "-DOPTIONS=${options}" "-DEMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
+                     -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckInstallation.cmake)
+    set_tests_properties(installation PROPERTIES TIMEOUT 300)
+endif()
+
+if(BUILD_TESTING AND NOT PEXLO_SANITIZE)
+    add_test(NAME reproducible
+             COMMAND ${CMAKE_COMMAND} "-DFILES=$<TARGET_FILE:${library}>;${language_files};${import_libraries}"
+                     -DSOURCE=${PROJECT_SOURCE_DIR} -DBUILD=${PROJECT_BINARY_DIR}
+                     -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckMeans.cmake)
+endif()

@@ -1,0 +1,30 @@
+# Installs the library, moves the folder elsewhere, and builds and runs a host's project that finds it there.
+#   cmake -DBUILD=... -DFOLDER=... -DVERSION=... -DSUFFIX=... -DPROGRAMS=... -DOPTIONS=... [-DEMULATOR=...] -P CheckInstallation.cmake
+file(REMOVE_RECURSE ${FOLDER})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${FOLDER}/first OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+file(RENAME ${FOLDER}/first ${FOLDER}/moved)
+
+file(GLOB_RECURSE descriptions ${FOLDER}/moved/lib/cmake/*.cmake)
+if(NOT descriptions)
+    message(FATAL_ERROR "There is no CMake package.")
+endif()
+foreach(description IN LISTS descriptions)
+    file(STRINGS ${description} paths REGEX "${FOLDER}|${BUILD}")
+    if(paths)
+        message(FATAL_ERROR "${description} names a folder of this machine: ${paths}")
+    endif()
+endforeach()
+
+execute_process(COMMAND ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR} -B ${FOLDER}/build ${OPTIONS}
+                        -DCMAKE_PREFIX_PATH=${FOLDER}/moved
+                OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${CMAKE_COMMAND} --build ${FOLDER}/build --target ${PROGRAMS} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+
+set(UsesClass_EXPECTED "Japanese found, code page 932\n")
+set(UsesInterface_EXPECTED "Version ${VERSION}\nJapanese found, code page 932\n")
+foreach(program IN LISTS PROGRAMS)
+    execute_process(COMMAND ${EMULATOR} ${FOLDER}/build/${program}${SUFFIX} OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT output STREQUAL ${program}_EXPECTED)
+        message(FATAL_ERROR "${program} prints\n${output}and not\n${${program}_EXPECTED}")
+    endif()
+endforeach()

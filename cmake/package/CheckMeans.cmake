@@ -1,0 +1,27 @@
+# Whether what is built bears neither the time nor the folder of its build. That two builds are the same can only be seen by
+# building twice: scripts/check-reproducible.
+#   cmake -DFILES=... -DSOURCE=... -DBUILD=... -P CheckMeans.cmake
+foreach(file IN LISTS FILES)
+    file(STRINGS ${file} texts)
+    foreach(folder IN ITEMS ${SOURCE} ${BUILD})
+        string(FIND "${texts}" "${folder}/" place)
+        if(NOT place EQUAL -1)
+            string(SUBSTRING "${texts}" ${place} 100 path)
+            message(SEND_ERROR "${file} names the folder of its build: ${path}")
+        endif()
+    endforeach()
+
+    if(file MATCHES "\\.[Dd][Ll][Ll]$")
+        file(READ ${file} offset OFFSET 60 LIMIT 4 HEX)
+        string(REGEX REPLACE "(..)(..)(..)(..)" "0x\\4\\3\\2\\1" offset ${offset})
+        math(EXPR offset "${offset}")
+        math(EXPR stamp "${offset} + 8")
+        file(READ ${file} header OFFSET ${offset} LIMIT 4 HEX)
+        file(READ ${file} stamp OFFSET ${stamp} LIMIT 4 HEX)
+        if(NOT header STREQUAL "50450000")
+            message(SEND_ERROR "${file} is no PE image.")
+        elseif(NOT stamp STREQUAL "00000000")
+            message(SEND_ERROR "${file} bears the time of its build.")
+        endif()
+    endif()
+endforeach()
