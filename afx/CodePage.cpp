@@ -1,5 +1,6 @@
 #include "afx/CodePage.h"
 
+#include "afx/ThreadState.h"
 #include "afx/afx.h"
 
 #include <cstring>
@@ -7,8 +8,6 @@
 
 namespace
 {
-
-UINT textPage = CP_ACP;
 
 int Length(LPCSTR text) { return text ? static_cast<int>(std::strlen(text)) : 0; }
 
@@ -26,9 +25,9 @@ BOOL CALLBACK TakeLanguage(HMODULE, LPCWSTR, LPCWSTR, WORD language, LONG_PTR ta
 
 } // namespace
 
-UINT AfxGetTextPage() { return textPage; }
+UINT AfxGetTextPage() { return AfxThreadState().textPage; }
 
-UINT AfxSetTextPage(UINT page) { return std::exchange(textPage, page); }
+UINT AfxSetTextPage(UINT page) { return std::exchange(AfxThreadState().textPage, page); }
 
 UINT AfxPageOfString(HINSTANCE module, UINT id)
 {
@@ -78,13 +77,14 @@ CString AfxNarrow(LPCWSTR text, int length, UINT page)
 
 int AfxNarrow(LPCWSTR text, int length, LPSTR buffer, int size)
 {
-    const DWORD flags = NarrowingFlags(textPage);
+    const UINT page = AfxGetTextPage();
+    const DWORD flags = NarrowingFlags(page);
     int used = 0;
     for (int i = 0; i < length; ++i)
     {
         char character[4];
         const int bytes =
-            ::WideCharToMultiByte(textPage, flags, text + i, 1, character, sizeof character, nullptr, nullptr);
+            ::WideCharToMultiByte(page, flags, text + i, 1, character, sizeof character, nullptr, nullptr);
         if (used + bytes >= size)
             break;
         std::memcpy(buffer + used, character, bytes);

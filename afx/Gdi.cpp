@@ -1,7 +1,7 @@
 #include "afx/Gdi.h"
 
 #include "afx/CodePage.h"
-#include "afx/Temporary.h"
+#include "afx/ThreadState.h"
 
 #include <cstdlib>
 
@@ -16,8 +16,6 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 namespace
 {
 
-STemporaries temporaries;
-
 HWND HandleOf(CWnd* window) { return window ? window->m_hWnd : nullptr; }
 
 void AttachOrThrow(CDC& dc, HDC handle)
@@ -28,7 +26,7 @@ void AttachOrThrow(CDC& dc, HDC handle)
 
 } // namespace
 
-STemporaries& AfxTemporaries() { return temporaries; }
+STemporaries& AfxTemporaries() { return AfxThreadState().temporaries; }
 
 // ---- Objects --------------------------------------------------------------------------------------------------------
 

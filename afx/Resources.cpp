@@ -1,15 +1,15 @@
 #include "afx/Resources.h"
 
 #include "afx/CodePage.h"
+#include "afx/ThreadState.h"
 
-namespace
+HINSTANCE AfxGetResourceHandle()
 {
-HINSTANCE resourceHandle = nullptr; // null: this module
+    const HINSTANCE resources = AfxThreadState().resources;
+    return resources ? resources : AfxGetInstanceHandle();
 }
 
-HINSTANCE AfxGetResourceHandle() { return resourceHandle ? resourceHandle : AfxGetInstanceHandle(); }
-
-void AfxSetResourceHandle(HINSTANCE resources) { resourceHandle = resources; }
+void AfxSetResourceHandle(HINSTANCE resources) { AfxThreadState().resources = resources; }
 
 HINSTANCE AfxFindResourceHandle(LPCSTR, LPCSTR) { return AfxGetResourceHandle(); }
 

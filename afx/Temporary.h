@@ -113,7 +113,7 @@ struct STemporaries
     CTemporaryObjects<CGdiObject, &CGdiObject::m_hObject> gdiObjects;
 };
 
-/// Those of the thread that runs the windows.
+/// Those of the calling thread.
 STemporaries& AfxTemporaries();
 
 /// Surrounds each message handler, each operation of the library, and whatever else may ask for temporary objects.

@@ -2,9 +2,10 @@
 
 #include "afx/CodePage.h"
 #include "afx/Resources.h"
-#include "afx/Temporary.h"
+#include "afx/ThreadState.h"
 
 #include <algorithm>
+#include <mutex>
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
@@ -13,16 +14,14 @@ IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 namespace
 {
 
-// The objects that are attached to a window. They are a handful, the last ones being asked for most, and there is room
-// for them from the start. A host may attach more.
+// The objects that are attached to a window, of all threads. They are a handful, the last ones being asked for most,
+// and there is room for them from the start. A host may attach more.
+std::mutex attachedGuard;
 std::vector<CWnd*> attachedWindows = [] {
     std::vector<CWnd*> none;
     none.reserve(64);
     return none;
 }();
-
-// The object whose window CreateEx is about to create; the first message to an unknown window is for it.
-CWnd* windowInCreation = nullptr;
 
 class CPlainClass
 {
@@ -77,6 +76,7 @@ CWnd* PASCAL CWnd::FromHandle(HWND window)
 
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND window)
 {
+    const std::lock_guard lock(attachedGuard);
     const auto found = std::find_if(attachedWindows.rbegin(), attachedWindows.rend(),
                                     [window](CWnd* one) { return one->m_hWnd == window; });
     return found != attachedWindows.rend() ? *found : nullptr;
@@ -91,6 +91,7 @@ BOOL CWnd::Attach(HWND window)
         return FALSE;
     try
     {
+        const std::lock_guard lock(attachedGuard);
         attachedWindows.push_back(this);
     }
     catch (const std::bad_alloc&) // which must not pass the system while it creates a window
@@ -103,6 +104,7 @@ BOOL CWnd::Attach(HWND window)
 
 HWND CWnd::Detach()
 {
+    const std::lock_guard lock(attachedGuard);
     attachedWindows.erase(std::remove(attachedWindows.begin(), attachedWindows.end(), this), attachedWindows.end());
     return std::exchange(m_hWnd, nullptr);
 }
@@ -143,11 +145,11 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, i
 {
     ASSERT(!m_hWnd);
     static const CPlainClass plainClass;
-    windowInCreation = className ? nullptr : this;
+    AfxThreadState().windowInCreation = className ? nullptr : this;
     const HWND created =
         ::CreateWindowExW(exStyle, CWideText(className ? className : plainClass.kName), CWideText(text), style, x, y,
                           width, height, parent, idOrMenu, AfxGetInstanceHandle(), context);
-    windowInCreation = nullptr;
+    AfxThreadState().windowInCreation = nullptr;
     if (!created || (className ? SubclassWindow(created) : m_hWnd != nullptr))
         return created != nullptr;
     ::DestroyWindow(created); // there was no memory to attach it
@@ -157,9 +159,9 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, i
 LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     CWnd* object = CWnd::FromHandlePermanent(window);
-    if (!object && windowInCreation)
+    if (!object && AfxThreadState().windowInCreation)
     {
-        object = std::exchange(windowInCreation, nullptr);
+        object = std::exchange(AfxThreadState().windowInCreation, nullptr);
         object->AttachCreated(window);
     }
     if (!object || !object->m_hWnd)

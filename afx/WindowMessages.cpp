@@ -1,7 +1,7 @@
 // How messages reach the objects behind windows: dispatch, message maps and modal loops.
 
 #include "afx/CodePage.h"
-#include "afx/Temporary.h"
+#include "afx/ThreadState.h"
 #include "afx/Window.h"
 
 #include <algorithm>
@@ -10,18 +10,19 @@
 namespace
 {
 
-// The message that is being handled, for Default().
-MSG currentMessage = {};
-
 class CCurrentMessage
 {
 public:
-    explicit CCurrentMessage(const MSG& message) : m_outer(std::exchange(currentMessage, message)) {}
-    ~CCurrentMessage() { currentMessage = m_outer; }
+    explicit CCurrentMessage(const MSG& message)
+        : m_current(AfxThreadState().message), m_outer(std::exchange(m_current, message))
+    {
+    }
+    ~CCurrentMessage() { m_current = m_outer; }
     CCurrentMessage(const CCurrentMessage&) = delete;
     CCurrentMessage& operator=(const CCurrentMessage&) = delete;
 
 private:
+    MSG& m_current;
     const MSG m_outer;
 };
 
@@ -172,7 +173,11 @@ LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
                       : ::DefWindowProcW(m_hWnd, message, wParam, lParam);
 }
 
-LRESULT CWnd::Default() { return DefWindowProc(currentMessage.message, currentMessage.wParam, currentMessage.lParam); }
+LRESULT CWnd::Default()
+{
+    const MSG& current = AfxThreadState().message;
+    return DefWindowProc(current.message, current.wParam, current.lParam);
+}
 
 BOOL CWnd::PreTranslateMessage(MSG*) { return FALSE; }
 

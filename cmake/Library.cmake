@@ -1,9 +1,10 @@
 # The library: its objects, linked directly by tests, measurements and native programs, and on Windows the DLL.
 #
 #   afx      the part of MFC that the library is written against, over this desktop
-#   wizard   core and dialogs
+#   wizard   core, dialogs and the C interface
 #   pexlo    both, with the module's own resources
 #   Pexlo    Pexlo.dll and libPexlo.dll.a (Windows only)
+#   pexlo_shared   libpexlo.so, the C interface without windows (natively only)
 #   robot    what tests and recorded sessions need beside the library: CDialogRobot, pictures, the console. No part of
 #            the DLL; compiled by each program that links it.
 
@@ -15,7 +16,8 @@ else()
     set(desktop offscreen)
 endif()
 file(GLOB afx_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/afx/*.cpp ${PROJECT_SOURCE_DIR}/afx/${desktop}/*.cpp)
-file(GLOB_RECURSE wizard_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/dialogs/*.cpp)
+file(GLOB_RECURSE wizard_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/core/*.cpp ${PROJECT_SOURCE_DIR}/dialogs/*.cpp
+     ${PROJECT_SOURCE_DIR}/capi/*.cpp)
 file(GLOB robot_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/afx/DialogRobot*.cpp)
 list(APPEND robot_sources ${PROJECT_SOURCE_DIR}/afx/${desktop}/Console.cpp
                           ${PROJECT_SOURCE_DIR}/afx/${desktop}/Screenshot.cpp)
@@ -42,6 +44,8 @@ foreach(objects afx wizard)
     target_compile_options(${objects} PRIVATE -ffile-prefix-map=${PROJECT_BINARY_DIR}=build
                                               -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
     target_include_directories(${objects} PUBLIC ${PROJECT_SOURCE_DIR})
+    set_target_properties(${objects} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
+                                                VISIBILITY_INLINES_HIDDEN ON)
     if(NOT PEXLO_WITH_MFC)
         target_precompile_headers(${objects} PRIVATE ${PROJECT_SOURCE_DIR}/afx/afx.h)
     endif()
@@ -72,4 +76,12 @@ if(WIN32)
     target_sources(Pexlo PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${class_headers} ${interface_headers})
     export_stdcall_functions(Pexlo wizard)
     target_link_options(Pexlo PRIVATE -Wl,--exclude-all-symbols $<$<CONFIG:Release>:-s>)
+else()
+    add_library(pexlo_shared SHARED $<TARGET_OBJECTS:afx> $<TARGET_OBJECTS:wizard>)
+    set_target_properties(pexlo_shared PROPERTIES OUTPUT_NAME pexlo VERSION ${PROJECT_VERSION}
+                                                  SOVERSION ${PROJECT_VERSION_MAJOR})
+    target_link_libraries(pexlo_shared PRIVATE module_resources)
+    target_include_directories(pexlo_shared INTERFACE ${PROJECT_SOURCE_DIR})
+    target_link_options(pexlo_shared PRIVATE -Wl,--exclude-libs,ALL)
+    add_dependencies(pexlo_shared language_libraries)
 endif()

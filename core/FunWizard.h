@@ -232,6 +232,8 @@ private:
 
     friend class CInstCodeGenerator;
     friend class COpenWizard;
+    friend class CKeptResults;
+    friend class CComments;
     template <typename TGenerate>
     int Generate(TGenerate generate);
 

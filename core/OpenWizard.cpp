@@ -1,24 +1,22 @@
 #include "core/OpenWizard.h"
 
-#include <utility>
-
-COpenWizard* COpenWizard::s_innermost = nullptr;
+const CThreadPointer<COpenWizard> COpenWizard::s_innermost;
 
 COpenWizard::COpenWizard(CFunWizard*& wizard, CDialog* dialog)
-    : m_wizard(wizard), m_dialog(dialog), m_outer(std::exchange(s_innermost, this))
+    : m_wizard(wizard), m_dialog(dialog), m_outer(s_innermost.Exchange(this))
 {
 }
 
 COpenWizard::~COpenWizard()
 {
-    s_innermost = m_outer;
+    s_innermost.Exchange(m_outer);
     if (m_orphaned)
         m_wizard = nullptr;
 }
 
 bool COpenWizard::IsOpen(const CFunWizard* wizard)
 {
-    const COpenWizard* scope = s_innermost;
+    const COpenWizard* scope = s_innermost.Get();
     while (scope != nullptr && scope->m_wizard != wizard)
         scope = scope->m_outer;
     return scope != nullptr;
@@ -27,7 +25,7 @@ bool COpenWizard::IsOpen(const CFunWizard* wizard)
 void COpenWizard::Orphan(CFunWizard* wizard)
 {
     COpenWizard* outermost = nullptr;
-    for (COpenWizard* scope = s_innermost; scope != nullptr; scope = scope->m_outer)
+    for (COpenWizard* scope = s_innermost.Get(); scope != nullptr; scope = scope->m_outer)
         if (scope->m_wizard == wizard)
             outermost = scope;
     if (outermost == nullptr)
@@ -36,7 +34,7 @@ void COpenWizard::Orphan(CFunWizard* wizard)
     CFunWizard& standIn = outermost->m_standIn.emplace();
     std::swap(standIn.m_library, wizard->m_library);
     std::swap(standIn.m_dialogFont, wizard->m_dialogFont);
-    for (COpenWizard* scope = s_innermost; scope != nullptr; scope = scope->m_outer)
+    for (COpenWizard* scope = s_innermost.Get(); scope != nullptr; scope = scope->m_outer)
     {
         if (scope->m_wizard != wizard)
             continue;

@@ -4,6 +4,7 @@
 // same object are open; the host may even destroy the object. What the open dialogs use must outlast them.
 #pragma once
 
+#include "afx/ThreadState.h"
 #include "core/FunWizard.h"
 
 #include <optional>
@@ -37,5 +38,6 @@ private:
     bool m_orphaned = false;
     std::optional<CFunWizard> m_standIn;
 
-    static COpenWizard* s_innermost; // All of this happens on one thread.
+    /// Of the calling thread: an object belongs to one, and its dialogs do.
+    static const CThreadPointer<COpenWizard> s_innermost;
 };

@@ -1,4 +1,4 @@
 #include "afx/Resources.h"
 
-// Natively the code is always linked into the program.
+// Natively no name means the module that this code is in.
 HINSTANCE AfxGetInstanceHandle() { return ::GetModuleHandleA(nullptr); }

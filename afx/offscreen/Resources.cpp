@@ -3,6 +3,7 @@
 #include "afx/offscreen/PeImage.h"
 
 #include <dirent.h>
+#include <dlfcn.h>
 #include <strings.h>
 #include <unistd.h>
 
@@ -38,7 +39,7 @@ struct Library
 struct ModuleState
 {
     HandleTable<Module> modules{3};
-    Module* own = nullptr; // The program itself
+    Module* own = nullptr; // The one that this code is in: a shared library, or the program itself
     std::vector<Library> libraries;
     int attempts = 0;
 };
@@ -50,6 +51,15 @@ std::string ExecutablePath()
     return length > 0 ? std::string(path, static_cast<std::size_t>(length)) : std::string();
 }
 
+// Of the file that holds the module's own resources.
+std::string OwnPath()
+{
+    Dl_info info = {};
+    char path[PATH_MAX];
+    const bool isKnown = dladdr(g_moduleImage, &info) != 0 && info.dli_fname && realpath(info.dli_fname, path);
+    return isKnown ? path : ExecutablePath();
+}
+
 ModuleState& State()
 {
     static auto* state = [] {
@@ -57,7 +67,7 @@ ModuleState& State()
         const auto handle = made->modules.Add<HMODULE>(std::make_unique<Module>());
         made->own = made->modules.Find(handle);
         made->own->handle = handle;
-        made->own->path = ExecutablePath();
+        made->own->path = OwnPath();
         made->own->image = PeImage(g_moduleImage, static_cast<std::size_t>(g_moduleImageEnd - g_moduleImage));
         return made;
     }();
@@ -283,8 +293,9 @@ DWORD GetModuleFileNameA(HMODULE handle, LPSTR path, DWORD size)
     const Module* module = ModuleOf(handle);
     if (!module || size == 0)
         return 0;
-    const auto copied = static_cast<DWORD>(CopyText(module->path, path, size));
-    if (copied == module->path.size())
+    const std::string file = handle ? module->path : ExecutablePath();
+    const auto copied = static_cast<DWORD>(CopyText(file, path, size));
+    if (copied == file.size())
         return copied;
     SetLastError(ERROR_INSUFFICIENT_BUFFER);
     return size;

@@ -11,6 +11,7 @@
 // NOLINTBEGIN(bugprone-reserved-identifier): the system's names
 
 #define WINAPI
+#define NTAPI
 #define CALLBACK
 #define PASCAL
 
@@ -1304,6 +1305,15 @@ UINT GetACP();
 LPSTR lstrcpynA(LPSTR target, LPCSTR source, int size);
 DWORD GetLastError();
 void SetLastError(DWORD error);
+
+// Storage of each thread. What a thread has stored when it ends is handed to the callback.
+typedef void(NTAPI* PFLS_CALLBACK_FUNCTION)(void* data);
+constexpr DWORD FLS_OUT_OF_INDEXES = 0xFFFFFFFF;
+DWORD FlsAlloc(PFLS_CALLBACK_FUNCTION callback);
+BOOL FlsFree(DWORD slot);
+void* FlsGetValue(DWORD slot);
+BOOL FlsSetValue(DWORD slot, void* data);
+
 int MulDiv(int number, int numerator, int denominator);
 
 // The C run-time's current drive (1 = A), from <direct.h>

@@ -3,6 +3,7 @@
 #include "afx/System.h"
 #include "core/FunWizard.h"
 #include "core/Values.h"
+#include "dialogs/base/UnseenUser.h"
 #include "resources/resource.h"
 
 #include <algorithm>
@@ -94,6 +95,18 @@ int CPosSelectDlg::HelpTopic() const
     return m_mode == kPulseInstructions ? HELP_TOPIC_INSTRUCTIONS : HELP_TOPIC_UNIT_OPERATIONS;
 }
 
+INT_PTR CPosSelectDlg::DoModal()
+{
+    if (CUnseenUser* const user = CUnseenUser::Current())
+        return user->Choose(*this) ? IDOK : IDCANCEL;
+    return CWzdDialog::DoModal();
+}
+
+bool CPosSelectDlg::Offers(const SCatalogueItem& item) const
+{
+    return m_mode != kPulseInstructions || Wizard().FindSupportFun(item.choice.instruction);
+}
+
 bool CPosSelectDlg::Open()
 {
     if (!FillList())
@@ -125,7 +138,7 @@ bool CPosSelectDlg::FillList()
     int selected = 0;
     for (const SCatalogueItem& item : CatalogueItems(m_mode, Wizard().GetPlcType()))
     {
-        if (m_mode == kPulseInstructions && !Wizard().FindSupportFun(item.choice.instruction))
+        if (!Offers(item))
             continue;
         CString text;
         text.LoadString(item.text);

@@ -14,6 +14,11 @@ public:
     void SetChoice(const SWizardChoice& choice) { m_choice = choice; }
     const SWizardChoice& GetChoice() const { return m_choice; }
 
+    INT_PTR DoModal() override;
+    EWizardMode Mode() const { return m_mode; }
+    /// Whether the list has an item: one of this PLC's, and supported by the host.
+    bool Offers(const SCatalogueItem& item) const;
+
 protected:
     int HelpTopic() const override;
     bool Open() override;

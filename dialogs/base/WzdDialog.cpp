@@ -9,6 +9,7 @@
 #include "core/ResourceScope.h"
 #include "dialogs/base/Compaction.h"
 #include "dialogs/base/ListFilling.h"
+#include "dialogs/base/UnseenUser.h"
 #include "resources/resource.h"
 
 namespace
@@ -39,7 +40,7 @@ ON_WM_HELPINFO()
 END_MESSAGE_MAP()
 
 CWzdDialog::CWzdDialog(CFunWizard* wizard, UINT templateId, CWnd* parent)
-    : CDialog(templateId, parent), m_wizard(wizard)
+    : CDialog(templateId, parent), m_templateId(templateId), m_wizard(wizard)
 {
 }
 
@@ -47,8 +48,21 @@ INT_PTR CWzdDialog::DoModal()
 {
     const COpenWizard open(m_wizard, this);
     const CResourceScope scope(Library());
-    const INT_PTR result = CDialog::DoModal();
+    CUnseenUser* const user = CUnseenUser::Current();
+    const INT_PTR result = user != nullptr ? RunUnseen(*user) : CDialog::DoModal();
     return open.IsOrphaned() ? IDCANCEL : result;
+}
+
+// No template has the style that would show it.
+INT_PTR CWzdDialog::RunUnseen(CUnseenUser& user)
+{
+    const CTemporaryScope temporaries;
+    if (!Create(m_templateId))
+        return IDCANCEL;
+    user.Work(*this);
+    const bool confirmed = !ContinueModal() && m_nModalResult == IDOK;
+    DestroyWindow();
+    return confirmed ? IDOK : IDCANCEL;
 }
 
 HINSTANCE CWzdDialog::Library() const { return m_wizard != nullptr ? m_wizard->GetLoadInstance() : nullptr; }
@@ -78,6 +92,8 @@ BOOL CWzdDialog::OnInitDialog()
     });
     if (!enough || !opened)
         EndDialog(IDCANCEL);
+    if (CUnseenUser::Current() != nullptr)
+        return FALSE; // The focus stays with what can be seen.
     const CWnd* focus = GetFocus();
     return focus == nullptr || !IsChild(focus); // A control that has taken the focus keeps it.
 }
@@ -194,6 +210,11 @@ bool CWzdDialog::FillCombo(UINT combo, CWzdChoices choices, int selected)
 
 bool CWzdDialog::Refuse(UINT edit, UINT message)
 {
+    if (CUnseenUser* const user = CUnseenUser::Current())
+    {
+        user->BeRefused(message, edit, 0, 0);
+        return false;
+    }
     if (auto* item = static_cast<CEdit*>(GetDlgItem(edit)))
     {
         item->SetSel(0, -1); // and scrolls it into view
@@ -205,6 +226,11 @@ bool CWzdDialog::Refuse(UINT edit, UINT message)
 
 int CWzdDialog::ShowWarning(UINT stringId, UINT flags)
 {
+    if (CUnseenUser* const user = CUnseenUser::Current())
+    {
+        user->BeRefused(stringId, 0, 0, 0);
+        return IDOK;
+    }
     // Without allocating: the message may be that memory has run out.
     char text[512];
     AfxLoadString(stringId, text, sizeof text);

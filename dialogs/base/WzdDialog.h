@@ -5,8 +5,11 @@
 #include "dialogs/base/WzdRow.h"
 
 #include <array>
+#include <optional>
 
 class CFunWizard;
+class CGridView;
+class CUnseenUser;
 
 class CWzdDialog : public CDialog
 {
@@ -23,6 +26,16 @@ public:
     CFunWizard& Wizard() const { return *m_wizard; }
     /// The language library of the texts; null for the module itself.
     HINSTANCE Library() const;
+    UINT TemplateId() const { return m_templateId; }
+
+    // ---- For a user who does not see the dialog ---------------------------------------------------------------------
+
+    /// The table of the dialog, when it has one.
+    virtual CGridView* Table() { return nullptr; }
+    /// Whether a button that stays pressed is; nothing for any other control.
+    virtual std::optional<bool> IsPressed(UINT) const { return std::nullopt; }
+    /// Whether a button turns to other settings that the same controls then show.
+    virtual bool TurnsPage(UINT) const { return false; }
 
     // ---- Controls; a control that the template does not carry counts as empty, unchecked and without selection -----
 
@@ -77,6 +90,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    INT_PTR RunUnseen(CUnseenUser& user);
+
+    UINT m_templateId;
     mutable std::array<HWND, 128> m_items = {}; // by the last bits of their ids
     CFunWizard* m_wizard;                       // a stand-in once the host has destroyed the wizard of an open dialog
 };

@@ -6,6 +6,7 @@
 #include "core/FunWizard.h"
 #include "core/Values.h"
 #include "dialogs/base/ListFilling.h"
+#include "dialogs/base/UnseenUser.h"
 #include "dialogs/base/WzdResults.h"
 #include "resources/resource.h"
 
@@ -73,6 +74,15 @@ bool CWzdDlgBase::Confirm()
     return true;
 }
 
+void CWzdDlgBase::CheckEachField()
+{
+    CWzdResults results;
+    ForEachField(kActiveFields, [&results](CWzdField& field) {
+        static_cast<void>(field.Collect(results));
+        return true;
+    });
+}
+
 void CWzdDlgBase::RefreshFields()
 {
     ForEachField(kAllFields, [](CWzdField& field) {
@@ -130,7 +140,8 @@ void CWzdDlgBase::DisableAllButFirstAndBack()
         else if (id != IDCANCEL)
             item->EnableWindow(FALSE);
     }
-    if (CWnd* back = GetDlgItem(IDCANCEL))
+    CWnd* const back = GetDlgItem(IDCANCEL);
+    if (back != nullptr && CUnseenUser::Current() == nullptr)
         GotoDlgCtrl(back); // Enter presses it, too.
 }
 

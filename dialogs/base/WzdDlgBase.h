@@ -45,6 +45,8 @@ public:
     /// Shows the range of the selected device in the label of the row. Without a selection or range the label stays as
     /// it is and the result is false.
     bool ShowDeviceRange(const SWzdRow& row);
+    /// The numbers that CheckDevice accepts for what is selected; nothing without a selection or range.
+    std::optional<SWzdAccepted> AcceptedNumbers(const SWzdRow& row) const;
     /// The text of a stored device number or constant, as CheckDevice reads it.
     static CString FormatDevice(const SWzdRow& row, short code, int number);
     /// The same as ShowDeviceRange for the starting condition (0) or the second one (1).
@@ -67,6 +69,10 @@ public:
     [[nodiscard]] bool ReadDevice(const SWzdRow& row, short& code, int& number);
     /// The same without a message shown: the message that would be, or 0.
     UINT CheckDevice(const SWzdRow& row, short& code, int& number) const;
+
+    /// Checks every field that counts, those behind a refused one too, and stores nothing. The unseen user is told of
+    /// each refusal.
+    void CheckEachField();
 
     /// Adds the comment of a row to the results; none when the label it comes from is missing.
     void AddComment(CWzdResults& results, const SWzdRow& row) const;

@@ -141,6 +141,22 @@ bool CWzdDlgBase::ShowDeviceRange(const SWzdRow& row)
     return true;
 }
 
+std::optional<SWzdAccepted> CWzdDlgBase::AcceptedNumbers(const SWzdRow& row) const
+{
+    short kind, code;
+    int low, high;
+    const auto combo = static_cast<int>(row.combo);
+    if (!GetSelectedDevice(combo, kind, code))
+        return std::nullopt;
+    if (const SWzdConstant* constant = FindConstant(row, code))
+        return SWzdAccepted{constant->range, constant->format.Format(constant->range.low),
+                            constant->format.Format(constant->range.high), constant->format.decimals};
+    if (!Wizard().GetDevRange(kind, code, low, high))
+        return std::nullopt;
+    high = Lowered(high, row.less);
+    return SWzdAccepted{{low, high}, FormatDeviceNumber(code, low), FormatDeviceNumber(code, high)};
+}
+
 CString CWzdDlgBase::FormatDevice(const SWzdRow& row, short code, int number)
 {
     const SWzdConstant* constant = FindConstant(row, code);

@@ -3,8 +3,19 @@
 
 #include "dialogs/base/WzdRow.h"
 
+#include <optional>
+
 class CWzdDlgBase;
 class CWzdResults;
+
+/// The numbers that an entry may be, and how they are written; units of the last decimal.
+struct SWzdAccepted
+{
+    SWzdRange range;
+    CString lowest;
+    CString highest;
+    int decimals = 0;
+};
 
 /// A field lives for the moment in which its dialog declares it; what it keeps between two such moments it keeps in the
 /// controls.
@@ -24,6 +35,11 @@ public:
     [[nodiscard]] virtual bool Open() { return true; }
     /// Whether the PLC has what the field needs; without it the dialog can only be left again.
     virtual bool IsPossible() const { return true; }
+    /// What the edit accepts as things stand; nothing when that is no range.
+    virtual std::optional<SWzdAccepted> AcceptedNumbers() const
+    {
+        return m_row.range.low <= m_row.range.high ? std::optional(Accepted(m_row.range, m_row.format)) : std::nullopt;
+    }
     /// Brings labels, limits and enabling into line with the other fields.
     virtual void Refresh() {}
     /// The user has selected, clicked or left the control; Refresh follows.
@@ -36,6 +52,11 @@ public:
     [[nodiscard]] virtual bool Collect(CWzdResults&) { return true; }
 
 protected:
+    static SWzdAccepted Accepted(const SWzdRange& range, const SWzdFormat& format)
+    {
+        return {range, format.Format(range.low), format.Format(range.high), format.decimals};
+    }
+
     CWzdDlgBase& m_dialog;
     const SWzdRow& m_row;
 };

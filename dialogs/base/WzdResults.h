@@ -29,8 +29,12 @@ public:
     void KeepContacts() { m_keepsContacts = true; }
     /// Operands are numbered: the order in which fields are checked need not be theirs.
     void SetOperand(int index, short code, int value);
-    /// One that has been set.
-    const SOperand& Operand(int index) const { return m_operands.at(static_cast<size_t>(index)); }
+    /// One that has been set; no device when its field has been refused.
+    SOperand Operand(int index) const
+    {
+        const auto at = static_cast<size_t>(index);
+        return at < m_operands.size() ? m_operands[at] : SOperand{-1, static_cast<WORD>(-1)};
+    }
 
     /// The device at which the data table starts: the offsets of the entries that are added from now on count from its
     /// number.

@@ -27,6 +27,8 @@ public:
         return true;
     }
 
+    std::optional<SWzdAccepted> AcceptedNumbers() const override { return m_dialog.AcceptedNumbers(m_row); }
+
     void Refresh() override
     {
         m_dialog.ShowDeviceRange(m_row);

@@ -25,6 +25,12 @@ public:
 
     bool IsPossible() const override { return Range().has_value(); }
 
+    std::optional<SWzdAccepted> AcceptedNumbers() const override
+    {
+        const auto range = Range();
+        return range ? std::optional(Accepted(*range, m_row.format)) : std::nullopt;
+    }
+
     // The longer the table, the lower the highest start.
     void Refresh() override
     {

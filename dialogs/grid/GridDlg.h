@@ -15,6 +15,8 @@ public:
     CGridView& Grid() { return m_grid; }
     const CGridView& Grid() const { return m_grid; }
 
+    CGridView* Table() override { return &m_grid; }
+
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:

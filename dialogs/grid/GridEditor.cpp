@@ -1,4 +1,5 @@
 // The editor that comes up over the current cell of a table.
+#include "dialogs/base/UnseenUser.h"
 #include "dialogs/grid/GridView.h"
 
 #include <cstring>
@@ -58,6 +59,11 @@ void CGridView::OnEditorLeft()
 // Enter has left no edit: what follows the one with the focus, the rows of the table perhaps, is not told before.
 bool CGridView::Refuse(SGridCell cell, UINT message)
 {
+    if (CUnseenUser* const user = CUnseenUser::Current())
+    {
+        user->BeRefused(message, IDC_GRID_CELLS, cell.row + 1, cell.column + 1);
+        return false;
+    }
     SetFocus();
     m_model.GoTo(cell);
     EditCell();

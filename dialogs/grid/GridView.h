@@ -40,6 +40,7 @@ public:
     void Refresh();
     /// How many characters can be typed into the cells of a column.
     void LimitText(int column, int characters) { m_limits.at(static_cast<size_t>(column)) = characters; }
+    int TextLimit(int column) const { return m_limits.at(static_cast<size_t>(column)); }
     void Clear();
     /// Selects a cell whose entry is refused, scrolls it into view, opens its editor with all of its text selected and
     /// shows the message. Always false.

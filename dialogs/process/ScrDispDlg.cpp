@@ -84,6 +84,13 @@ bool CScrDispDlg::Confirm()
     return true;
 }
 
+std::optional<bool> CScrDispDlg::IsPressed(UINT id) const
+{
+    if (id < IDC_SCREEN_MARK_1 || id > IDC_SCREEN_MARK_8)
+        return std::nullopt;
+    return m_input.settings.IsMarkShown(static_cast<int>(id - IDC_SCREEN_MARK_1));
+}
+
 void CScrDispDlg::OnDrawItem(int id, LPDRAWITEMSTRUCT item)
 {
     const auto control = static_cast<UINT>(id);

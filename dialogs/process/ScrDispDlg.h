@@ -13,6 +13,10 @@ public:
 
     void DoFieldExchange(CWzdExchange* wx) override;
 
+    /// The marks stay pressed; the lines share their controls.
+    std::optional<bool> IsPressed(UINT id) const override;
+    bool TurnsPage(UINT id) const override { return id == IDC_SCREEN_UPSIDE_LINE || id == IDC_SCREEN_DOWNSIDE_LINE; }
+
 protected:
     int HelpTopic() const override;
     [[nodiscard]] bool Open() override;

@@ -123,7 +123,7 @@ private:
 
     static void UseTable(CWzdResults& results, int operand)
     {
-        const SOperand& device = results.Operand(operand);
+        const SOperand device = results.Operand(operand);
         results.SetTableStart(device.Code(), device.value);
     }
 

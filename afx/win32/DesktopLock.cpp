@@ -1,0 +1,6 @@
+#include "afx/DesktopLock.h"
+
+CDesktopLock::CDesktopLock() = default;
+CDesktopLock::~CDesktopLock() = default;
+
+bool AfxHasScreen() { return true; }

@@ -1,0 +1,46 @@
+// The structures that pass the C interface: what callers of earlier and later versions mean by theirs.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+/// Reads a structure that is passed. False when it is smaller than this version's, or says something that this version
+/// does not know. Without a pointer `known` stays as it was.
+template <typename TStructure>
+[[nodiscard]] bool ReadStructure(const TStructure* passed, TStructure& known)
+{
+    const size_t size = passed->size;
+    if (size < sizeof known)
+        return false;
+    const auto* const rest = reinterpret_cast<const char*>(passed) + sizeof known;
+    if (std::any_of(rest, rest + (size - sizeof known), [](char byte) { return byte != 0; }))
+        return false;
+    std::memcpy(&known, passed, sizeof known);
+    known.size = sizeof known;
+    return true;
+}
+
+/// Whether a structure that is to be filled has room for this version's.
+template <typename TStructure>
+[[nodiscard]] bool HasRoom(const TStructure* returned)
+{
+    return returned->size >= sizeof *returned;
+}
+
+/// Fills a structure that has room. What a later version's has beyond is left alone.
+template <typename TStructure>
+void WriteStructure(TStructure* returned, TStructure known)
+{
+    known.size = sizeof known;
+    std::memcpy(returned, &known, sizeof known);
+}
+
+/// The structure at `index` of an array whose elements have the size that the first one says.
+template <typename TStructure>
+TStructure* ElementAt(TStructure* array, int index)
+{
+    using TByte = std::conditional_t<std::is_const_v<TStructure>, const char, char>;
+    return reinterpret_cast<TStructure*>(reinterpret_cast<TByte*>(array) +
+                                         static_cast<size_t>(array->size) * static_cast<size_t>(index));
+}
