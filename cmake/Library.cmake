@@ -81,7 +81,7 @@ else()
     set_target_properties(pexlo_shared PROPERTIES OUTPUT_NAME pexlo VERSION ${PROJECT_VERSION}
                                                   SOVERSION ${PROJECT_VERSION_MAJOR})
     target_link_libraries(pexlo_shared PRIVATE module_resources)
-    target_include_directories(pexlo_shared INTERFACE ${PROJECT_SOURCE_DIR})
+    target_include_directories(pexlo_shared INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
     target_link_options(pexlo_shared PRIVATE -Wl,--exclude-libs,ALL)
     add_dependencies(pexlo_shared language_libraries)
 endif()
