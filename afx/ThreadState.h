@@ -30,22 +30,22 @@ private:
 };
 
 #ifndef PEXLO_WITH_MFC
-
 #include "afx/Temporary.h"
+#endif
 
 struct SThreadState
 {
+    UINT textPage = CP_ACP; ///< of narrow texts
+#ifndef PEXLO_WITH_MFC      // which has the rest of its own
     STemporaries temporaries;
     /// The message that is being handled, for CWnd::Default.
     MSG message = {};
     /// The object whose window CWnd::CreateEx is about to create; the first message to an unknown window is for it.
     CWnd* windowInCreation = nullptr;
     HINSTANCE resources = nullptr; ///< where texts and templates come from; null: this module
-    UINT textPage = CP_ACP;        ///< of narrow texts
+#endif
 };
 
 /// That of the calling thread. Of the thread that has loaded the library it is there from the start; for another one it
 /// is made when it is first asked for, which throws std::bad_alloc without memory.
 SThreadState& AfxThreadState();
-
-#endif

@@ -41,6 +41,8 @@ bool IsKnown(int instruction)
            instruction == kInstructionPid;
 }
 
+bool HasVariants(int instruction) { return IsPulseInstruction(instruction) || instruction == PEXLO_FORM_UNIT; }
+
 /// Opens the dialog of a form as a host does.
 int OpenForm(CFunWizard& wizard, PexloForm& form)
 {
@@ -84,7 +86,7 @@ int ReadCall(const PexloForm* form, const PexloEntry* entries, int count, SFormC
         return PEXLO_E_ARGUMENT;
     if (!ReadStructure(form, call.form))
         return PEXLO_E_SIZE;
-    if (!IsKnown(call.form.instruction))
+    if (!IsKnown(call.form.instruction) || (call.form.variant != 0 && !HasVariants(call.form.instruction)))
         return PEXLO_E_INSTRUCTION;
     if (!Fits<unsigned char>(call.form.axisFlag))
         return PEXLO_E_ARGUMENT;
@@ -130,9 +132,17 @@ int RunUnseen(CFunWizard& wizard, SFormCall& call, CFormFiller& user, int& resul
     return user.IsOffered() ? 0 : PEXLO_E_INSTRUCTION;
 }
 
+/// What a form's dialog may change.
+CKeptResults KeptBefore(CFunWizard& wizard, const PexloForm& form)
+{
+    if (form.instruction == PEXLO_FORM_CONTROL_CODE)
+        return CKeptResults(wizard);
+    return CKeptResults(wizard, form.instruction, form.variant);
+}
+
 int FillForm(CFunWizard& wizard, SFormCall& call, PexloRefusal* refusal, bool keeps)
 {
-    CKeptResults before(wizard, call.form.instruction, call.form.variant);
+    CKeptResults before = KeptBefore(wizard, call.form);
     CFormFiller user(call.Choice(), call.entries);
     int result = 0;
     if (const int error = RunUnseen(wizard, call, user, result))
@@ -194,7 +204,7 @@ int OnDescription(PexloHandle handle, TOperation operation)
     const CHandleUse use(handle);
     if (use.Error() != 0)
         return use.Error();
-    return RunOperation(PEXLO_E_MEMORY, [&]() -> int { return operation(use.Object()); });
+    return RunGuarded([&]() -> int { return operation(use.Object()); });
 }
 
 } // namespace
@@ -243,7 +253,7 @@ int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, c
             if (ElementAt(fields, i)->size != fields->size)
                 return PEXLO_E_SIZE;
 
-        const CKeptResults before(*object.wizard, call.form.instruction, call.form.variant);
+        const CKeptResults before = KeptBefore(*object.wizard, call.form);
         CFormDescriber user(call.Choice(), call.entries);
         int result = 0;
         if (const int error = RunUnseen(*object.wizard, call, user, result))

@@ -32,10 +32,11 @@ struct SHandles
     std::vector<size_t> free; ///< in the order in which they became free
 };
 
-// Never freed: a host may use handles until its very end.
+// Never destroyed: a host may use handles until its very end.
 SHandles& Handles()
 {
-    static auto* const handles = new SHandles;
+    alignas(SHandles) static char storage[sizeof(SHandles)];
+    static auto* const handles = new (storage) SHandles;
     return *handles;
 }
 

@@ -44,6 +44,20 @@ private:
     int m_error = 0;
 };
 
+/// Runs an operation of the interface. Callers may not know what an exception is.
+template <typename TOperation>
+int RunGuarded(TOperation operation)
+{
+    try
+    {
+        return RunOperation(PEXLO_E_MEMORY, operation);
+    }
+    catch (...)
+    {
+        return PEXLO_E_MEMORY;
+    }
+}
+
 /// Runs an operation on the object of a handle: `operation` takes the wizard and returns the result.
 template <typename TOperation>
 int OnWizard(PexloHandle handle, TOperation operation)
@@ -52,7 +66,7 @@ int OnWizard(PexloHandle handle, TOperation operation)
     const CHandleUse use(handle);
     if (use.Error() != 0)
         return use.Error();
-    return RunOperation(PEXLO_E_MEMORY, [&]() -> int { return operation(use.Wizard()); });
+    return RunGuarded([&]() -> int { return operation(use.Wizard()); });
 }
 
 /// The same for an operation without a result.

@@ -17,7 +17,7 @@ template <typename TOperation>
 int OnLibrary(TOperation operation)
 {
     const CDesktopLock desktop;
-    return RunOperation(PEXLO_E_MEMORY, [&] {
+    return RunGuarded([&] {
         operation();
         return 1;
     });

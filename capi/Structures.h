@@ -14,7 +14,7 @@ template <typename TStructure>
     if (size < sizeof known)
         return false;
     const auto* const rest = reinterpret_cast<const char*>(passed) + sizeof known;
-    if (std::any_of(rest, rest + (size - sizeof known), [](char byte) { return byte != 0; }))
+    if (std::any_of(rest, rest + (size - sizeof known), [](char one) { return one != 0; }))
         return false;
     std::memcpy(&known, passed, sizeof known);
     known.size = sizeof known;

@@ -23,7 +23,7 @@ list(APPEND robot_sources ${PROJECT_SOURCE_DIR}/afx/${desktop}/Console.cpp
                           ${PROJECT_SOURCE_DIR}/afx/${desktop}/Screenshot.cpp)
 list(REMOVE_ITEM afx_sources ${robot_sources})
 if(PEXLO_WITH_MFC)
-    list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|CodePage|HtmlHelp|System|win32/ExceptionMemory)\\.cpp$")
+    list(FILTER afx_sources INCLUDE REGEX "/afx/(Clipboard|CodePage|HtmlHelp|System|ThreadState|win32/DesktopLock|win32/ExceptionMemory)\\.cpp$")
 endif()
 
 # What hosts include: the class with what its header includes, and the C interface.

@@ -25,11 +25,10 @@ void Replace(TArray& list, const std::vector<TRecord>& records)
 
 } // namespace
 
-CKeptResults::CKeptResults(CFunWizard& wizard, int instruction, int variant)
-    : m_wizard(&wizard), m_holdsDialogData(instruction != wizard.m_lastInstruction || variant != wizard.m_lastVariant),
-      m_unitMode(wizard.m_unitMode), m_axisType(wizard.m_axisType), m_lastInstruction(wizard.m_lastInstruction),
-      m_lastVariant(wizard.m_lastVariant), m_commentRecord(wizard.m_commentRecord),
-      m_onlyDataTable(wizard.m_onlyDataTable)
+CKeptResults::CKeptResults(CFunWizard& wizard, bool holdsDialogData)
+    : m_wizard(&wizard), m_holdsDialogData(holdsDialogData), m_unitMode(wizard.m_unitMode),
+      m_axisType(wizard.m_axisType), m_lastInstruction(wizard.m_lastInstruction), m_lastVariant(wizard.m_lastVariant),
+      m_commentRecord(wizard.m_commentRecord), m_onlyDataTable(wizard.m_onlyDataTable)
 {
     CopyOf(wizard.m_contacts, m_contacts);
     CopyOf(wizard.m_operands, m_operands);

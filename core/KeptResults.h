@@ -10,9 +10,13 @@
 class CKeptResults
 {
 public:
-    /// `instruction` and `variant` are what the dialogs will be for: entering another wizard than the last one frees
-    /// the dialog data. Throws std::bad_alloc without memory, and changes nothing.
-    CKeptResults(CFunWizard& wizard, int instruction, int variant);
+    /// For dialogs that enter no wizard.
+    explicit CKeptResults(CFunWizard& wizard) : CKeptResults(wizard, false) {}
+    /// For those of an instruction: entering another wizard than the last one frees the dialog data.
+    CKeptResults(CFunWizard& wizard, int instruction, int variant)
+        : CKeptResults(wizard, instruction != wizard.m_lastInstruction || variant != wizard.m_lastVariant)
+    {
+    }
     ~CKeptResults();
 
     CKeptResults(const CKeptResults&) = delete;
@@ -22,6 +26,8 @@ public:
     void GiveUp();
 
 private:
+    /// Throws without memory, and changes nothing.
+    CKeptResults(CFunWizard& wizard, bool holdsDialogData);
     void PutBack();
 
     CFunWizard* m_wizard;

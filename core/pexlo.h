@@ -38,6 +38,7 @@
  *
  * This header is C90 and C++98.
  */
+/* clang-format off */
 #ifndef PEXLO_H
 #define PEXLO_H
 
@@ -56,12 +57,10 @@
 #endif
 
 #ifdef __cplusplus
-extern "C"
-{
+extern "C" {
 #endif
 
-    /* ---- Results of wrong calls -------------------------------------------------------------------------------------
-     */
+/* ---- Results of wrong calls -------------------------------------------------------------------------------------- */
 
 #define PEXLO_E_HANDLE (-1001)      /* the handle is null, was destroyed, or never was one */
 #define PEXLO_E_THREAD (-1002)      /* the handle belongs to another thread */
@@ -72,168 +71,163 @@ extern "C"
 #define PEXLO_E_MEMORY (-1007)      /* there is not enough memory, or the system refused a resource */
 #define PEXLO_E_INSTRUCTION (-1008) /* there is no such instruction or variant, or this PLC does not have it */
 
-    /* ---- Versions and handles ---------------------------------------------------------------------------------------
-     */
+/* ---- Versions and handles ---------------------------------------------------------------------------------------- */
 
-    typedef struct PexloWizard* PexloHandle;
+typedef struct PexloWizard* PexloHandle;
 
 /* Of this header; compare it with what Pexlo_GetVersion says of the library. */
 #define PEXLO_INTERFACE_VERSION 0x010000
 
-    /* The version of the library: major x 0x10000 + minor x 0x100 + patch. */
-    PEXLO_API int PEXLO_CALL Pexlo_GetVersion(void);
+/* The version of the library: major x 0x10000 + minor x 0x100 + patch. */
+PEXLO_API int PEXLO_CALL Pexlo_GetVersion(void);
 
-    /* A new object, as `new CFunWizard` makes it; null without memory, or with 65535 handles alive. */
-    PEXLO_API PexloHandle PEXLO_CALL Pexlo_Create(void);
-    /* Frees the object. Permitted while its dialogs are open, from the handle's thread: they end as by Cancel. */
-    PEXLO_API int PEXLO_CALL Pexlo_Destroy(PexloHandle handle);
-    /* The calling thread becomes the owner; PEXLO_E_BUSY while the present one is inside of an operation. */
-    PEXLO_API int PEXLO_CALL Pexlo_TakeOver(PexloHandle handle);
+/* A new object, as `new CFunWizard` makes it; null without memory, or with 65535 handles alive. */
+PEXLO_API PexloHandle PEXLO_CALL Pexlo_Create(void);
+/* Frees the object. Permitted while its dialogs are open, from the handle's thread: they end as by Cancel. */
+PEXLO_API int PEXLO_CALL Pexlo_Destroy(PexloHandle handle);
+/* The calling thread becomes the owner; PEXLO_E_BUSY while the present one is inside of an operation. */
+PEXLO_API int PEXLO_CALL Pexlo_TakeOver(PexloHandle handle);
 
-    /* ---- Dialogs ----------------------------------------------------------------------------------------------------
-     */
-    /* `parent` is an HWND, or null for the thread's active window. 1 on OK, 2 on Cancel, and 2 for an object with an
-     * open dialog, as the class says. */
+/* ---- Dialogs ----------------------------------------------------------------------------------------------------- */
+/* `parent` is an HWND, or null for the thread's active window. 1 on OK, 2 on Cancel, and 2 for an object with an
+ * open dialog, as the class says. */
 
-    PEXLO_API int PEXLO_CALL Pexlo_DoOpenPosDlg(PexloHandle handle, int mode, int axisFlag, void* parent);
-    PEXLO_API int PEXLO_CALL Pexlo_DoInputPosCtrlDlg(PexloHandle handle, unsigned int* code, void* parent);
-    PEXLO_API int PEXLO_CALL Pexlo_DoOpenPIDDlg(PexloHandle handle, int workArea, void* parent);
-    /* `permitted`: four masks for the screen display, three for scaling; null permits all. */
-    PEXLO_API int PEXLO_CALL Pexlo_DoOpenSCRDlg(PexloHandle handle, const unsigned int* permitted, void* parent);
-    PEXLO_API int PEXLO_CALL Pexlo_DoOpenSCALDlg(PexloHandle handle, const unsigned int* permitted, int kind,
-                                                 void* parent);
+PEXLO_API int PEXLO_CALL Pexlo_DoOpenPosDlg(PexloHandle handle, int mode, int axisFlag, void* parent);
+PEXLO_API int PEXLO_CALL Pexlo_DoInputPosCtrlDlg(PexloHandle handle, unsigned int* code, void* parent);
+PEXLO_API int PEXLO_CALL Pexlo_DoOpenPIDDlg(PexloHandle handle, int workArea, void* parent);
+/* `permitted`: four masks for the screen display, three for scaling; null permits all. */
+PEXLO_API int PEXLO_CALL Pexlo_DoOpenSCRDlg(PexloHandle handle, const unsigned int* permitted, void* parent);
+PEXLO_API int PEXLO_CALL Pexlo_DoOpenSCALDlg(PexloHandle handle, const unsigned int* permitted, int kind,
+                                             void* parent);
 
-    /* ---- The PLC ----------------------------------------------------------------------------------------------------
-     */
+/* ---- The PLC ----------------------------------------------------------------------------------------------------- */
 
-    PEXLO_API int PEXLO_CALL Pexlo_SetPlcType(PexloHandle handle, int type);
-    PEXLO_API int PEXLO_CALL Pexlo_GetPlcType(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_SetDevRange(PexloHandle handle, int kind, int code, int low, int high);
-    PEXLO_API int PEXLO_CALL Pexlo_GetDevRange(PexloHandle handle, int kind, int code, int* low, int* high);
-    /* Note the inverted results: 0 = present, 1 = to be skipped, -1 = end of the table. */
-    PEXLO_API int PEXLO_CALL Pexlo_GetSeqDevInfo(PexloHandle handle, int index, int* kind, int* code, int* bitKind,
-                                                 int options);
-    PEXLO_API int PEXLO_CALL Pexlo_SetMaxSlot(PexloHandle handle, int count);
-    PEXLO_API int PEXLO_CALL Pexlo_GetMaxSlot(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_SetDefaultMaxSlot(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_SetChannelNo(PexloHandle handle, int channel, int instruction);
-    PEXLO_API int PEXLO_CALL Pexlo_ResetChannelNo(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_GetNumOfChannel(PexloHandle handle, int instruction);
-    PEXLO_API int PEXLO_CALL Pexlo_GetChannelNo(PexloHandle handle, int n, int instruction);
-    PEXLO_API int PEXLO_CALL Pexlo_GetChannelTypeIndex(PexloHandle handle, int instruction);
-    PEXLO_API int PEXLO_CALL Pexlo_SetF175DispType(PexloHandle handle, int type);
-    PEXLO_API int PEXLO_CALL Pexlo_GetF175DispType(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_SetPlcType(PexloHandle handle, int type);
+PEXLO_API int PEXLO_CALL Pexlo_GetPlcType(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_SetDevRange(PexloHandle handle, int kind, int code, int low, int high);
+PEXLO_API int PEXLO_CALL Pexlo_GetDevRange(PexloHandle handle, int kind, int code, int* low, int* high);
+/* Note the inverted results: 0 = present, 1 = to be skipped, -1 = end of the table. */
+PEXLO_API int PEXLO_CALL Pexlo_GetSeqDevInfo(PexloHandle handle, int index, int* kind, int* code, int* bitKind,
+                                             int options);
+PEXLO_API int PEXLO_CALL Pexlo_SetMaxSlot(PexloHandle handle, int count);
+PEXLO_API int PEXLO_CALL Pexlo_GetMaxSlot(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_SetDefaultMaxSlot(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_SetChannelNo(PexloHandle handle, int channel, int instruction);
+PEXLO_API int PEXLO_CALL Pexlo_ResetChannelNo(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_GetNumOfChannel(PexloHandle handle, int instruction);
+PEXLO_API int PEXLO_CALL Pexlo_GetChannelNo(PexloHandle handle, int n, int instruction);
+PEXLO_API int PEXLO_CALL Pexlo_GetChannelTypeIndex(PexloHandle handle, int instruction);
+PEXLO_API int PEXLO_CALL Pexlo_SetF175DispType(PexloHandle handle, int type);
+PEXLO_API int PEXLO_CALL Pexlo_GetF175DispType(PexloHandle handle);
 
-    /* ---- Settings ---------------------------------------------------------------------------------------------------
-     */
+/* ---- Settings ---------------------------------------------------------------------------------------------------- */
 
-    PEXLO_API int PEXLO_CALL Pexlo_ResetContents(PexloHandle handle);
-    /* 1 when the language library is loaded, 0 when the texts are the library's own English ones. */
-    PEXLO_API int PEXLO_CALL Pexlo_SetLanguageInfo(PexloHandle handle, int language);
-    /* An HINSTANCE, which the object owns, or null; also null for a bad handle. */
-    PEXLO_API void* PEXLO_CALL Pexlo_GetLoadInstance(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_GetTextCodePage(PexloHandle handle);
-    /* An HFONT, which the object owns, or null; also null for a bad handle. `window` is an HWND or null. */
-    PEXLO_API void* PEXLO_CALL Pexlo_CreateDlgFont(PexloHandle handle, void* window);
-    /* `dialog` is an HWND. */
-    PEXLO_API int PEXLO_CALL Pexlo_SetDlgFont(PexloHandle handle, void* dialog, int skipDialog, const int* excludedIds);
-    PEXLO_API int PEXLO_CALL Pexlo_DeleteDlgFont(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_SetHelpPath(PexloHandle handle, const char* path);
-    PEXLO_API int PEXLO_CALL Pexlo_SetHelpPathUtf8(PexloHandle handle, const char* path);
-    PEXLO_API int PEXLO_CALL Pexlo_GetHelpPath(PexloHandle handle, char* buffer, int size);
-    PEXLO_API int PEXLO_CALL Pexlo_GetHelpPathUtf8(PexloHandle handle, char* buffer, int size);
-    PEXLO_API int PEXLO_CALL Pexlo_SetAppName(PexloHandle handle, const char* name);
-    PEXLO_API int PEXLO_CALL Pexlo_SetAppNameUtf8(PexloHandle handle, const char* name);
-    /* The name that captions every message box of the library, of all handles: PexloDll_SetAppName. To be set before
-     * dialogs are opened on other threads. */
-    PEXLO_API int PEXLO_CALL Pexlo_SetMessageCaption(const char* name);
-    PEXLO_API int PEXLO_CALL Pexlo_SetMessageCaptionUtf8(const char* name);
-    /* Note the inverted result: 0 = added or already there. */
-    PEXLO_API int PEXLO_CALL Pexlo_EntrySupportFunInfo(PexloHandle handle, int instruction);
-    PEXLO_API int PEXLO_CALL Pexlo_FindSupportFun(PexloHandle handle, int instruction);
-    PEXLO_API int PEXLO_CALL Pexlo_GetSupportFunNum(PexloHandle handle, int index);
-    PEXLO_API int PEXLO_CALL Pexlo_ClearSuppportFunInfo(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_SetCmtRec(PexloHandle handle, int on);
-    PEXLO_API int PEXLO_CALL Pexlo_IsCmtRec(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_SetOnlyDataTable(PexloHandle handle, int on);
-    PEXLO_API int PEXLO_CALL Pexlo_IsOnlyDataTable(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_SetStartType(PexloHandle handle, int type);
-    PEXLO_API int PEXLO_CALL Pexlo_GetStartType(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_IsAxisType(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_IsStartCondition(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_IsSameCondition(PexloHandle handle);
-    /* Copies `size` bytes, 0 or more; the block before is freed. Null, or the size 0, only frees it. */
-    PEXLO_API int PEXLO_CALL Pexlo_SetDlgDataPtr(PexloHandle handle, const void* data, int size);
-    /* The object's own block, good until the next call with the handle; null also for a bad handle. */
-    PEXLO_API const void* PEXLO_CALL Pexlo_GetDlgDataPtr(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_RemoveDlgData(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_ResetContents(PexloHandle handle);
+/* 1 when the language library is loaded, 0 when the texts are the library's own English ones. */
+PEXLO_API int PEXLO_CALL Pexlo_SetLanguageInfo(PexloHandle handle, int language);
+/* An HINSTANCE, which the object owns, or null; also null for a bad handle. */
+PEXLO_API void* PEXLO_CALL Pexlo_GetLoadInstance(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_GetTextCodePage(PexloHandle handle);
+/* An HFONT, which the object owns, or null; also null for a bad handle. `window` is an HWND or null. */
+PEXLO_API void* PEXLO_CALL Pexlo_CreateDlgFont(PexloHandle handle, void* window);
+/* `dialog` is an HWND. */
+PEXLO_API int PEXLO_CALL Pexlo_SetDlgFont(PexloHandle handle, void* dialog, int skipDialog, const int* excludedIds);
+PEXLO_API int PEXLO_CALL Pexlo_DeleteDlgFont(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_SetHelpPath(PexloHandle handle, const char* path);
+PEXLO_API int PEXLO_CALL Pexlo_SetHelpPathUtf8(PexloHandle handle, const char* path);
+PEXLO_API int PEXLO_CALL Pexlo_GetHelpPath(PexloHandle handle, char* buffer, int size);
+PEXLO_API int PEXLO_CALL Pexlo_GetHelpPathUtf8(PexloHandle handle, char* buffer, int size);
+PEXLO_API int PEXLO_CALL Pexlo_SetAppName(PexloHandle handle, const char* name);
+PEXLO_API int PEXLO_CALL Pexlo_SetAppNameUtf8(PexloHandle handle, const char* name);
+/* The name that captions every message box of the library, of all handles: PexloDll_SetAppName. To be set before
+ * dialogs are opened on other threads. */
+PEXLO_API int PEXLO_CALL Pexlo_SetMessageCaption(const char* name);
+PEXLO_API int PEXLO_CALL Pexlo_SetMessageCaptionUtf8(const char* name);
+/* Note the inverted result: 0 = added or already there. */
+PEXLO_API int PEXLO_CALL Pexlo_EntrySupportFunInfo(PexloHandle handle, int instruction);
+PEXLO_API int PEXLO_CALL Pexlo_FindSupportFun(PexloHandle handle, int instruction);
+PEXLO_API int PEXLO_CALL Pexlo_GetSupportFunNum(PexloHandle handle, int index);
+PEXLO_API int PEXLO_CALL Pexlo_ClearSuppportFunInfo(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_SetCmtRec(PexloHandle handle, int on);
+PEXLO_API int PEXLO_CALL Pexlo_IsCmtRec(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_SetOnlyDataTable(PexloHandle handle, int on);
+PEXLO_API int PEXLO_CALL Pexlo_IsOnlyDataTable(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_SetStartType(PexloHandle handle, int type);
+PEXLO_API int PEXLO_CALL Pexlo_GetStartType(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_IsAxisType(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_IsStartCondition(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_IsSameCondition(PexloHandle handle);
+/* Copies `size` bytes, 0 or more; the block before is freed. Null, or the size 0, only frees it. */
+PEXLO_API int PEXLO_CALL Pexlo_SetDlgDataPtr(PexloHandle handle, const void* data, int size);
+/* The object's own block, good until the next call with the handle; null also for a bad handle. */
+PEXLO_API const void* PEXLO_CALL Pexlo_GetDlgDataPtr(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_RemoveDlgData(PexloHandle handle);
 
-    /* ---- Result lists -----------------------------------------------------------------------------------------------
-     */
-    /* A bad index: 0, and nothing is written. */
+/* ---- Result lists ------------------------------------------------------------------------------------------------ */
+/* A bad index: 0, and nothing is written. */
 
-    PEXLO_API int PEXLO_CALL Pexlo_AddContInfo(PexloHandle handle, int kind, int code, int number);
-    PEXLO_API int PEXLO_CALL Pexlo_GetContInfoCount(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_GetContInfo(PexloHandle handle, int index, int* kind, int* code, int* number);
-    PEXLO_API int PEXLO_CALL Pexlo_RemoveAllContInfo(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_AddContInfo(PexloHandle handle, int kind, int code, int number);
+PEXLO_API int PEXLO_CALL Pexlo_GetContInfoCount(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_GetContInfo(PexloHandle handle, int index, int* kind, int* code, int* number);
+PEXLO_API int PEXLO_CALL Pexlo_RemoveAllContInfo(PexloHandle handle);
 
-    PEXLO_API int PEXLO_CALL Pexlo_AddOprdInfo(PexloHandle handle, int code, int value);
-    PEXLO_API int PEXLO_CALL Pexlo_GetOprdInfoCount(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_GetOprdInfo(PexloHandle handle, int index, int* code, int* value);
-    PEXLO_API int PEXLO_CALL Pexlo_RemoveAllOprdInfo(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_AddOprdInfo(PexloHandle handle, int code, int value);
+PEXLO_API int PEXLO_CALL Pexlo_GetOprdInfoCount(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_GetOprdInfo(PexloHandle handle, int index, int* code, int* value);
+PEXLO_API int PEXLO_CALL Pexlo_RemoveAllOprdInfo(PexloHandle handle);
 
-    /* One entry of the data table. */
-    typedef struct PexloData
-    {
-        unsigned int size;
-        int code;   /* device code of the register */
-        int number; /* register number */
-        int type;   /* 0 one register, 1 two registers, 2 real number */
-        int format; /* notation: 0 decimal, 1 hexadecimal, 2 real */
-        int value;  /* for a real number the bits of its single-precision form */
-    } PexloData;
+/* One entry of the data table. */
+typedef struct PexloData
+{
+    unsigned int size;
+    int code;   /* device code of the register */
+    int number; /* register number */
+    int type;   /* 0 one register, 1 two registers, 2 real number */
+    int format; /* notation: 0 decimal, 1 hexadecimal, 2 real */
+    int value;  /* for a real number the bits of its single-precision form */
+} PexloData;
 
-    PEXLO_API int PEXLO_CALL Pexlo_AddDataInfo(PexloHandle handle, int code, int number, int type, int format,
-                                               int value);
-    PEXLO_API int PEXLO_CALL Pexlo_GetDataInfoCount(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_GetDataInfo(PexloHandle handle, int index, PexloData* data);
-    PEXLO_API int PEXLO_CALL Pexlo_RemoveAllDataInfo(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_AddDataInfo(PexloHandle handle, int code, int number, int type, int format,
+                                           int value);
+PEXLO_API int PEXLO_CALL Pexlo_GetDataInfoCount(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_GetDataInfo(PexloHandle handle, int index, PexloData* data);
+PEXLO_API int PEXLO_CALL Pexlo_RemoveAllDataInfo(PexloHandle handle);
 
-    PEXLO_API int PEXLO_CALL Pexlo_AddCmtInfo(PexloHandle handle, const char* text);
-    PEXLO_API int PEXLO_CALL Pexlo_AddCmtInfoUtf8(PexloHandle handle, const char* text);
-    PEXLO_API int PEXLO_CALL Pexlo_GetCmtInfoCount(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_GetCmtInfo(PexloHandle handle, int index, char* buffer, int size);
-    PEXLO_API int PEXLO_CALL Pexlo_GetCmtInfoUtf8(PexloHandle handle, int index, char* buffer, int size);
-    PEXLO_API int PEXLO_CALL Pexlo_RemoveAllCmtInfo(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_AddCmtInfo(PexloHandle handle, const char* text);
+PEXLO_API int PEXLO_CALL Pexlo_AddCmtInfoUtf8(PexloHandle handle, const char* text);
+PEXLO_API int PEXLO_CALL Pexlo_GetCmtInfoCount(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_GetCmtInfo(PexloHandle handle, int index, char* buffer, int size);
+PEXLO_API int PEXLO_CALL Pexlo_GetCmtInfoUtf8(PexloHandle handle, int index, char* buffer, int size);
+PEXLO_API int PEXLO_CALL Pexlo_RemoveAllCmtInfo(PexloHandle handle);
 
-    /* One record of the instruction sequence. */
-    typedef struct PexloInstCode
-    {
-        unsigned int size;
-        int kind;  /* -1 operand of the instruction before it, 1 second contact, 2 contact, 3 start output, 8 function
-                      instruction, 17 differential instruction */
-        int code;  /* device code; -1 for instructions */
-        int value; /* device number, constant, or function number */
-        int flag1;
-        int flag2;
-    } PexloInstCode;
+/* One record of the instruction sequence. */
+typedef struct PexloInstCode
+{
+    unsigned int size;
+    int kind;  /* -1 operand of the instruction before it, 1 second contact, 2 contact, 3 start output, 8 function
+                  instruction, 17 differential instruction */
+    int code;  /* device code; -1 for instructions */
+    int value; /* device number, constant, or function number */
+    int flag1;
+    int flag2;
+} PexloInstCode;
 
-    PEXLO_API int PEXLO_CALL Pexlo_AddInstCodeInfo(PexloHandle handle, int kind, int code, int value, int flag1,
-                                                   int flag2);
-    PEXLO_API int PEXLO_CALL Pexlo_GetInstCodeCount(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_GetInstCodeInfo(PexloHandle handle, int index, PexloInstCode* record);
-    PEXLO_API int PEXLO_CALL Pexlo_GetInstCode(PexloHandle handle, int index, int* kind, int* code, int* value,
-                                               int* flag1, int* flag2);
-    PEXLO_API int PEXLO_CALL Pexlo_RemoveAllInstCodeInfo(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_AddInstCodeInfo(PexloHandle handle, int kind, int code, int value, int flag1,
+                                               int flag2);
+PEXLO_API int PEXLO_CALL Pexlo_GetInstCodeCount(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_GetInstCodeInfo(PexloHandle handle, int index, PexloInstCode* record);
+PEXLO_API int PEXLO_CALL Pexlo_GetInstCode(PexloHandle handle, int index, int* kind, int* code, int* value,
+                                           int* flag1, int* flag2);
+PEXLO_API int PEXLO_CALL Pexlo_RemoveAllInstCodeInfo(PexloHandle handle);
 
-    PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_1(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_11(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_2(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_3(PexloHandle handle);
-    PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_4(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_1(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_11(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_2(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_3(PexloHandle handle);
+PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_4(PexloHandle handle);
 
-/* ---- The wizards without windows -------------------------------------------------------------------------------- */
+/* ---- The wizards without windows --------------------------------------------------------------------------------- */
 /* The same dialogs run and check the same, and nothing is shown: texts and items that a user would enter are passed,
  * and the message that he would see comes back. Any thread can do it with a handle of its own; no desktop is needed. */
 
@@ -241,49 +235,49 @@ extern "C"
 #define PEXLO_FORM_CONTROL_CODE 0 /* the control code of a positioning unit's axis, in place of an instruction */
 #define PEXLO_FORM_UNIT 151       /* an operation of the positioning unit: the variant tells which */
 
-    typedef struct PexloForm
-    {
-        unsigned int size;
-        int instruction;           /* 168..177, 151, 180 screen display, 282, 283, 354, 355, or 0 */
-        int variant;               /* form 0 or 1 of F168 and F171; 10010..10080; else 0 */
-        int axisFlag;              /* 151: 0 for a two-axis unit, else 1 */
-        int workArea;              /* 355: as Pexlo_DoOpenPIDDlg takes it */
-        unsigned int controlCode;  /* 0: what is shown at first; replaced by what was confirmed */
-        int restricted;            /* 180, 282, 283, 354: whether the masks that follow count; 0 permits all */
-        unsigned int permitted[4]; /* as Pexlo_DoOpenSCRDlg and Pexlo_DoOpenSCALDlg take them */
-    } PexloForm;
+typedef struct PexloForm
+{
+    unsigned int size;
+    int instruction;           /* 168..177, 151, 180 screen display, 282, 283, 354, 355, or 0 */
+    int variant;               /* form 0 or 1 of F168 and F171; 10010..10080; else 0 */
+    int axisFlag;              /* 151: 0 for a two-axis unit, else 1 */
+    int workArea;              /* 355: as Pexlo_DoOpenPIDDlg takes it */
+    unsigned int controlCode;  /* 0: what is shown at first; replaced by what was confirmed */
+    int restricted;            /* 180, 282, 283, 354: whether the masks that follow count; 0 permits all */
+    unsigned int permitted[4]; /* as Pexlo_DoOpenSCRDlg and Pexlo_DoOpenSCALDlg take them */
+} PexloForm;
 
-    /* Which dialogs the PLC has: 168..177 as far as they are registered, 151 with each operation, 355, 180, 282, 283,
-     * 354, 0. Index from 0; 0 behind the last one. */
-    typedef struct PexloOffer
-    {
-        unsigned int size;
-        int instruction;
-        int variant;
-        char text[256]; /* as the selection list shows it, columns separated by tabs; empty where there is no such list
-                         */
-    } PexloOffer;
+/* Which dialogs the PLC has: 168..177 as far as they are registered, 151 with each operation, 355, 180, 282, 283,
+ * 354, 0. Index from 0; 0 behind the last one. */
+typedef struct PexloOffer
+{
+    unsigned int size;
+    int instruction;
+    int variant;
+    char text[256]; /* as the selection list shows it, columns separated by tabs; empty where there is no such list
+                     */
+} PexloOffer;
 
-    PEXLO_API int PEXLO_CALL Pexlo_GetOffer(PexloHandle handle, int index, PexloOffer* offer);
+PEXLO_API int PEXLO_CALL Pexlo_GetOffer(PexloHandle handle, int index, PexloOffer* offer);
 
-    /* What to enter, and where: a control by its id, or by its name when the id is 0.
-     *
-     * An edit takes the text that a user would type; nothing is cut. A list takes the text of an item, or "#" and the
-     * item's code, decimal or with 0x hexadecimal. A check box or button that stays pressed takes 1 or 0, on or off,
-     * true or false. A table takes its rows: cells separated by tabs, or by commas when there is no tab, rows by line
-     * breaks.
-     *
-     * Entries are made one after the other. One whose field is not enabled yet, or whose item is not listed yet, waits
-     * for those behind it, and one that a later entry has changed again is made again: when all have been made each
-     * field holds what was asked for, or the call is refused. In the screen display dialog each of the entries
-     * "upside-line" and "downside-line" turns to the settings of that line, for the entries behind it. */
-    typedef struct PexloEntry
-    {
-        unsigned int size;
-        int control;
-        const char* name;
-        const char* text;
-    } PexloEntry;
+/* What to enter, and where: a control by its id, or by its name when the id is 0.
+ *
+ * An edit takes the text that a user would type; nothing is cut. A list takes the text of an item, or "#" and the
+ * item's code, decimal or with 0x hexadecimal. A check box or button that stays pressed takes 1 or 0, on or off,
+ * true or false. A table takes its rows: cells separated by tabs, or by commas when there is no tab, rows by line
+ * breaks.
+ *
+ * Entries are made one after the other. One whose field is not enabled yet, or whose item is not listed yet, waits
+ * for those behind it, and one that a later entry has changed again is made again: when all have been made each
+ * field holds what was asked for, or the call is refused. In the screen display dialog each of the entries
+ * "upside-line" and "downside-line" turns to the settings of that line, for the entries behind it. */
+typedef struct PexloEntry
+{
+    unsigned int size;
+    int control;
+    const char* name;
+    const char* text;
+} PexloEntry;
 
 /* Why a form was not accepted. */
 #define PEXLO_REFUSED_BY_MESSAGE 1 /* by the dialog: messageId and message say what a user would have seen */
@@ -293,29 +287,28 @@ extern "C"
 #define PEXLO_REFUSED_NOT_ENABLED 5  /* the field is not enabled with the other entries as they are */
 #define PEXLO_REFUSED_CHANGED 6      /* another entry has changed the field again */
 #define PEXLO_REFUSED_NOT_POSSIBLE 7 /* the PLC lacks what the dialog needs */
-#define PEXLO_REFUSED_CANNOT_OPEN 8  /* the dialog could not be opened: a device that it cannot do without is missing  \
-                                      */
+#define PEXLO_REFUSED_CANNOT_OPEN 8  /* the dialog could not be opened: a device or a language library is missing */
 
-    typedef struct PexloRefusal
-    {
-        unsigned int size;
-        int reason;        /* PEXLO_REFUSED_...; 0 when nothing was refused */
-        int messageId;     /* of the message; 0 unless the dialog has refused */
-        int control;       /* the control that was refused; 0 when it is none */
-        int entry;         /* index of the entry that was refused; -1 when it is none */
-        int row, column;   /* of the cell that was refused, from 1; 0 when it is no table */
-        char name[32];     /* the name of the control */
-        char message[512]; /* the dialog's in its language; else an English sentence */
-    } PexloRefusal;
+typedef struct PexloRefusal
+{
+    unsigned int size;
+    int reason;        /* PEXLO_REFUSED_...; 0 when nothing was refused */
+    int messageId;     /* of the message; 0 unless the dialog has refused */
+    int control;       /* the control that was refused; 0 when it is none */
+    int entry;         /* index of the entry that was refused; -1 when it is none */
+    int row, column;   /* of the cell that was refused, from 1; 0 when it is no table */
+    char name[32];     /* the name of the control */
+    char message[512]; /* the dialog's in its language; else an English sentence */
+} PexloRefusal;
 
-    /* Opens the dialog unseen, makes the entries and presses OK. Fields that are not named keep what the dialog shows
-     * when it opens: defaults, or what the lists hold from the same instruction, confirmed before. 1: the lists are
-     * those of the dialog. 2: refused, and everything is as it was; `refusal`, which may be null, says why. */
-    PEXLO_API int PEXLO_CALL Pexlo_Fill(PexloHandle handle, PexloForm* form, const PexloEntry* entries, int count,
-                                        PexloRefusal* refusal);
-    /* The same, and stores nothing. */
-    PEXLO_API int PEXLO_CALL Pexlo_Check(PexloHandle handle, const PexloForm* form, const PexloEntry* entries,
-                                         int count, PexloRefusal* refusal);
+/* Opens the dialog unseen, makes the entries and presses OK. Fields that are not named keep what the dialog shows
+ * when it opens: defaults, or what the lists hold from the same instruction, confirmed before. 1: the lists are
+ * those of the dialog. 2: refused, and everything is as it was; `refusal`, which may be null, says why. */
+PEXLO_API int PEXLO_CALL Pexlo_Fill(PexloHandle handle, PexloForm* form, const PexloEntry* entries, int count,
+                                    PexloRefusal* refusal);
+/* The same, and stores nothing. */
+PEXLO_API int PEXLO_CALL Pexlo_Check(PexloHandle handle, const PexloForm* form, const PexloEntry* entries,
+                                     int count, PexloRefusal* refusal);
 
 /* Kinds of fields. */
 #define PEXLO_FIELD_EDIT 1
@@ -324,55 +317,55 @@ extern "C"
 #define PEXLO_FIELD_RADIO 4 /* on: the others of its group go off */
 #define PEXLO_FIELD_TABLE 5 /* its items are the headings of its columns */
 
-    /* A field as it stands after the entries. */
-    typedef struct PexloField
-    {
-        unsigned int size;
-        int control;    /* its id */
-        int kind;       /* PEXLO_FIELD_... */
-        int enabled;    /* 0: it does not count as things stand */
-        int limit;      /* characters that an edit takes; 0 = any number */
-        int digitsOnly; /* 1: an edit takes digits only */
-        int itemCount;  /* of a list; columns of a table */
-        int selected; /* index of the item of a list, -1 for none; 0 or 1 for check boxes; rows of a table that are used
-                       */
-        int mostRows; /* of a table */
-        int hasRange; /* 1: an edit accepts low to high, both included, in units of its last decimal */
-        int low, high;
-        int decimals;    /* digits behind the point */
-        int messageId;   /* of the message when an entry is outside the range; 0 when there is none */
-        int problem;     /* id of the message with which the present entry would be refused; 0 when it is accepted */
-        int inTable;     /* 1: the entry stands in the data table */
-        int offset;      /* registers from the start of the data table */
-        int registers;   /* how many it takes */
-        int bitShift;    /* a list whose code is a part of the control code: its lowest bit ... */
-        int bitWidth;    /* ... and how many; 0: it is none */
-        char name[32];   /* never changes, and is the same in every language */
-        char lowest[24]; /* the range as one types it */
-        char highest[24];
-        char label[256]; /* in the language of the dialog */
-        char text[256];  /* what it holds, cut when it is longer: Pexlo_GetFieldText has all of it */
-    } PexloField;
+/* A field as it stands after the entries. */
+typedef struct PexloField
+{
+    unsigned int size;
+    int control;    /* its id */
+    int kind;       /* PEXLO_FIELD_... */
+    int enabled;    /* 0: it does not count as things stand */
+    int limit;      /* characters that an edit takes; 0 = any number */
+    int digitsOnly; /* 1: an edit takes digits only */
+    int itemCount;  /* of a list; columns of a table */
+    int selected; /* index of the item of a list, -1 for none; 0 or 1 for check boxes; rows of a table that are used
+                   */
+    int mostRows; /* of a table */
+    int hasRange; /* 1: an edit accepts low to high, both included, in units of its last decimal */
+    int low, high;
+    int decimals;    /* digits behind the point */
+    int messageId;   /* of the message when an entry is outside the range; 0 when there is none */
+    int problem;     /* id of the message with which the present entry would be refused; 0 when it is accepted */
+    int inTable;     /* 1: the entry stands in the data table */
+    int offset;      /* registers from the start of the data table */
+    int registers;   /* how many it takes */
+    int bitShift;    /* a list whose code is a part of the control code: its lowest bit ... */
+    int bitWidth;    /* ... and how many; 0: it is none */
+    char name[32];   /* never changes, and is the same in every language */
+    char lowest[24]; /* the range as one types it */
+    char highest[24];
+    char label[256]; /* in the language of the dialog */
+    char text[256];  /* what it holds, cut when it is longer: Pexlo_GetFieldText has all of it */
+} PexloField;
 
-    /* Opens the dialog unseen, makes the entries, as far as that is possible, and tells its fields in tab order: writes
-     * up to `capacity` of them and returns how many there are. Each of them has its size set by the caller. `refusal`,
-     * which may be null, tells of the first entry that could not be made. Nothing else changes. 2 is no special result
-     * here; a dialog that cannot be opened has 0 fields. */
-    PEXLO_API int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, const PexloEntry* entries,
-                                                  int count, PexloField* fields, int capacity, PexloRefusal* refusal);
+/* Opens the dialog unseen, makes the entries, as far as that is possible, and tells its fields in tab order: writes
+ * up to `capacity` of them and returns how many there are. Each of them has its size set by the caller. `refusal`,
+ * which may be null, tells of the first entry that could not be made. Nothing else changes. 2 is no special result
+ * here; a dialog that cannot be opened has 0 fields. */
+PEXLO_API int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, const PexloEntry* entries,
+                                              int count, PexloField* fields, int capacity, PexloRefusal* refusal);
 
-    /* An item of a list: its code and its text; the heading of a table's column. */
-    typedef struct PexloItem
-    {
-        unsigned int size;
-        unsigned int code; /* of a list of devices: the device code in its low 16 bits */
-        char text[256];
-    } PexloItem;
+/* An item of a list: its code and its text; the heading of a table's column. */
+typedef struct PexloItem
+{
+    unsigned int size;
+    unsigned int code; /* of a list of devices: the device code in its low 16 bits */
+    char text[256];
+} PexloItem;
 
-    /* Of what the last Pexlo_DescribeFields has told; fields and items count from 0. The text of all fields together is
-     * the caption of the dialog: field -1. A bad index: 0. */
-    PEXLO_API int PEXLO_CALL Pexlo_GetFieldItem(PexloHandle handle, int field, int item, PexloItem* info);
-    PEXLO_API int PEXLO_CALL Pexlo_GetFieldText(PexloHandle handle, int field, char* buffer, int size);
+/* Of what the last Pexlo_DescribeFields has told; fields and items count from 0. The text of all fields together is
+ * the caption of the dialog: field -1. A bad index: 0. */
+PEXLO_API int PEXLO_CALL Pexlo_GetFieldItem(PexloHandle handle, int field, int item, PexloItem* info);
+PEXLO_API int PEXLO_CALL Pexlo_GetFieldText(PexloHandle handle, int field, char* buffer, int size);
 
 #ifdef __cplusplus
 }

@@ -30,13 +30,15 @@ void CFormFiller::Work(CWzdDialog& dialog)
 {
     m_dialog = &dialog;
     m_refusal = {};
+    m_fields = CField::AllOf(dialog);
     const CWnd* const ok = dialog.GetDlgItem(IDOK);
     if (ok != nullptr && !ok->IsWindowEnabled())
         m_refusal.problem = kNotPossible;
     else
         MakeEntries(dialog);
     Finish(dialog);
-    Explain(&dialog);
+    Explain();
+    m_fields.clear();
     m_dialog = nullptr;
 }
 
@@ -66,33 +68,33 @@ void CFormFiller::MakeEntries(CWzdDialog& dialog)
     std::vector<SPageEntry> page;
     for (int index = 0; index < static_cast<int>(m_entries.size()); ++index)
     {
-        if (!Find(dialog, index, page))
+        if (!Find(index, page))
             return;
         if (!dialog.TurnsPage(page.back().field.Id()))
             continue;
         std::vector<SPageEntry> turn = {page.back()};
         page.pop_back();
-        if (!MakePage(dialog, page) || !MakePage(dialog, turn))
+        if (!MakePage(page) || !MakePage(turn))
             return;
         page.clear();
     }
-    MakePage(dialog, page);
+    MakePage(page);
 }
 
-bool CFormFiller::Find(CWzdDialog& dialog, int index, std::vector<SPageEntry>& page)
+bool CFormFiller::Find(int index, std::vector<SPageEntry>& page)
 {
     const SFormEntry& entry = m_entries[static_cast<size_t>(index)];
-    for (const CField& field : CField::AllOf(dialog))
+    for (const CField& field : m_fields)
         if (entry.control != 0 ? field.Id() == entry.control : !field.Name().empty() && field.Name() == entry.name)
         {
             page.push_back({index, field});
             return true;
         }
-    return Reject(dialog, index, {kNoField});
+    return Reject(index, {kNoField});
 }
 
 // Again and again until every field holds what was asked for: fields may wait for others, and change others.
-bool CFormFiller::MakePage(CWzdDialog& dialog, std::vector<SPageEntry>& page)
+bool CFormFiller::MakePage(std::vector<SPageEntry>& page)
 {
     for (size_t pass = 0; pass <= page.size(); ++pass)
     {
@@ -114,27 +116,27 @@ bool CFormFiller::MakePage(CWzdDialog& dialog, std::vector<SPageEntry>& page)
                 outcome = made;
             }
             if (made.problem == kCannotBeTyped)
-                return Reject(dialog, entry.index, made);
+                return Reject(entry.index, made);
         }
         if (isComplete)
             return true;
         if (!isMoving)
-            return Reject(dialog, rejected, outcome);
+            return Reject(rejected, outcome);
     }
     for (const SPageEntry& entry : page)
         if (!entry.field.Holds(m_entries[static_cast<size_t>(entry.index)].text))
-            return Reject(dialog, entry.index, {kChangedAgain});
+            return Reject(entry.index, {kChangedAgain});
     return true;
 }
 
-bool CFormFiller::Reject(CWzdDialog& dialog, int index, const SEntryOutcome& outcome)
+bool CFormFiller::Reject(int index, const SEntryOutcome& outcome)
 {
     const SFormEntry& entry = m_entries[static_cast<size_t>(index)];
     m_refusal = {outcome.problem, 0, entry.control, index, outcome.row, outcome.column, {}, {}};
     if (entry.control == 0)
     {
         m_refusal.name = entry.name;
-        for (const CField& field : CField::AllOf(dialog))
+        for (const CField& field : m_fields)
             if (field.Name() == entry.name)
                 m_refusal.control = field.Id();
     }
@@ -143,11 +145,11 @@ bool CFormFiller::Reject(CWzdDialog& dialog, int index, const SEntryOutcome& out
 
 // ---- What is told ---------------------------------------------------------------------------------------------------
 
-void CFormFiller::Explain(const CWzdDialog* dialog)
+void CFormFiller::Explain()
 {
     SFormRefusal& refusal = m_refusal;
-    if (refusal.control != 0 && refusal.name.empty() && dialog != nullptr)
-        refusal.name = FieldName(dialog->TemplateId(), refusal.control);
+    if (refusal.control != 0 && refusal.name.empty())
+        refusal.name = FieldName(m_dialog->TemplateId(), refusal.control);
     const std::string field = refusal.name.empty() ? std::to_string(refusal.control) : refusal.name;
     const std::string text = refusal.entry >= 0 ? m_entries[static_cast<size_t>(refusal.entry)].text : std::string();
     switch (refusal.problem)

@@ -59,14 +59,15 @@ private:
         CField field;
     };
 
-    bool Find(CWzdDialog& dialog, int index, std::vector<SPageEntry>& page);
-    bool MakePage(CWzdDialog& dialog, std::vector<SPageEntry>& page);
-    bool Reject(CWzdDialog& dialog, int index, const SEntryOutcome& outcome);
-    void Explain(const CWzdDialog* dialog);
+    bool Find(int index, std::vector<SPageEntry>& page);
+    bool MakePage(std::vector<SPageEntry>& page);
+    bool Reject(int index, const SEntryOutcome& outcome);
+    void Explain();
 
     SWizardChoice m_choice;
     std::span<const SFormEntry> m_entries;
     CWzdDialog* m_dialog = nullptr;
+    std::vector<CField> m_fields; ///< of the dialog
     bool m_offered = true;
     bool m_chosen = false;
 };
