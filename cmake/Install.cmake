@@ -10,7 +10,6 @@ set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Pexlo)
 if(TARGET pexlo_shared)
     set(library pexlo_shared)
     set_target_properties(pexlo_shared PROPERTIES EXPORT_NAME Pexlo)
-    target_sources(pexlo_shared PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${interface_headers})
     set(language_folder ${CMAKE_INSTALL_LIBDIR})
 elseif(WIN32)
     set(library Pexlo)
@@ -67,12 +66,9 @@ endif()
 
 if(BUILD_TESTING)
     # The programs of a host that finds the library; it is compiled as the library is.
-    set(programs)
+    set(programs UsesInterface)
     if(WIN32)
         list(APPEND programs UsesClass)
-    endif()
-    if(EXISTS ${PROJECT_SOURCE_DIR}/capi)
-        list(APPEND programs UsesInterface)
     endif()
     set(options -G ${CMAKE_GENERATOR} -DCMAKE_BUILD_TYPE=Release)
     if(CMAKE_TOOLCHAIN_FILE)
@@ -93,8 +89,9 @@ if(BUILD_TESTING)
 endif()
 
 if(BUILD_TESTING AND NOT PEXLO_SANITIZE)
+    set(files $<TARGET_FILE:${library}> ${language_files} ${import_libraries})
     add_test(NAME reproducible
-             COMMAND ${CMAKE_COMMAND} "-DFILES=$<TARGET_FILE:${library}>;${language_files};${import_libraries}"
+             COMMAND ${CMAKE_COMMAND} "-DFILES=${files}"
                      -DSOURCE=${PROJECT_SOURCE_DIR} -DBUILD=${PROJECT_BINARY_DIR}
                      -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckMeans.cmake)
 endif()

@@ -40,9 +40,7 @@ foreach(objects afx wizard)
     target_compile_definitions(${objects} PRIVATE PEXLO_BUILD $<$<BOOL:${PEXLO_WITH_MFC}>:PEXLO_WITH_MFC>
                                PEXLO_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} PEXLO_VERSION_MINOR=${PROJECT_VERSION_MINOR}
                                PEXLO_VERSION_PATCH=${PROJECT_VERSION_PATCH})
-    # What is built does not depend on the folders of the sources and of the build.
-    target_compile_options(${objects} PRIVATE -ffile-prefix-map=${PROJECT_BINARY_DIR}=build
-                                              -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+    target_compile_options(${objects} PRIVATE ${without_folders})
     target_include_directories(${objects} PUBLIC ${PROJECT_SOURCE_DIR})
     set_target_properties(${objects} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
                                                 VISIBILITY_INLINES_HIDDEN ON)
@@ -81,7 +79,7 @@ else()
     set_target_properties(pexlo_shared PROPERTIES OUTPUT_NAME pexlo VERSION ${PROJECT_VERSION}
                                                   SOVERSION ${PROJECT_VERSION_MAJOR})
     target_link_libraries(pexlo_shared PRIVATE module_resources)
-    target_include_directories(pexlo_shared INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+    target_sources(pexlo_shared PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${interface_headers})
     target_link_options(pexlo_shared PRIVATE -Wl,--exclude-libs,ALL)
     add_dependencies(pexlo_shared language_libraries)
 endif()

@@ -21,3 +21,6 @@ if(WIN32)
     # Two builds of the same sources give the same bytes.
     add_link_options(-Wl,--no-insert-timestamp)
 endif()
+
+# For what is delivered: objects do not name the folders of the sources and of the build.
+set(without_folders -ffile-prefix-map=${PROJECT_BINARY_DIR}=build -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)

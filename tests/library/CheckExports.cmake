@@ -1,6 +1,6 @@
 # Compares what Pexlo.dll exports with what it is meant to: the wizard, the classes of MFC that its header shares with the
-# hosts, and the code page of their narrow texts. Members count as their class.
-#   cmake -DDLL=... -DOBJDUMP=... -DCXXFILT=... -P CheckExports.cmake
+# hosts, the code page of their narrow texts, and the functions of the C interface. Members count as their class.
+#   cmake -DDLL=... -DHEADER=core/pexlo.h -DOBJDUMP=... -DCXXFILT=... -P CheckExports.cmake
 
 set(intended
     PexloDll_SetAppName CFunWizard
@@ -13,6 +13,10 @@ set(intended
     # The code page of narrow texts, which their own windows need too, and what makes such texts wide and back.
     AfxGetTextPage AfxSetTextPage CWideBuffer CWideText AfxNarrow)
 
+file(STRINGS ${HEADER} functions REGEX "^ *PEXLO_API .*PEXLO_CALL Pexlo_")
+list(TRANSFORM functions REPLACE ".*PEXLO_CALL (Pexlo_[A-Za-z0-9_]+)\\(.*" "\\1")
+list(APPEND intended ${functions})
+
 execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX REPLACE ".*\\[Ordinal/Name Pointer\\] Table[^\n]*\n" "" headers "${headers}")
 string(REGEX REPLACE "\n\n.*" "" headers "${headers}")
@@ -21,6 +25,12 @@ list(TRANSFORM rows REPLACE "\\[ *[0-9]+\\] *" "")
 list(LENGTH rows count)
 if(count EQUAL 0)
     message(FATAL_ERROR "No exports were read from ${DLL}.")
+endif()
+
+set(decorated ${rows})
+list(FILTER decorated INCLUDE REGEX "^_?Pexlo.*@")
+if(decorated)
+    message(FATAL_ERROR "Pexlo.dll exports functions of the C interface under decorated names: ${decorated}")
 endif()
 
 string(REPLACE ";" "\n" rows "${rows}")
