@@ -160,6 +160,20 @@ int ClampToInt(LONGLONG value)
         std::clamp<LONGLONG>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
+/// `TTold` is a field or an item.
+template <typename TTold>
+void TellNumbers(const std::optional<SFieldNumbers>& numbers, TTold& told)
+{
+    told.hasRange = numbers.has_value();
+    if (!numbers)
+        return;
+    told.low = ClampToInt(numbers->range.low);
+    told.high = ClampToInt(numbers->range.high);
+    told.decimals = numbers->decimals;
+    CopyTo(told.lowest, numbers->lowest);
+    CopyTo(told.highest, numbers->highest);
+}
+
 PexloField ToField(const SFieldDescription& field)
 {
     PexloField told = {};
@@ -171,13 +185,7 @@ PexloField ToField(const SFieldDescription& field)
     told.itemCount = static_cast<int>(field.items.size());
     told.selected = field.selected;
     told.mostRows = field.mostRows;
-    told.hasRange = field.range.has_value();
-    if (field.range)
-    {
-        told.low = ClampToInt(field.range->low);
-        told.high = ClampToInt(field.range->high);
-    }
-    told.decimals = field.decimals;
+    TellNumbers(field.numbers, told);
     told.messageId = static_cast<int>(field.message);
     told.problem = static_cast<int>(field.problem);
     told.inTable = field.entry.count > 0;
@@ -189,8 +197,6 @@ PexloField ToField(const SFieldDescription& field)
     told.bitShift = field.bits.shift;
     told.bitWidth = field.bits.width;
     CopyTo(told.name, field.name);
-    CopyTo(told.lowest, field.lowest);
-    CopyTo(told.highest, field.highest);
     CopyTo(told.label, field.label);
     CopyTo(told.text, field.text);
     return told;
@@ -285,7 +291,10 @@ int PEXLO_CALL Pexlo_GetFieldItem(PexloHandle handle, int field, int item, Pexlo
         if (item < 0 || item >= static_cast<int>(items.size()))
             return 0;
         const SFieldItem& found = items[static_cast<size_t>(item)];
-        PexloItem known = {0, static_cast<unsigned int>(found.code), ""};
+        PexloItem known = {};
+        known.code = static_cast<unsigned int>(found.code);
+        known.limit = found.limit;
+        TellNumbers(found.numbers, known);
         CopyTo(known.text, found.text);
         WriteStructure(info, known);
         return 1;

@@ -254,8 +254,7 @@ typedef struct PexloOffer
     unsigned int size;
     int instruction;
     int variant;
-    char text[256]; /* as the selection list shows it, columns separated by tabs; empty where there is no such list
-                     */
+    char text[256]; /* as the selection list shows it, columns separated by tabs; empty where there is no such list */
 } PexloOffer;
 
 PEXLO_API int PEXLO_CALL Pexlo_GetOffer(PexloHandle handle, int index, PexloOffer* offer);
@@ -280,10 +279,10 @@ typedef struct PexloEntry
 } PexloEntry;
 
 /* Why a form was not accepted. */
-#define PEXLO_REFUSED_BY_MESSAGE 1 /* by the dialog: messageId and message say what a user would have seen */
-#define PEXLO_REFUSED_NO_FIELD 2   /* the dialog has no such field */
-#define PEXLO_REFUSED_NO_ITEM 3    /* the list has no such item, or a check box was given something else than on, off */
-#define PEXLO_REFUSED_TYPING 4 /* the field does not take such a text: too long, or a character it does not accept */
+#define PEXLO_REFUSED_BY_MESSAGE 1   /* by the dialog: messageId and message say what a user would have seen */
+#define PEXLO_REFUSED_NO_FIELD 2     /* the dialog has no such field */
+#define PEXLO_REFUSED_NO_ITEM 3      /* the list has no such item, or a check box got neither on nor off */
+#define PEXLO_REFUSED_TYPING 4       /* the field does not take such a text: too long, or characters not accepted */
 #define PEXLO_REFUSED_NOT_ENABLED 5  /* the field is not enabled with the other entries as they are */
 #define PEXLO_REFUSED_CHANGED 6      /* another entry has changed the field again */
 #define PEXLO_REFUSED_NOT_POSSIBLE 7 /* the PLC lacks what the dialog needs */
@@ -321,45 +320,51 @@ PEXLO_API int PEXLO_CALL Pexlo_Check(PexloHandle handle, const PexloForm* form, 
 typedef struct PexloField
 {
     unsigned int size;
-    int control;    /* its id */
-    int kind;       /* PEXLO_FIELD_... */
-    int enabled;    /* 0: it does not count as things stand */
-    int limit;      /* characters that an edit takes; 0 = any number */
-    int digitsOnly; /* 1: an edit takes digits only */
-    int itemCount;  /* of a list; columns of a table */
-    int selected; /* index of the item of a list, -1 for none; 0 or 1 for check boxes; rows of a table that are used
-                   */
-    int mostRows; /* of a table */
-    int hasRange; /* 1: an edit accepts low to high, both included, in units of its last decimal */
-    int low, high;
+    int control;     /* its id */
+    int kind;        /* PEXLO_FIELD_... */
+    int enabled;     /* 0: it does not count as things stand */
+    int limit;       /* characters that an edit takes; 0 = any number */
+    int digitsOnly;  /* 1: an edit takes digits only */
+    int itemCount;   /* of a list; columns of a table */
+    int selected;    /* the item of a list, -1 for none; 0 or 1 of a check box; the rows used of a table */
+    int mostRows;    /* of a table */
+    int hasRange;    /* 1: an edit accepts low to high, both included, in units of its last decimal */
+    int low;
+    int high;
     int decimals;    /* digits behind the point */
     int messageId;   /* of the message when an entry is outside the range; 0 when there is none */
-    int problem;     /* id of the message with which the present entry would be refused; 0 when it is accepted */
+    int problem;     /* of the message with which the present entry would be refused; 0 when it is accepted */
     int inTable;     /* 1: the entry stands in the data table */
     int offset;      /* registers from the start of the data table */
     int registers;   /* how many it takes */
     int bitShift;    /* a list whose code is a part of the control code: its lowest bit ... */
     int bitWidth;    /* ... and how many; 0: it is none */
-    char name[32];   /* never changes, and is the same in every language */
+    char name[32];   /* the same in every language and version */
     char lowest[24]; /* the range as one types it */
     char highest[24];
     char label[256]; /* in the language of the dialog */
     char text[256];  /* what it holds, cut when it is longer: Pexlo_GetFieldText has all of it */
 } PexloField;
 
-/* Opens the dialog unseen, makes the entries, as far as that is possible, and tells its fields in tab order: writes
- * up to `capacity` of them and returns how many there are. Each of them has its size set by the caller. `refusal`,
- * which may be null, tells of the first entry that could not be made. Nothing else changes. 2 is no special result
- * here; a dialog that cannot be opened has 0 fields. */
+/* Opens the dialog unseen, makes the entries, as far as that is possible, and tells its fields in tab order: writes up to
+ * `capacity` of them, each with its size set by the caller, and returns how many there are; 0 when the dialog cannot be
+ * opened. `refusal`, which may be null, tells of the first entry that could not be made. Nothing else changes. */
 PEXLO_API int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, const PexloEntry* entries,
                                               int count, PexloField* fields, int capacity, PexloRefusal* refusal);
 
-/* An item of a list: its code and its text; the heading of a table's column. */
+/* An item of a list, or a column of a table. */
 typedef struct PexloItem
 {
     unsigned int size;
-    unsigned int code; /* of a list of devices: the device code in its low 16 bits */
-    char text[256];
+    unsigned int code; /* of an item; in a list of devices the device code */
+    int limit;         /* of a column, as of a field: characters, range, decimals */
+    int hasRange;
+    int low;
+    int high;
+    int decimals;
+    char lowest[24];
+    char highest[24];
+    char text[256];    /* the item, or the heading of the column */
 } PexloItem;
 
 /* Of what the last Pexlo_DescribeFields has told; fields and items count from 0. The text of all fields together is

@@ -149,8 +149,7 @@ std::optional<SWzdAccepted> CWzdDlgBase::AcceptedNumbers(const SWzdRow& row) con
     if (!GetSelectedDevice(combo, kind, code))
         return std::nullopt;
     if (const SWzdConstant* constant = FindConstant(row, code))
-        return SWzdAccepted{constant->range, constant->format.Format(constant->range.low),
-                            constant->format.Format(constant->range.high), constant->format.decimals};
+        return CWzdField::NumbersOf(constant->range, constant->format);
     if (!Wizard().GetDevRange(kind, code, low, high))
         return std::nullopt;
     high = Lowered(high, row.less);

@@ -30,6 +30,10 @@ public:
     CWzdField& operator=(const CWzdField&) = delete;
 
     const SWzdRow& Describe() const { return m_row; }
+    static SWzdAccepted NumbersOf(const SWzdRange& range, const SWzdFormat& format)
+    {
+        return {range, format.Format(range.low), format.Format(range.high), format.decimals};
+    }
 
     /// Fills the controls and restores them from the wizard's lists. False when a list refused an item.
     [[nodiscard]] virtual bool Open() { return true; }
@@ -38,7 +42,7 @@ public:
     /// What the edit accepts as things stand; nothing when that is no range.
     virtual std::optional<SWzdAccepted> AcceptedNumbers() const
     {
-        return m_row.range.low <= m_row.range.high ? std::optional(Accepted(m_row.range, m_row.format)) : std::nullopt;
+        return m_row.range.low <= m_row.range.high ? std::optional(NumbersOf(m_row.range, m_row.format)) : std::nullopt;
     }
     /// Brings labels, limits and enabling into line with the other fields.
     virtual void Refresh() {}
@@ -52,11 +56,6 @@ public:
     [[nodiscard]] virtual bool Collect(CWzdResults&) { return true; }
 
 protected:
-    static SWzdAccepted Accepted(const SWzdRange& range, const SWzdFormat& format)
-    {
-        return {range, format.Format(range.low), format.Format(range.high), format.decimals};
-    }
-
     CWzdDlgBase& m_dialog;
     const SWzdRow& m_row;
 };

@@ -28,7 +28,7 @@ public:
     std::optional<SWzdAccepted> AcceptedNumbers() const override
     {
         const auto range = Range();
-        return range ? std::optional(Accepted(*range, m_row.format)) : std::nullopt;
+        return range ? std::optional(NumbersOf(*range, m_row.format)) : std::nullopt;
     }
 
     // The longer the table, the lower the highest start.

@@ -1,7 +1,9 @@
 #include "dialogs/unseen/FormDescriber.h"
 
 #include "afx/CodePage.h"
-#include "dialogs/base/WzdDlgBase.h"
+#include "dialogs/grid/GridField.h"
+
+#include <algorithm>
 
 namespace
 {
@@ -10,6 +12,12 @@ std::string Utf8(const CString& text)
 {
     const CWideText wide(text);
     return static_cast<LPCSTR>(AfxNarrow(wide, wide.GetLength(), CP_UTF8));
+}
+
+SFieldNumbers NumbersOf(const SWzdAccepted& accepted)
+{
+    return {accepted.range, static_cast<LPCSTR>(accepted.lowest), static_cast<LPCSTR>(accepted.highest),
+            accepted.decimals};
 }
 
 } // namespace
@@ -63,24 +71,33 @@ void CFormDescriber::DescribeControls(CWzdDialog& dialog)
     }
 }
 
+void CFormDescriber::AddColumns(const CGridField& table)
+{
+    SFieldDescription* const field = FindField(IDC_GRID_CELLS);
+    for (size_t i = 0; field != nullptr && i < std::min(field->items.size(), table.Columns().size()); ++i)
+    {
+        const SGridColumn& column = table.Columns()[i];
+        field->items[i].limit = column.limit;
+        if (column.range.low <= column.range.high && column.rangeText == 0) // which tells it in words
+            field->items[i].numbers = NumbersOf(CWzdField::NumbersOf(column.range, column.format));
+    }
+}
+
 void CFormDescriber::AddDeclarations(CWzdDlgBase& dialog)
 {
     const auto add = [&](CWzdField& field) {
         const SWzdRow& row = field.Describe();
         if (SFieldDescription* const list = row.combo != 0 && row.bits.width > 0 ? FindField(row.combo) : nullptr)
             list->bits = row.bits;
+        if (const auto* const table = dynamic_cast<const CGridField*>(&field))
+            AddColumns(*table);
         SFieldDescription* const edit = row.edit != 0 ? FindField(row.edit) : nullptr;
         if (edit == nullptr)
             return true;
         edit->message = row.message;
         edit->entry = row.entry;
         if (const auto accepted = field.AcceptedNumbers())
-        {
-            edit->range = accepted->range;
-            edit->lowest = static_cast<LPCSTR>(accepted->lowest);
-            edit->highest = static_cast<LPCSTR>(accepted->highest);
-            edit->decimals = accepted->decimals;
-        }
+            edit->numbers = NumbersOf(*accepted);
         return true;
     };
     CWzdWalk walk(dialog, false, add);

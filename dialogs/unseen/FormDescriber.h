@@ -4,10 +4,24 @@
 #include "dialogs/base/WzdDlgBase.h"
 #include "dialogs/unseen/FormFiller.h"
 
+class CGridField;
+
+/// Numbers that are accepted.
+struct SFieldNumbers
+{
+    SWzdRange range;
+    std::string lowest; ///< as one types them
+    std::string highest;
+    int decimals;
+};
+
+/// An item of a list, or a column of a table.
 struct SFieldItem
 {
     DWORD code;
     std::string text;
+    int limit = 0;
+    std::optional<SFieldNumbers> numbers = {};
 };
 
 /// A field as it stands after the entries. Texts are in UTF-8.
@@ -24,10 +38,7 @@ struct SFieldDescription
     int selected = 0;
     int mostRows = 0;
     std::vector<SFieldItem> items;
-    std::optional<SWzdRange> range;
-    std::string lowest; ///< the range as one types it
-    std::string highest;
-    int decimals = 0;
+    std::optional<SFieldNumbers> numbers;
     UINT message = 0; ///< when the entry is outside the range
     UINT problem = 0; ///< the message with which the present entry would be refused
     SWzdEntry entry = {0, kOneRegister, 0};
@@ -50,6 +61,7 @@ protected:
 
 private:
     void DescribeControls(CWzdDialog& dialog);
+    void AddColumns(const CGridField& table);
     void AddDeclarations(CWzdDlgBase& dialog);
     SFieldDescription* FindField(UINT control);
 
