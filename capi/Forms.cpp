@@ -255,9 +255,6 @@ int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, c
             return PEXLO_E_ARGUMENT;
         if ((refusal != nullptr && !HasRoom(refusal)) || (capacity > 0 && !HasRoom(fields)))
             return PEXLO_E_SIZE;
-        for (int i = 1; i < capacity; ++i)
-            if (ElementAt(fields, i)->size != fields->size)
-                return PEXLO_E_SIZE;
 
         const CKeptResults before = KeptBefore(*object.wizard, call.form);
         CFormDescriber user(call.Choice(), call.entries);
@@ -268,12 +265,13 @@ int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, c
         object.fields = user.Fields();
         object.caption = user.Caption();
         const int found = static_cast<int>(object.fields.size());
-        const unsigned int stride = capacity > 0 ? fields->size : 0;
-        for (int i = 0; i < std::min(found, capacity); ++i)
-        {
-            auto* const told = reinterpret_cast<PexloField*>(reinterpret_cast<char*>(fields) + i * size_t{stride});
-            WriteStructure(told, ToField(object.fields[static_cast<size_t>(i)]));
-        }
+        const int told = std::min(found, capacity);
+        for (int i = 1; i < told; ++i)
+            if (ElementAt(fields, i)->size != fields->size)
+                return PEXLO_E_SIZE;
+        // The first one is written last: its size tells where the others are.
+        for (int i = told - 1; i >= 0; --i)
+            WriteStructure(ElementAt(fields, i), ToField(object.fields[static_cast<size_t>(i)]));
         return found;
     });
 }

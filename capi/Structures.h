@@ -4,14 +4,18 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <type_traits>
+
+/// No version will have a larger one: what says so is not a size.
+constexpr size_t kLargestStructure = 4096;
 
 /// Reads a structure that is passed. False when it is smaller than this version's, or says something that this version
-/// does not know. Without a pointer `known` stays as it was.
+/// does not know.
 template <typename TStructure>
 [[nodiscard]] bool ReadStructure(const TStructure* passed, TStructure& known)
 {
     const size_t size = passed->size;
-    if (size < sizeof known)
+    if (size < sizeof known || size > kLargestStructure)
         return false;
     const auto* const rest = reinterpret_cast<const char*>(passed) + sizeof known;
     if (std::any_of(rest, rest + (size - sizeof known), [](char one) { return one != 0; }))
@@ -25,7 +29,7 @@ template <typename TStructure>
 template <typename TStructure>
 [[nodiscard]] bool HasRoom(const TStructure* returned)
 {
-    return returned->size >= sizeof *returned;
+    return returned->size >= sizeof *returned && returned->size <= kLargestStructure;
 }
 
 /// Fills a structure that has room. What a later version's has beyond is left alone.

@@ -18,7 +18,8 @@
  *
  * STRUCTURES have their size as first member; set it before the call. Smaller than the structures of this version:
  * PEXLO_E_SIZE. Larger, as those of a later version of this header: of what is passed, the rest must be 0 (else
- * PEXLO_E_SIZE); of what is returned, the rest is left alone, and the size is set to that which was filled in.
+ * PEXLO_E_SIZE); of what is returned, the rest is left alone, and the size is set to that which was filled in. None is
+ * larger than 4096 bytes.
  *
  * TEXTS are copied. An operation that returns a text writes as much as fits into the caller's buffer, whole characters
  * and always a terminator, and returns the number of bytes that the whole text needs with its terminator: a result
