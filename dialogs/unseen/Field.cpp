@@ -1,6 +1,8 @@
 #include "dialogs/unseen/Field.h"
 
 #include "afx/CodePage.h"
+#include "core/Devices.h"
+#include "core/Values.h"
 #include "dialogs/grid/GridView.h"
 #include "dialogs/unseen/FieldNames.h"
 
@@ -63,11 +65,54 @@ CString LabelText(HWND window)
     return label;
 }
 
+bool IsDeviceName(LPCSTR text)
+{
+    for (int index = 0; const SDeviceKind* device = DeviceAt(index); ++index)
+        if (FormatDeviceName(device->code) == text)
+            return true;
+    return false;
+}
+
+/// What names a field: a text before it, or the check box that says whether it counts. The name of a device, which the
+/// number behind it is of, names none.
 bool IsLabel(HWND window)
 {
     char name[16] = "";
     ::GetClassNameA(window, name, sizeof name);
-    return std::strcmp(name, "Static") == 0 && ::GetWindowTextLengthW(window) > 0;
+    if (std::strcmp(name, "Static") != 0 && std::strcmp(name, "Button") != 0)
+        return false;
+    const auto style = static_cast<DWORD>(::GetWindowLongW(window, GWL_STYLE));
+    if (std::strcmp(name, "Button") == 0 && (style & BS_TYPEMASK) == BS_GROUPBOX)
+        return false;
+    const CString text = LabelText(window);
+    return !text.IsEmpty() && !IsDeviceName(text);
+}
+
+bool IsShown(HWND window) { return (::GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE) != 0; }
+
+bool IsBesides(HWND one, HWND other)
+{
+    CRect a, b;
+    ::GetWindowRect(one, a);
+    ::GetWindowRect(other, b);
+    return a.top < b.bottom && b.top < a.bottom;
+}
+
+/// The label of a control in the same row or, where there is none, the first one of the nearest row above.
+HWND LabelOf(HWND control)
+{
+    HWND above = nullptr;
+    for (HWND before = ::GetWindow(control, GW_HWNDPREV); before != nullptr; before = ::GetWindow(before, GW_HWNDPREV))
+    {
+        if (!IsLabel(before) || IsShown(before) != IsShown(control))
+            continue;
+        if (IsBesides(before, control))
+            return before;
+        if (above != nullptr && !IsBesides(before, above))
+            break;
+        above = before;
+    }
+    return above;
 }
 
 std::optional<bool> SwitchOf(std::string_view text)
@@ -172,11 +217,15 @@ CString CField::Label() const
 {
     if (m_kind == kCheckField || m_kind == kRadioField)
         return LabelText(m_control);
-    HWND before = m_control;
-    do
-        before = ::GetWindow(before, GW_HWNDPREV);
-    while (before != nullptr && !IsLabel(before));
-    return before != nullptr ? LabelText(before) : CString();
+    if (m_kind == kTableField)
+    {
+        CString headings;
+        for (int column = 0; column < ItemCount(); ++column)
+            headings += (column > 0 ? ", " : "") + ItemText(column);
+        return headings;
+    }
+    const HWND label = LabelOf(m_control);
+    return label != nullptr ? LabelText(label) : CString();
 }
 
 bool CField::IsEnabled() const
@@ -192,7 +241,7 @@ CString CField::Text() const
     case kListField:
         return Selected() >= 0 ? ItemText(Selected()) : CString();
     case kTableField: {
-        const CWideText rows(m_dialog->Table()->Model().CopyAll());
+        const CWideText rows(Selected() > 0 ? m_dialog->Table()->Model().CopyAll() : CString());
         return AfxNarrow(rows, rows.GetLength(), CP_UTF8);
     }
     case kEditField:
@@ -238,8 +287,12 @@ bool CField::IsOn() const { return m_dialog->IsPressed(m_id).value_or(false) || 
 int CField::Selected() const
 {
     if (m_kind == kTableField)
-        return m_dialog->Table()->Model().CopyAll().FindOneOf("0123456789") < 0 ? 0
-                                                                                : m_dialog->Table()->Model().UsedRows();
+    {
+        const CGridModel& rows = m_dialog->Table()->Model();
+        const CString cells = rows.CopyAll();
+        const bool isEmpty = std::strspn(cells, "\t\r\n") == static_cast<size_t>(cells.GetLength());
+        return isEmpty ? 0 : rows.UsedRows();
+    }
     if (m_kind == kListField)
         return static_cast<int>(Ask(CB_GETCURSEL));
     return (m_kind == kCheckField || m_kind == kRadioField) && IsOn() ? 1 : 0;

@@ -19,7 +19,11 @@ constexpr struct
 {
     UINT templateId;
     SFieldName field;
-} kOwnNames[] = {{IDD_B_PLSH, {IDC_B_PLSH_TARGET_SPEED, "target-speed"}}};
+} kOwnNames[] = {{IDD_B_PLSH, {IDC_B_PLSH_INITIAL, "initial-speed"}},
+                 {IDD_B_PLSH, {IDC_B_PLSH_TARGET_SPEED, "target-speed"}},
+                 {IDD_B_SPDH_TRAPEZOIDAL, {IDC_SPDH_MAXIMUM, "target-speed"}},
+                 {IDD_B_SPDH_HOME, {IDC_SPDH_MAXIMUM, "target-speed"}},
+                 {IDD_B_SPSH, {IDC_SPSH_MAXIMUM, "target-speed"}}};
 
 constexpr SFieldName kNames[] = {
     {IDC_CONTACT_DEVICE, "contact-device"},
@@ -58,7 +62,7 @@ constexpr SFieldName kNames[] = {
     {IDC_SPDH_CHANNEL, "channel"},
     {IDC_SPDH_STEPS, "steps"},
     {IDC_SPDH_DUTY, "duty"},
-    {IDC_SPDH_FREQUENCY, "frequency"},
+    {IDC_SPDH_FREQUENCY, "frequency-range"},
     {IDC_SPDH_MODE, "mode"},
     {IDC_SPDH_TIME, "acceleration-time"},
     {IDC_SPDH_TARGET, "target"},
@@ -72,10 +76,10 @@ constexpr SFieldName kNames[] = {
     {IDC_PLSH_CHANNEL, "channel"},
     {IDC_PLSH_STOP_MODE, "stop-mode"},
     {IDC_PLSH_DUTY, "duty"},
+    {IDC_PLSH_FREQUENCY_RANGE, "frequency-range"},
     {IDC_PLSH_OUTPUT_METHOD, "output-method"},
     {IDC_PLSH_FREQUENCY, "frequency"},
     {IDC_PLSH_TARGET, "target"},
-    {IDC_B_PLSH_INITIAL, "initial-speed"},
     {IDC_B_PLSH_ACCELERATION, "acceleration-time"},
     {IDC_B_PLSH_DECELERATION, "deceleration-time"},
 
@@ -90,7 +94,7 @@ constexpr SFieldName kNames[] = {
     {IDC_SP0H_CHANNEL, "channel"},
     {IDC_SP0H_OUTPUT, "output"},
     {IDC_SP0H_DUTY, "duty"},
-    {IDC_SP0H_FREQUENCY, "frequency"},
+    {IDC_SP0H_FREQUENCY, "frequency-range"},
     {IDC_SP0H_MODE, "mode"},
 
     {IDC_SPSH_START, "start"},

@@ -94,6 +94,12 @@ void CFormDescriber::AddDeclarations(CWzdDlgBase& dialog)
         SFieldDescription* const edit = row.edit != 0 ? FindField(row.edit) : nullptr;
         if (edit == nullptr)
             return true;
+        if (row.comment.label != 0)
+        {
+            CString label = dialog.ItemText(row.comment.label) + " " + dialog.ItemText(row.comment.secondLabel);
+            label.TrimRight();
+            edit->label = Utf8(label);
+        }
         edit->message = row.message;
         edit->entry = row.entry;
         if (const auto accepted = field.AcceptedNumbers())
