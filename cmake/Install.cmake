@@ -95,3 +95,20 @@ if(BUILD_TESTING AND NOT PEXLO_SANITIZE)
                      -DSOURCE=${PROJECT_SOURCE_DIR} -DBUILD=${PROJECT_BINARY_DIR}
                      -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckMeans.cmake)
 endif()
+
+if(BUILD_TESTING AND WIN32)
+    find_program(PEXLO_CLANG clang)
+    find_program(PEXLO_LLD_LINK lld-link)
+    find_library(PEXLO_KERNEL32 kernel32)
+    if(PEXLO_LLVM_DLLTOOL AND PEXLO_CLANG AND PEXLO_LLD_LINK)
+        add_test(NAME import_library
+                 COMMAND ${CMAKE_COMMAND} -DFOLDER=${PROJECT_BINARY_DIR}/import_library -DBUILD=${PROJECT_BINARY_DIR}
+                         -DBITS=$<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,64,32> -DCLANG=${PEXLO_CLANG}
+                         -DLLD_LINK=${PEXLO_LLD_LINK} -DLLVM_DLLTOOL=${PEXLO_LLVM_DLLTOOL} -DSYSTEM=${PEXLO_KERNEL32}
+                         -DSOURCE=${PROJECT_SOURCE_DIR} "-DEMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
+                         -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckImportLibrary.cmake)
+        set_tests_properties(import_library PROPERTIES TIMEOUT 120)
+    else()
+        message(STATUS "Clang or lld-link was not found: Pexlo.lib is not tested.")
+    endif()
+endif()
