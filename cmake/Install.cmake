@@ -1,6 +1,7 @@
 # What `cmake --install` copies: the library with its language libraries, programs, headers, import libraries, a CMake
 # package, documentation and samples. docs/packaging.md shows the folders.
 #
+#   delivered          everything of it that is built; the tests with that label need nothing else
 #   import_libraries   Pexlo.def and, where the tools of LLVM are, Pexlo.lib, for hosts of other compilers (Windows only)
 
 include(GNUInstallDirs)
@@ -60,9 +61,14 @@ endif()
 set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc/pexlo)
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${documents})
 install(DIRECTORY docs DESTINATION ${documents})
-if(EXISTS ${PROJECT_SOURCE_DIR}/samples)
-    install(DIRECTORY samples DESTINATION ${CMAKE_INSTALL_DATADIR}/pexlo PATTERN CMakeLists.txt EXCLUDE)
-endif()
+install(DIRECTORY samples DESTINATION ${CMAKE_INSTALL_DATADIR}/pexlo)
+
+add_custom_target(delivered DEPENDS ${library} language_libraries)
+foreach(target pexlo_cli import_libraries)
+    if(TARGET ${target})
+        add_dependencies(delivered ${target})
+    endif()
+endforeach()
 
 if(BUILD_TESTING)
     # The programs of a host that finds the library; it is compiled as the library is.
@@ -85,7 +91,7 @@ if(BUILD_TESTING)
                      -DVERSION=${PROJECT_VERSION} -DSUFFIX=${CMAKE_EXECUTABLE_SUFFIX} "-DPROGRAMS=${programs}"
                      "-DOPTIONS=${options}" "-DEMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
                      -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckInstallation.cmake)
-    set_tests_properties(installation PROPERTIES TIMEOUT 300)
+    set_tests_properties(installation PROPERTIES LABELS delivered TIMEOUT 300)
 endif()
 
 if(BUILD_TESTING AND NOT PEXLO_SANITIZE)
@@ -94,6 +100,7 @@ if(BUILD_TESTING AND NOT PEXLO_SANITIZE)
              COMMAND ${CMAKE_COMMAND} "-DFILES=${files}"
                      -DSOURCE=${PROJECT_SOURCE_DIR} -DBUILD=${PROJECT_BINARY_DIR}
                      -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckMeans.cmake)
+    set_tests_properties(reproducible PROPERTIES LABELS delivered)
 endif()
 
 if(BUILD_TESTING AND WIN32)

@@ -43,7 +43,7 @@ if(BUILD_TESTING AND Python3_FOUND)
              COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR} -DFOLDER=${PROJECT_BINARY_DIR}/archive
                      -DNAME=${CPACK_PACKAGE_FILE_NAME}.${suffix} -DDATE=${CPACK_PEXLO_DATE}
                      -DEXPECTED=${folder}/contents-${system}.txt -P ${folder}/CheckArchive.cmake)
-    set_tests_properties(archive PROPERTIES TIMEOUT 300)
+    set_tests_properties(archive PROPERTIES LABELS delivered TIMEOUT 300)
 endif()
 
 include(CPack)
