@@ -97,7 +97,7 @@ def print_data_table(wizard):
         data = Data()
         wizard.GetDataInfo(index, byref(data))
         width = ("1 word", "2 words")[data.type]
-        value = f"H{data.value:X}" if data.format == 1 else f"K{data.value}"
+        value = f"H{data.value & 0xFFFFFFFF:X}" if data.format == 1 else f"K{data.value}"
         print(f"{index:4}  {f'DT{data.number}':10}  {width:7}  {value}")
 
 
