@@ -3,6 +3,7 @@
 #include "core/FillText.h"
 #include "core/Values.h"
 #include "dialogs/grid/GridField.h"
+#include "dialogs/unseen/FieldNames.h"
 #include "tests/dialogs/InstructionDialogs.h"
 #include "tests/dialogs/base/FieldRecorder.h"
 #include "tests/support/Controller.h"
@@ -181,13 +182,17 @@ std::string LabelOf(const CWzdDlgBase& dialog, const SDeclaredField& field)
     return field.rangeLabel != 0 ? "filled by the program" : "always the same";
 }
 
-std::string ControlsOf(const SDeclaredField& field)
+std::string ControlsOf(const CWzdDialog& dialog, const SDeclaredField& field)
 {
-    std::string ids;
+    std::string controls;
     for (const UINT id : {field.check, field.combo, field.edit})
-        if (id != 0)
-            ids += (ids.empty() ? "" : ", ") + std::to_string(id);
-    return ids;
+    {
+        if (id == 0)
+            continue;
+        const std::string name(FieldName(dialog.TemplateId(), id));
+        controls += (controls.empty() ? "" : "<br>") + std::to_string(id) + (name.empty() ? "" : " `" + name + "`");
+    }
+    return controls;
 }
 
 std::string Items(const std::vector<SWzdChoice>& items)
@@ -251,7 +256,7 @@ void PrintRow(std::ostream& out, const CWzdDlgBase& dialog, const SPageRow& row)
     const auto number = [](UINT message) { return std::to_string(message); };
     if (row.columns.empty())
     {
-        out << "| " << InOneLine(LabelOf(dialog, row.field)) << " | " << ControlsOf(row.field) << " | "
+        out << "| " << InOneLine(LabelOf(dialog, row.field)) << " | " << ControlsOf(dialog, row.field) << " | "
             << InOneLine(ContentOf(row)) << " | " << PlaceOf(row.field) << " | " << Lines(row.messages, number)
             << " |\n";
         return;
@@ -283,12 +288,14 @@ void PrintDialog(std::ostream& out, const SInstructionDialog& row, CWzdDlgBase& 
 constexpr char kHead[] = R"(# The fields of the dialogs
 
 Made from what the dialogs declare; a test compares it, and `PEXLO_WRITE_PAGES=1` in its environment writes it anew. Each
-row is a field, in the order in which it is checked: the ids of its controls; its items, each with its code in hexadecimal,
-or its ranges, which depend on the lists above it; where it stands in the data table, which begins at register n; and the
-message that is shown when an entry is outside the range. What no number can be read from is told by message 20001.
+row is a field, in the order in which it is checked: the ids of its controls with the names by which hosts without windows
+call them; its items, each with its code in hexadecimal, or its ranges, which depend on the lists above it; where it stands
+in the data table, which begins at register n; and the message that is shown when an entry is outside the range. What no
+number can be read from is told by message 20001.
 
-F174 stores its table row by row and a 0 behind it, scaling its points column by column. The controls of the screen's lines
-and marks are in `dialogs/process/ScreenField.cpp`, what they make of the control data in `ScreenSettings.h`. Names that
+F174 stores its table row by row and a 0 behind it, scaling its points column by column; both are called `table`. The
+controls of the screen's lines and marks are in `dialogs/process/ScreenField.cpp`, what they make of the control data in
+`ScreenSettings.h`. Names that
 end in B and C are the dialogs of those families of controllers.
 )";
 
