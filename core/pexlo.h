@@ -2,9 +2,8 @@
  * The C interface of the instruction-input wizard library, for hosts that cannot use the C++ class CFunWizard: those of
  * another compiler, of another language, of 64 bits, and those that want the wizards' checks without their windows.
  *
- * A handle stands for one wizard object. Pexlo_<Name> does what CFunWizard::<Name> does (core/FunWizard.h documents
- * each operation: arguments, ranges, results); what is said here is what is different, and what is new: the wizards
- * without windows, below.
+ * A handle stands for one wizard object. Pexlo_<Name> does what CFunWizard::<Name> does for hosts in C++. New here are
+ * the wizards without windows, below.
  *
  * RESULTS. What the operation returns (1 success, 0 failure, unless its documentation says otherwise; operations
  * without a result return 1), or one of the negative numbers PEXLO_E_..., which say that it was called wrongly and did
@@ -90,88 +89,153 @@ PEXLO_API int PEXLO_CALL Pexlo_Destroy(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_TakeOver(PexloHandle handle);
 
 /* ---- Dialogs ----------------------------------------------------------------------------------------------------- */
-/* `parent` is an HWND, or null for the thread's active window. 1 on OK, 2 on Cancel, and 2 for an object with an
- * open dialog, as the class says. */
+/* Each opens a modal dialog above `parent`, an HWND, or above the thread's active window when it is null. 1 on OK: the
+ * lists are those of the dialog. 2 on Cancel, and at once for an object with an open dialog. */
 
+/* The user picks an instruction and fills it in. `mode` 0 lists the registered pulse-output instructions, any other
+ * one the operations of the positioning unit; `axisFlag` 0 means a two-axis unit. Both 0..255. */
 PEXLO_API int PEXLO_CALL Pexlo_DoOpenPosDlg(PexloHandle handle, int mode, int axisFlag, void* parent);
+/* The control code of a positioning unit's axis: `code` is replaced on OK. No list is touched. */
 PEXLO_API int PEXLO_CALL Pexlo_DoInputPosCtrlDlg(PexloHandle handle, unsigned int* code, void* parent);
+/* F355. `workArea`: how many registers the work area reaches beyond its first one. */
 PEXLO_API int PEXLO_CALL Pexlo_DoOpenPIDDlg(PexloHandle handle, int workArea, void* parent);
-/* `permitted`: four masks for the screen display, three for scaling; null permits all. */
+/* The screen display. `permitted`: four masks of permitted devices, for the screen (not read), the control data, the
+ * upside and the downside display data; null permits all. */
 PEXLO_API int PEXLO_CALL Pexlo_DoOpenSCRDlg(PexloHandle handle, const unsigned int* permitted, void* parent);
+/* `kind` 0 = F282, 1 = F283, any other = F354. `permitted`: three such masks, for the input, the table and the
+ * output. */
 PEXLO_API int PEXLO_CALL Pexlo_DoOpenSCALDlg(PexloHandle handle, const unsigned int* permitted, int kind,
                                              void* parent);
 
+/* ---- Devices ----------------------------------------------------------------------------------------------------- */
+/* Their codes. Bits of X, Y, R, L, P and the special relays are numbered word x 16 + bit: X10A is 266. All other numbers
+ * are those that one writes. */
+
+#define PEXLO_DEVICE_L 0
+#define PEXLO_DEVICE_R 1
+#define PEXLO_DEVICE_Y 2
+#define PEXLO_DEVICE_X 3
+#define PEXLO_DEVICE_T 4
+#define PEXLO_DEVICE_C 5
+#define PEXLO_DEVICE_SV 6
+#define PEXLO_DEVICE_EV 7
+#define PEXLO_DEVICE_LD 8
+#define PEXLO_DEVICE_DT 9
+#define PEXLO_DEVICE_FL 10
+#define PEXLO_DEVICE_K 11 /* a decimal constant */
+#define PEXLO_DEVICE_H 12 /* a hexadecimal constant */
+#define PEXLO_DEVICE_INDEX 15
+#define PEXLO_DEVICE_P 17
+#define PEXLO_DEVICE_E 18
+#define PEXLO_DEVICE_REAL 20 /* a real constant */
+#define PEXLO_DEVICE_WL 64
+#define PEXLO_DEVICE_WR 65
+#define PEXLO_DEVICE_WY 66
+#define PEXLO_DEVICE_WX 67
+#define PEXLO_DEVICE_SPECIAL_R 20001
+#define PEXLO_DEVICE_SPECIAL_DT 20009
+#define PEXLO_DEVICE_SPECIAL_WR 20065
+
 /* ---- The PLC ----------------------------------------------------------------------------------------------------- */
 
+/* The PLC type code, 0..255; 0 until it is set. It selects the controller family and with it the dialogs. */
 PEXLO_API int PEXLO_CALL Pexlo_SetPlcType(PexloHandle handle, int type);
 PEXLO_API int PEXLO_CALL Pexlo_GetPlcType(PexloHandle handle);
+/* Declares a device present and gives its lowest and highest number. The dialogs look ranges up with `kind` -1. */
 PEXLO_API int PEXLO_CALL Pexlo_SetDevRange(PexloHandle handle, int kind, int code, int low, int high);
 PEXLO_API int PEXLO_CALL Pexlo_GetDevRange(PexloHandle handle, int kind, int code, int* low, int* high);
-/* Note the inverted results: 0 = present, 1 = to be skipped, -1 = end of the table. */
+/* Walks the device table: `index` 0..23, `options` bit 0 to include the constants K and H, bits 0 and 1 for the real
+ * constant too. Note the inverted results: 0 = present on this PLC, 1 = to be skipped, -1 = end of the table. `kind`
+ * becomes -1, `code` the device code or -1, `bitKind` 0 for words and constants, 1 for bits numbered word x 16 +
+ * bit, 2 for bits numbered in decimal. */
 PEXLO_API int PEXLO_CALL Pexlo_GetSeqDevInfo(PexloHandle handle, int index, int* kind, int* code, int* bitKind,
                                              int options);
+/* The number of slots, 0..255; 32 until it is set. */
 PEXLO_API int PEXLO_CALL Pexlo_SetMaxSlot(PexloHandle handle, int count);
 PEXLO_API int PEXLO_CALL Pexlo_GetMaxSlot(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_SetDefaultMaxSlot(PexloHandle handle);
+/* Offers a pulse-output channel, 0..15, to an instruction 171..175; ResetChannelNo withdraws all of all. */
 PEXLO_API int PEXLO_CALL Pexlo_SetChannelNo(PexloHandle handle, int channel, int instruction);
 PEXLO_API int PEXLO_CALL Pexlo_ResetChannelNo(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_GetNumOfChannel(PexloHandle handle, int instruction);
+/* The n-th channel offered to an instruction, n from 0; -1 when there is none. */
 PEXLO_API int PEXLO_CALL Pexlo_GetChannelNo(PexloHandle handle, int n, int instruction);
+/* 0..4 for the instructions 171..175, else -1. */
 PEXLO_API int PEXLO_CALL Pexlo_GetChannelTypeIndex(PexloHandle handle, int instruction);
+/* How the dialog of F175 shows its channel: 1 or 2; anything else is ignored. */
 PEXLO_API int PEXLO_CALL Pexlo_SetF175DispType(PexloHandle handle, int type);
 PEXLO_API int PEXLO_CALL Pexlo_GetF175DispType(PexloHandle handle);
 
 /* ---- Settings ---------------------------------------------------------------------------------------------------- */
 
+/* Empties the operand, data, instruction and comment lists and forgets ranges, instructions, the language and the
+ * last wizard. Does nothing while a dialog of the object is open. */
 PEXLO_API int PEXLO_CALL Pexlo_ResetContents(PexloHandle handle);
-/* 1 when the language library is loaded, 0 when the texts are the library's own English ones. */
+/* 0 English, 1 Japanese, 2 simplified and 3 traditional Chinese, 4 Korean, 5 Spanish, 6 Italian, 9 Thai: loads the
+ * PlxRc*.DLL beside the library, or beside the program. 1 when it is loaded; 0, and the texts are the library's own
+ * English ones, when it is not there or a dialog of the object is open. */
 PEXLO_API int PEXLO_CALL Pexlo_SetLanguageInfo(PexloHandle handle, int language);
 /* An HINSTANCE, which the object owns, or null; also null for a bad handle. */
 PEXLO_API void* PEXLO_CALL Pexlo_GetLoadInstance(PexloHandle handle);
+/* The code page of comments, such as 932: that of the language, the system's for English. */
 PEXLO_API int PEXLO_CALL Pexlo_GetTextCodePage(PexloHandle handle);
 /* An HFONT, which the object owns, or null; also null for a bad handle. `window` is an HWND or null. */
 PEXLO_API void* PEXLO_CALL Pexlo_CreateDlgFont(PexloHandle handle, void* window);
-/* `dialog` is an HWND. */
+/* Gives that font to the controls of a dialog, an HWND, and unless `skipDialog` to itself; not to those in
+ * `excludedIds`, a list ended by 0 or null. */
 PEXLO_API int PEXLO_CALL Pexlo_SetDlgFont(PexloHandle handle, void* dialog, int skipDialog, const int* excludedIds);
 PEXLO_API int PEXLO_CALL Pexlo_DeleteDlgFont(PexloHandle handle);
+/* The HTML Help file behind the Help buttons; an empty path hides them. */
 PEXLO_API int PEXLO_CALL Pexlo_SetHelpPath(PexloHandle handle, const char* path);
 PEXLO_API int PEXLO_CALL Pexlo_SetHelpPathUtf8(PexloHandle handle, const char* path);
 PEXLO_API int PEXLO_CALL Pexlo_GetHelpPath(PexloHandle handle, char* buffer, int size);
 PEXLO_API int PEXLO_CALL Pexlo_GetHelpPathUtf8(PexloHandle handle, char* buffer, int size);
+/* The host's own name for itself, kept for it. */
 PEXLO_API int PEXLO_CALL Pexlo_SetAppName(PexloHandle handle, const char* name);
 PEXLO_API int PEXLO_CALL Pexlo_SetAppNameUtf8(PexloHandle handle, const char* name);
 /* The name that captions every message box of the library, of all handles: PexloDll_SetAppName. To be set before
  * dialogs are opened on other threads. */
 PEXLO_API int PEXLO_CALL Pexlo_SetMessageCaption(const char* name);
 PEXLO_API int PEXLO_CALL Pexlo_SetMessageCaptionUtf8(const char* name);
-/* Note the inverted result: 0 = added or already there. */
+/* Registers one of the instructions 168..177 for the selection list. Note the inverted result: 0 = added or already
+ * there, 1 = not one of them, or no memory for it. */
 PEXLO_API int PEXLO_CALL Pexlo_EntrySupportFunInfo(PexloHandle handle, int instruction);
 PEXLO_API int PEXLO_CALL Pexlo_FindSupportFun(PexloHandle handle, int instruction);
+/* The instruction at index 0..9 of those that can be registered; -1 for any other index. */
 PEXLO_API int PEXLO_CALL Pexlo_GetSupportFunNum(PexloHandle handle, int index);
 PEXLO_API int PEXLO_CALL Pexlo_ClearSuppportFunInfo(PexloHandle handle);
+/* Whether comments are registered for the data table; 1 until it is set. Kept as passed. */
 PEXLO_API int PEXLO_CALL Pexlo_SetCmtRec(PexloHandle handle, int on);
 PEXLO_API int PEXLO_CALL Pexlo_IsCmtRec(PexloHandle handle);
+/* Whether only the data table is generated, not the instruction; 0 until it is set. Kept as passed. */
 PEXLO_API int PEXLO_CALL Pexlo_SetOnlyDataTable(PexloHandle handle, int on);
 PEXLO_API int PEXLO_CALL Pexlo_IsOnlyDataTable(PexloHandle handle);
+/* What starts an operation of the positioning unit, 0..2; a value above 2 is stored as 0. */
 PEXLO_API int PEXLO_CALL Pexlo_SetStartType(PexloHandle handle, int type);
 PEXLO_API int PEXLO_CALL Pexlo_GetStartType(PexloHandle handle);
+/* 1 when the last selection was opened for a two-axis unit. */
 PEXLO_API int PEXLO_CALL Pexlo_IsAxisType(PexloHandle handle);
+/* Whether the contact list is a complete starting condition: empty, or three and more whose last is on Y. */
 PEXLO_API int PEXLO_CALL Pexlo_IsStartCondition(PexloHandle handle);
+/* Whether the first and the next-to-last contact name the same device; 1 with fewer than three contacts. */
 PEXLO_API int PEXLO_CALL Pexlo_IsSameCondition(PexloHandle handle);
-/* Copies `size` bytes, 0 or more; the block before is freed. Null, or the size 0, only frees it. */
+/* Inputs that a dialog keeps for its next opening. Copies `size` bytes, 0 or more; the block before is freed. Null,
+ * or the size 0, only frees it. */
 PEXLO_API int PEXLO_CALL Pexlo_SetDlgDataPtr(PexloHandle handle, const void* data, int size);
 /* The object's own block, good until the next call with the handle; null also for a bad handle. */
 PEXLO_API const void* PEXLO_CALL Pexlo_GetDlgDataPtr(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_RemoveDlgData(PexloHandle handle);
 
 /* ---- Result lists ------------------------------------------------------------------------------------------------ */
-/* A bad index: 0, and nothing is written. */
+/* The add operations append one record; 0 without memory. A bad index: 0, and nothing is written. */
 
+/* Contacts of the starting condition. `kind`: see PexloInstCode. */
 PEXLO_API int PEXLO_CALL Pexlo_AddContInfo(PexloHandle handle, int kind, int code, int number);
 PEXLO_API int PEXLO_CALL Pexlo_GetContInfoCount(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_GetContInfo(PexloHandle handle, int index, int* kind, int* code, int* number);
 PEXLO_API int PEXLO_CALL Pexlo_RemoveAllContInfo(PexloHandle handle);
 
+/* Operands of the instruction: device code and number, or the value of a constant. */
 PEXLO_API int PEXLO_CALL Pexlo_AddOprdInfo(PexloHandle handle, int code, int value);
 PEXLO_API int PEXLO_CALL Pexlo_GetOprdInfoCount(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_GetOprdInfo(PexloHandle handle, int index, int* code, int* value);
@@ -194,6 +258,7 @@ PEXLO_API int PEXLO_CALL Pexlo_GetDataInfoCount(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_GetDataInfo(PexloHandle handle, int index, PexloData* data);
 PEXLO_API int PEXLO_CALL Pexlo_RemoveAllDataInfo(PexloHandle handle);
 
+/* Comments of the data table, one for each entry that has one. */
 PEXLO_API int PEXLO_CALL Pexlo_AddCmtInfo(PexloHandle handle, const char* text);
 PEXLO_API int PEXLO_CALL Pexlo_AddCmtInfoUtf8(PexloHandle handle, const char* text);
 PEXLO_API int PEXLO_CALL Pexlo_GetCmtInfoCount(PexloHandle handle);
@@ -221,6 +286,10 @@ PEXLO_API int PEXLO_CALL Pexlo_GetInstCode(PexloHandle handle, int index, int* k
                                            int* flag1, int* flag2);
 PEXLO_API int PEXLO_CALL Pexlo_RemoveAllInstCodeInfo(PexloHandle handle);
 
+/* Empties the instruction list and fills it with the sequence that the other lists describe, by the generator of the
+ * last wizard. On failure the records generated so far stay. The others append by a generator that the host chooses:
+ * _1 built-in instructions, _11 scaling, _2 operations of the positioning unit, _3 JOG with speed change, _4 pulsar
+ * input. */
 PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_1(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_CreateInstCode_11(PexloHandle handle);
@@ -347,9 +416,9 @@ typedef struct PexloField
     char text[256];  /* what it holds, cut when it is longer: Pexlo_GetFieldText has all of it */
 } PexloField;
 
-/* Opens the dialog unseen, makes the entries, as far as that is possible, and tells its fields in tab order: writes up to
- * `capacity` of them, each with its size set by the caller, and returns how many there are; 0 when the dialog cannot be
- * opened. `refusal`, which may be null, tells of the first entry that could not be made. Nothing else changes. */
+/* Opens the dialog unseen, makes the entries, as far as that is possible, and tells its fields in tab order: writes up
+ * to `capacity` of them, each with its size set by the caller, and returns how many there are; 0 when the dialog cannot
+ * be opened. `refusal`, which may be null, tells of the first entry that could not be made. Nothing else changes. */
 PEXLO_API int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, const PexloEntry* entries,
                                               int count, PexloField* fields, int capacity, PexloRefusal* refusal);
 

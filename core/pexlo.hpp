@@ -13,7 +13,7 @@
 //     wizard.SetPlcType(1);
 //     ...
 //     pexlo::Form form(168);
-//     if (const auto refusal = wizard.Fill(form, {{"start-address", "100"}, {"max-speed", "95000"}}))
+//     if (const auto refusal = wizard.Fill(form, {{"start", "100"}, {"maximum-speed", "9500"}}))
 //         std::cerr << refusal->name << ": " << refusal->message << '\n';
 //     else
 //         for (const PexloData& data : wizard.DataTable())
