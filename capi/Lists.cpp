@@ -2,6 +2,33 @@
 #include "capi/Handles.h"
 #include "capi/Structures.h"
 #include "capi/Texts.h"
+#include "core/Devices.h"
+
+// Every number that the header defines is promised.
+static_assert(PEXLO_DEVICE_L == kDeviceL);
+static_assert(PEXLO_DEVICE_R == kDeviceR);
+static_assert(PEXLO_DEVICE_Y == kDeviceY);
+static_assert(PEXLO_DEVICE_X == kDeviceX);
+static_assert(PEXLO_DEVICE_T == kDeviceT);
+static_assert(PEXLO_DEVICE_C == kDeviceC);
+static_assert(PEXLO_DEVICE_SV == kDeviceSV);
+static_assert(PEXLO_DEVICE_EV == kDeviceEV);
+static_assert(PEXLO_DEVICE_LD == kDeviceLD);
+static_assert(PEXLO_DEVICE_DT == kDeviceDT);
+static_assert(PEXLO_DEVICE_FL == kDeviceFL);
+static_assert(PEXLO_DEVICE_K == kDeviceK);
+static_assert(PEXLO_DEVICE_H == kDeviceH);
+static_assert(PEXLO_DEVICE_INDEX == kDeviceIndex);
+static_assert(PEXLO_DEVICE_P == kDeviceP);
+static_assert(PEXLO_DEVICE_E == kDeviceE);
+static_assert(PEXLO_DEVICE_REAL == kDeviceReal);
+static_assert(PEXLO_DEVICE_WL == kDeviceWL);
+static_assert(PEXLO_DEVICE_WR == kDeviceWR);
+static_assert(PEXLO_DEVICE_WY == kDeviceWY);
+static_assert(PEXLO_DEVICE_WX == kDeviceWX);
+static_assert(PEXLO_DEVICE_SPECIAL_R == kDeviceSpecialR);
+static_assert(PEXLO_DEVICE_SPECIAL_DT == kDeviceSpecialDT);
+static_assert(PEXLO_DEVICE_SPECIAL_WR == kDeviceSpecialWR);
 
 /// The comments of a wizard object, which are as long as they are.
 class CComments

@@ -108,8 +108,8 @@ PEXLO_API int PEXLO_CALL Pexlo_DoOpenSCALDlg(PexloHandle handle, const unsigned 
                                              void* parent);
 
 /* ---- Devices ----------------------------------------------------------------------------------------------------- */
-/* Their codes. Bits of X, Y, R, L, P and the special relays are numbered word x 16 + bit: X10A is 266. All other numbers
- * are those that one writes. */
+/* Their codes. Bits of X, Y, R, L, P and the special relays are numbered word x 16 + bit: X10A is 10 x 16 + 10 = 170.
+ * All other numbers are those that one writes. */
 
 #define PEXLO_DEVICE_L 0
 #define PEXLO_DEVICE_R 1
