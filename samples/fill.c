@@ -19,13 +19,14 @@ static int checked(int result)
 static void describe_plc(PexloHandle wizard)
 {
     checked(Pexlo_SetPlcType(wizard, 1));
-    checked(Pexlo_SetDevRange(wizard, -1, 3, 0, 12 * 16 + 15)); /* X0 to X12F */
-    checked(Pexlo_SetDevRange(wizard, -1, 2, 0, 12 * 16 + 15)); /* Y0 to Y12F */
-    checked(Pexlo_SetDevRange(wizard, -1, 1, 0, 62 * 16 + 15)); /* R0 to R62F */
-    checked(Pexlo_SetDevRange(wizard, -1, 9, 0, 1659));         /* DT0 to DT1659 */
-    checked(Pexlo_EntrySupportFunInfo(wizard, 168));            /* it has F168 */
+    checked(Pexlo_SetDevRange(wizard, -1, PEXLO_DEVICE_X, 0, 12 * 16 + 15)); /* X0 to X12F */
+    checked(Pexlo_SetDevRange(wizard, -1, PEXLO_DEVICE_Y, 0, 12 * 16 + 15)); /* Y0 to Y12F */
+    checked(Pexlo_SetDevRange(wizard, -1, PEXLO_DEVICE_R, 0, 62 * 16 + 15)); /* R0 to R62F */
+    checked(Pexlo_SetDevRange(wizard, -1, PEXLO_DEVICE_DT, 0, 1659));        /* DT0 to DT1659 */
+    checked(Pexlo_EntrySupportFunInfo(wizard, 168));                         /* it has F168 */
 }
 
+/* F168 has no real numbers: of its entries type and format are 0 or 1. */
 static void print_data_table(PexloHandle wizard)
 {
     static const char* const widths[] = {"1 word", "2 words"};

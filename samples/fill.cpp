@@ -13,13 +13,14 @@ namespace
 void DescribePlc(pexlo::Wizard& wizard)
 {
     wizard.SetPlcType(1);
-    wizard.SetDevRange(-1, 3, 0, 12 * 16 + 15); // X0 to X12F
-    wizard.SetDevRange(-1, 2, 0, 12 * 16 + 15); // Y0 to Y12F
-    wizard.SetDevRange(-1, 1, 0, 62 * 16 + 15); // R0 to R62F
-    wizard.SetDevRange(-1, 9, 0, 1659);         // DT0 to DT1659
-    wizard.EntrySupportFunInfo(168);            // it has F168
+    wizard.SetDevRange(-1, PEXLO_DEVICE_X, 0, 12 * 16 + 15); // X0 to X12F
+    wizard.SetDevRange(-1, PEXLO_DEVICE_Y, 0, 12 * 16 + 15); // Y0 to Y12F
+    wizard.SetDevRange(-1, PEXLO_DEVICE_R, 0, 62 * 16 + 15); // R0 to R62F
+    wizard.SetDevRange(-1, PEXLO_DEVICE_DT, 0, 1659);        // DT0 to DT1659
+    wizard.EntrySupportFunInfo(168);                         // it has F168
 }
 
+// F168 has no real numbers: of its entries type and format are 0 or 1.
 void PrintDataTable(const std::vector<PexloData>& table)
 {
     static const char* const widths[] = {"1 word", "2 words"};

@@ -89,6 +89,7 @@ sealed class Wizard : IDisposable
         return Text(refusal.Name) + " is refused: " + Text(refusal.Message);
     }
 
+    // F168 has no real numbers: of its entries type and format are 0 or 1.
     public void PrintDataTable()
     {
         string[] widths = { "1 word", "2 words" };

@@ -57,6 +57,7 @@ begin
     Message := AnsiString(Refusal.Name) + ' is refused: ' + AnsiString(Refusal.Message);
 end;
 
+// F168 has no real numbers: of its entries kind and format are 0 or 1.
 procedure PrintDataTable(Wizard: TPexloHandle);
 const
   Widths: array[0..1] of string = ('1 word', '2 words');

@@ -71,6 +71,7 @@ function refusalOf(wizard, values) {
     return `${refusal.name} is refused: ${refusal.message}`;
 }
 
+// F168 has no real numbers: of its entries type and format are 0 or 1.
 function printDataTable(wizard) {
     const count = getDataInfoCount(wizard);
     console.log(`Data table: ${count}`);

@@ -91,6 +91,7 @@ def fill(wizard, values):
 
 
 def print_data_table(wizard):
+    """F168 has no real numbers: of its entries type and format are 0 or 1."""
     count = wizard.GetDataInfoCount()
     print(f"Data table: {count}")
     for index in range(count):
