@@ -1,4 +1,4 @@
-// Fills in F168, trapezoidal control, without showing its dialog, and prints the data table. Node.js, with the package koffi.
+// Fills in F168, trapezoidal control, without showing its dialog, and prints the data table. Node.js and koffi.
 // The environment variable PEXLO names the folder of the library.
 'use strict';
 
