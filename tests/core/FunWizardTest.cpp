@@ -123,6 +123,11 @@ TEST(FunWizard, KeepsItsFieldsInOrder)
     }
 }
 
+TEST(FunWizard, HasTheSizeThatHostsAreCompiledAgainst)
+{
+    EXPECT_EQ(sizeof(CFunWizard), sizeof(void*) == 4 ? 219u : 344u);
+}
+
 TEST(FunWizard, IsDestroyedThroughItsBase)
 {
     static_assert(std::has_virtual_destructor<CFunWizard>::value, "hosts delete it through CObject");

@@ -343,7 +343,7 @@ protected:
     }
 
     /// How far to go on; dialogs take their time, and without a library between they are tested at every place.
-    static int Step(int sampled) { return GetParam().opensDialogs && !IsThorough() ? sampled : 1; }
+    static int Step(int sampled) { return GetParam().opensDialogs ? SampledStep(sampled) : 1; }
 
     CPressingHost m_host;
     CImportedFunction m_malloc{"Pexlo.dll", "malloc", Address(FailingMalloc)};

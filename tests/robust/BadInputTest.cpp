@@ -12,7 +12,7 @@ namespace
 // How many of the texts are tried. A message box of the real desktop takes its time: there, texts evenly spread over
 // all of them stand for the rest.
 const unsigned kTexts = IsThorough() ? 12000 : 10000;
-const unsigned kStep = IsThorough() ? 1 : 37;
+const unsigned kStep = static_cast<unsigned>(SampledStep(37));
 constexpr unsigned kTypedApart = 8;
 constexpr size_t kMostTyped = 200;
 

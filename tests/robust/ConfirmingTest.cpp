@@ -15,9 +15,9 @@ namespace
 
 constexpr int kTooMany = 100000; // allocations that OK may not need
 
-const int kStep = IsThorough() ? 1 : 17;
+const int kStep = SampledStep(17);
 const int kBatches = IsThorough() ? 4 : 2;
-const int kOpenings = IsThorough() ? 200 : 6; // in a batch
+const int kOpenings = SampledRounds(200, 6); // in a batch
 
 class CConfirmingTest : public CDesktopTest, public testing::WithParamInterface<SInstructionDialog>
 {

@@ -17,7 +17,7 @@ constexpr int kTooMany = 100000; // allocations that an operation may not need
 
 // What is repeated to see what it leaves is repeated less where a dialog takes its time.
 const int kBatches = IsThorough() ? 8 : 3;
-const int kStep = IsThorough() ? 1 : 7;
+const int kStep = SampledStep(7);
 
 struct SFault
 {

@@ -18,7 +18,7 @@ namespace
 
 constexpr int kTooMany = 100000; // allocations that an opening may not need
 
-const int kStep = IsThorough() ? 1 : 17;
+const int kStep = SampledStep(17);
 
 /// Lists of some earlier run, so that there is something to restore.
 SResults EarlierResults()

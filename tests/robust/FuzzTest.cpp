@@ -24,7 +24,7 @@
 namespace
 {
 
-const unsigned kSequences = IsThorough() ? 7500 : 300;
+const unsigned kSequences = static_cast<unsigned>(SampledRounds(7500, 300));
 constexpr int kMostSteps = 14;
 constexpr int kEnglish = 0;
 

@@ -7,7 +7,7 @@ namespace
 {
 
 constexpr int kBatches = 5;
-const int kOpenings = IsThorough() ? 200 : 20; // where dialogs are quick, a thousand in each test
+const int kOpenings = SampledRounds(200, 20); // where dialogs are quick, a thousand in each test
 
 /// The bytes that the system keeps of each list box with tab stops that is gone.
 size_t BytesLostWithTabStops()

@@ -1,7 +1,15 @@
 #include "tests/support/Sampled.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <set>
+
+namespace
+{
+
+constexpr int kThinner = sizeof(void*) == 8 ? 3 : 1;
+
+} // namespace
 
 bool IsThorough()
 {
@@ -11,6 +19,10 @@ bool IsThorough()
     return true;
 #endif
 }
+
+int SampledStep(int every) { return IsThorough() ? 1 : every * kThinner; }
+
+int SampledRounds(int all, int sample) { return IsThorough() ? all : std::max(2, sample / kThinner); }
 
 std::vector<unsigned> SampledNumbers(unsigned first, unsigned last, unsigned every)
 {

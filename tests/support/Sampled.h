@@ -10,6 +10,14 @@
 /// Whether exhaustive tests run whole: natively, and on Windows when PEXLO_THOROUGH is set in the environment.
 bool IsThorough();
 
+/// How far a long loop goes on at a time: by one, or as a sample by `every`. 64-bit Windows, which runs the same code
+/// as 32-bit Windows does, takes a third of that sample.
+int SampledStep(int every);
+
+/// How often a long loop does the same with other values: `all` times, or as a sample so many; a third of them, at
+/// least two, on 64-bit Windows.
+int SampledRounds(int all, int sample);
+
 /// The numbers from `first` to `last`, or as a sample every nth of them, the last always.
 std::vector<unsigned> SampledNumbers(unsigned first, unsigned last, unsigned every);
 

@@ -9,6 +9,7 @@
 #include "tests/support/DesktopTest.h"
 #include "tests/support/PrintTo.h"
 #include "tests/support/Results.h"
+#include "tests/support/Sampled.h"
 
 #include <algorithm>
 #include <map>
@@ -230,7 +231,7 @@ TEST_P(CDeclaredFieldsTest, RestoreWhatTheyStored)
                 texts.push_back(control.text);
         return texts;
     };
-    for (int round = 0; round < 12; ++round)
+    for (int round = 0; round < SampledRounds(12, 12); ++round)
     {
         SCOPED_TRACE(testing::Message() << "round " << round);
         std::vector<CString> entered;

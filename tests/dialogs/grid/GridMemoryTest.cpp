@@ -4,6 +4,7 @@
 #include "dialogs/pulse/Sp0hDlg.h"
 #include "tests/dialogs/pulse/Sp0hTest.h"
 #include "tests/support/AllocationFaults.h"
+#include "tests/support/Sampled.h"
 
 namespace
 {
@@ -47,7 +48,7 @@ TEST_F(CSp0hTest, TableDoesAllOrNothingWithoutMemory)
     {
         int successes = 0;
         bool failed = true;
-        for (; failed && successes < kTooMany && !HasFailure(); successes += IsThorough() ? 1 : 3)
+        for (; failed && successes < kTooMany && !HasFailure(); successes += SampledStep(3))
             Leave([&](CDialogRobot& dialog) {
                 SCOPED_TRACE(testing::Message() << operation.name << " after " << successes << " allocations");
                 PasteCells(dialog, "0a\t0b\n1a\t1b\n2a\t2b\n");

@@ -9,7 +9,7 @@ namespace
 
 constexpr int kTooMany = 100000; // allocations that an operation may not need
 
-const int kStep = IsThorough() ? 1 : 17;
+const int kStep = SampledStep(17);
 
 class CEPointMemoryTest : public CEPointTest, public testing::WithParamInterface<int>
 {
