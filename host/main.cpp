@@ -43,6 +43,7 @@ int PlaySession(const std::string& path, const std::string& shots, const std::st
 int Run(int argc, char** argv)
 {
     CLI::App app("Enters PLC instructions with the wizard library.", kHostName);
+    app.allow_windows_style_options(false); // a path may begin with a slash
     std::vector<std::string> sessions;
     std::string shots;
     std::string language;
