@@ -74,52 +74,6 @@ foreach(target pexlo_cli import_libraries)
     endif()
 endforeach()
 
-if(BUILD_TESTING)
-    # The programs of a host that finds the library; it is compiled as the library is.
-    set(programs UsesInterface)
-    if(WIN32)
-        list(APPEND programs UsesClass)
-    endif()
-    set(options -G ${CMAKE_GENERATOR} -DCMAKE_BUILD_TYPE=Release)
-    if(CMAKE_TOOLCHAIN_FILE)
-        list(APPEND options --toolchain ${CMAKE_TOOLCHAIN_FILE})
-    endif()
-    if(WIN32)
-        list(APPEND options -DCMAKE_EXE_LINKER_FLAGS=-static) # no run-time library of the compiler
-    endif()
-    if(PEXLO_SANITIZE)
-        list(APPEND options "-DCMAKE_C_FLAGS=-fsanitize=address,undefined" "-DCMAKE_CXX_FLAGS=-fsanitize=address,undefined")
-    endif()
-    add_test(NAME installation
-             COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR} -DFOLDER=${PROJECT_BINARY_DIR}/installation
-                     -DVERSION=${PROJECT_VERSION} -DSUFFIX=${CMAKE_EXECUTABLE_SUFFIX} "-DPROGRAMS=${programs}"
-                     "-DOPTIONS=${options}" "-DEMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
-                     -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckInstallation.cmake)
-    set_tests_properties(installation PROPERTIES LABELS delivered TIMEOUT 300)
-endif()
-
-if(BUILD_TESTING AND NOT PEXLO_SANITIZE)
-    set(files $<TARGET_FILE:${library}> ${language_files} ${import_libraries})
-    add_test(NAME reproducible
-             COMMAND ${CMAKE_COMMAND} "-DFILES=${files}"
-                     -DSOURCE=${PROJECT_SOURCE_DIR} -DBUILD=${PROJECT_BINARY_DIR}
-                     -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckMeans.cmake)
-    set_tests_properties(reproducible PROPERTIES LABELS delivered)
-endif()
-
-if(BUILD_TESTING AND WIN32)
-    find_program(PEXLO_CLANG clang)
-    find_program(PEXLO_LLD_LINK lld-link)
-    find_library(PEXLO_KERNEL32 kernel32)
-    if(PEXLO_LLVM_DLLTOOL AND PEXLO_CLANG AND PEXLO_LLD_LINK)
-        add_test(NAME import_library
-                 COMMAND ${CMAKE_COMMAND} -DFOLDER=${PROJECT_BINARY_DIR}/import_library -DBUILD=${PROJECT_BINARY_DIR}
-                         -DBITS=$<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,64,32> -DCLANG=${PEXLO_CLANG}
-                         -DLLD_LINK=${PEXLO_LLD_LINK} -DLLVM_DLLTOOL=${PEXLO_LLVM_DLLTOOL} -DSYSTEM=${PEXLO_KERNEL32}
-                         -DSOURCE=${PROJECT_SOURCE_DIR} "-DEMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
-                         -P ${PROJECT_SOURCE_DIR}/cmake/package/CheckImportLibrary.cmake)
-        set_tests_properties(import_library PROPERTIES TIMEOUT 120)
-    else()
-        message(STATUS "Clang or lld-link was not found: Pexlo.lib is not tested.")
-    endif()
+if(BUILD_TESTING AND NOT PEXLO_SANITIZE) # nobody is given an instrumented library
+    include(cmake/package/Tests.cmake)
 endif()

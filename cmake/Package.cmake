@@ -34,7 +34,7 @@ else()
     message(STATUS "Python was not found: archives of two builds may differ in the order of their files.")
 endif()
 
-if(BUILD_TESTING AND Python3_FOUND)
+if(BUILD_TESTING AND NOT PEXLO_SANITIZE AND Python3_FOUND)
     string(REGEX REPLACE "^win.*" "windows" system ${CPACK_SYSTEM_NAME})
     string(REPLACE TGZ tar.gz suffix ${CPACK_GENERATOR})
     string(TOLOWER ${suffix} suffix)
