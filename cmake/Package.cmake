@@ -42,6 +42,7 @@ if(BUILD_TESTING AND NOT PEXLO_SANITIZE AND Python3_FOUND)
     add_test(NAME archive
              COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR} -DFOLDER=${PROJECT_BINARY_DIR}/archive
                      -DNAME=${CPACK_PACKAGE_FILE_NAME}.${suffix} -DDATE=${CPACK_PEXLO_DATE}
+                     -DPROGRAMS=$<$<TARGET_EXISTS:pexlo_cli>:bin/pexlo${CMAKE_EXECUTABLE_SUFFIX}>
                      -DEXPECTED=${folder}/contents-${system}.txt -P ${folder}/CheckArchive.cmake)
     set_tests_properties(archive PROPERTIES LABELS delivered TIMEOUT 300)
 endif()

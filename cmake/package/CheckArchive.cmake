@@ -1,5 +1,5 @@
 # Packs the archive twice and looks into it.
-#   cmake -DBUILD=... -DFOLDER=... -DNAME=Pexlo-1.0.0-win32.zip -DDATE=2026-11-22 -DEXPECTED=... -P CheckArchive.cmake
+#   cmake -DBUILD=... -DFOLDER=... -DNAME=Pexlo-1.0.0-win32.zip -DDATE=2026-11-22 -DEXPECTED=... [-DPROGRAMS=...] -P CheckArchive.cmake
 file(REMOVE_RECURSE ${FOLDER})
 foreach(pass one two)
     execute_process(COMMAND ${CMAKE_CPACK_COMMAND} --config ${BUILD}/CPackConfig.cmake -B ${FOLDER}/${pass}
@@ -17,6 +17,8 @@ list(TRANSFORM listing REPLACE "^${root}/" "")
 list(FILTER listing EXCLUDE REGEX "(^|/)$|^share/(doc/pexlo/docs|pexlo/samples)/")
 list(SORT listing)
 file(STRINGS ${EXPECTED} expected)
+list(APPEND expected ${PROGRAMS})
+list(SORT expected)
 if(NOT listing STREQUAL expected)
     set(unforeseen ${listing})
     list(REMOVE_ITEM unforeseen ${expected})

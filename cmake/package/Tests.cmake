@@ -16,6 +16,7 @@ endif()
 add_test(NAME installation
          COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR} -DFOLDER=${PROJECT_BINARY_DIR}/installation
                  -DVERSION=${PROJECT_VERSION} -DSUFFIX=${CMAKE_EXECUTABLE_SUFFIX} "-DPROGRAMS=${programs}"
+                 -DCOMMAND_LINE=$<TARGET_EXISTS:pexlo_cli>
                  "-DOPTIONS=${options}" "-DEMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
                  -P ${folder}/CheckInstallation.cmake)
 set_tests_properties(installation PROPERTIES LABELS delivered TIMEOUT 300)
