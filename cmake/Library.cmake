@@ -80,6 +80,7 @@ else()
                                                   SOVERSION ${PROJECT_VERSION_MAJOR})
     target_link_libraries(pexlo_shared PRIVATE module_resources)
     target_sources(pexlo_shared PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${interface_headers})
-    target_link_options(pexlo_shared PRIVATE -Wl,--exclude-libs,ALL)
+    # A build id would be one of the debugging information, which differs from build to build and is not delivered.
+    target_link_options(pexlo_shared PRIVATE -Wl,--build-id=none -Wl,--exclude-libs,ALL)
     add_dependencies(pexlo_shared language_libraries)
 endif()
