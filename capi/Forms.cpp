@@ -143,7 +143,7 @@ CKeptResults KeptBefore(CFunWizard& wizard, const PexloForm& form)
 int FillForm(CFunWizard& wizard, SFormCall& call, PexloRefusal* refusal, bool keeps)
 {
     CKeptResults before = KeptBefore(wizard, call.form);
-    CFormFiller user(call.Choice(), call.entries);
+    CFormFiller user(call.Choice(), call.entries, keeps);
     int result = 0;
     if (const int error = RunUnseen(wizard, call, user, result))
         return error;
@@ -257,7 +257,7 @@ int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, c
             return PEXLO_E_SIZE;
 
         const CKeptResults before = KeptBefore(*object.wizard, call.form);
-        CFormDescriber user(call.Choice(), call.entries);
+        CFormDescriber user(call.Choice(), call.entries, false);
         int result = 0;
         if (const int error = RunUnseen(*object.wizard, call, user, result))
             return error;

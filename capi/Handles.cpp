@@ -2,8 +2,8 @@
 
 #include "afx/ThreadState.h"
 
+#include <atomic>
 #include <mutex>
-#include <thread>
 #include <vector>
 
 namespace
@@ -14,7 +14,7 @@ namespace
 struct SSlot
 {
     SPexloObject* object = nullptr; ///< null: the slot is free
-    std::thread::id owner;
+    UINT_PTR owner = 0;
     unsigned generation = 1;
     int uses = 0;
     bool isDestroyed = false; ///< and still in use
@@ -38,6 +38,17 @@ SHandles& Handles()
     alignas(SHandles) static char storage[sizeof(SHandles)];
     static auto* const handles = new (storage) SHandles;
     return *handles;
+}
+
+const CThreadPointer<void> ownNumber;
+std::atomic<UINT_PTR> lastNumber = 0;
+
+/// The number of the calling thread. That of the system may be given to a later thread when this one has ended.
+UINT_PTR CurrentThread()
+{
+    if (ownNumber.Get() == nullptr)
+        ownNumber.Exchange(reinterpret_cast<void*>(++lastNumber));
+    return reinterpret_cast<UINT_PTR>(ownNumber.Get());
 }
 
 PexloHandle HandleOf(const SHandles& handles, size_t index)
@@ -96,7 +107,7 @@ PexloHandle CHandleUse::Create()
         }
         SSlot& slot = handles.slots[index];
         slot.object = object.release();
-        slot.owner = std::this_thread::get_id();
+        slot.owner = CurrentThread();
         handle = HandleOf(handles, index);
     });
     return handle;
@@ -125,9 +136,9 @@ int CHandleUse::TakeOver(PexloHandle handle)
     SSlot* const slot = Find(handles, handle);
     if (slot == nullptr)
         return PEXLO_E_HANDLE;
-    if (slot->uses > 0 && slot->owner != std::this_thread::get_id())
+    if (slot->uses > 0 && slot->owner != CurrentThread())
         return PEXLO_E_BUSY;
-    slot->owner = std::this_thread::get_id();
+    slot->owner = CurrentThread();
     return 1;
 }
 
@@ -138,7 +149,7 @@ CHandleUse::CHandleUse(PexloHandle handle) : m_handle(handle)
     SSlot* const slot = Find(handles, handle);
     if (slot == nullptr)
         m_error = PEXLO_E_HANDLE;
-    else if (slot->owner != std::this_thread::get_id())
+    else if (slot->owner != CurrentThread())
         m_error = PEXLO_E_THREAD;
     else
     {

@@ -172,9 +172,9 @@ int PEXLO_CALL Pexlo_SetDlgFont(PexloHandle handle, void* dialog, int skipDialog
 {
     return OnWizard(handle, [=](CFunWizard& wizard) -> int {
         CWnd* const window = WindowOf(dialog);
-        if (window == nullptr)
+        if (window == nullptr || !Fits<unsigned char>(skipDialog))
             return PEXLO_E_ARGUMENT;
-        wizard.SetDlgFont(window, skipDialog != 0, const_cast<int*>(excludedIds));
+        wizard.SetDlgFont(window, static_cast<unsigned char>(skipDialog), const_cast<int*>(excludedIds));
         return 1;
     });
 }

@@ -19,6 +19,8 @@ public:
     [[nodiscard]] virtual bool Choose(CPosSelectDlg& selection) = 0;
     /// Works in a dialog that has opened. It is closed afterwards, as by Cancel unless OK has been accepted.
     virtual void Work(CWzdDialog& dialog) = 0;
+    /// Whether what a dialog accepts is stored in the wizard object.
+    virtual bool Stores() const { return true; }
     /// The dialog refuses what `control` holds; 0 when it is no control's fault. Rows and columns count from 1, and are
     /// 0 outside of a table.
     virtual void BeRefused(UINT message, UINT control, int row, int column) = 0;

@@ -64,6 +64,8 @@ bool CWzdDlgBase::Confirm()
     CWzdResults results;
     if (!ForEachField(kActiveFields, [&results](CWzdField& field) { return field.Collect(results); }))
         return false;
+    if (const CUnseenUser* const user = CUnseenUser::Current(); user != nullptr && !user->Stores())
+        return true;
     if (!results.StoreIn(Wizard()))
     {
         ShowWarning(IDS_ERR_MEMORY);

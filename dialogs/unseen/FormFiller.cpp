@@ -8,8 +8,8 @@
 
 #include <algorithm>
 
-CFormFiller::CFormFiller(const SWizardChoice& choice, std::span<const SFormEntry> entries)
-    : m_choice(choice), m_entries(entries)
+CFormFiller::CFormFiller(const SWizardChoice& choice, std::span<const SFormEntry> entries, bool stores)
+    : m_choice(choice), m_entries(entries), m_stores(stores)
 {
     m_refusal.problem = kCannotOpen; // until it has been
     m_refusal.text = "The dialog could not be opened: the PLC lacks a device that it needs, or the language library is "

@@ -33,11 +33,12 @@ struct SFormRefusal
 class CFormFiller : public CUnseenUser
 {
 public:
-    /// `entries` live as long as the object.
-    CFormFiller(const SWizardChoice& choice, std::span<const SFormEntry> entries);
+    /// `entries` live as long as the object. Without `stores` what the dialog accepts is not stored.
+    CFormFiller(const SWizardChoice& choice, std::span<const SFormEntry> entries, bool stores);
 
     bool Choose(CPosSelectDlg& selection) override;
     void Work(CWzdDialog& dialog) override;
+    bool Stores() const override { return m_stores; }
     void BeRefused(UINT message, UINT control, int row, int column) override;
 
     /// Whether the selection dialog had the choice, or there was none.
@@ -66,6 +67,7 @@ private:
 
     SWizardChoice m_choice;
     std::span<const SFormEntry> m_entries;
+    bool m_stores;
     CWzdDialog* m_dialog = nullptr;
     std::vector<CField> m_fields; ///< of the dialog
     bool m_offered = true;
