@@ -295,8 +295,7 @@ number can be read from is told by message 20001.
 
 F174 stores its table row by row and a 0 behind it, scaling its points column by column; both are called `table`. The
 controls of the screen's lines and marks are in `dialogs/process/ScreenField.cpp`, what they make of the control data in
-`ScreenSettings.h`. Names that
-end in B and C are the dialogs of those families of controllers.
+`ScreenSettings.h`. Names that end in B and C are the dialogs of those families of controllers.
 )";
 
 } // namespace
