@@ -37,11 +37,11 @@ std::ostream& operator<<(std::ostream& out, const STranslatedSession& row)
     return out << row.name << " in " << row.language;
 }
 
-// All of them; or as a sample a third of the sessions in each language, another one in the next.
+// All of them; or as a sample some of the sessions in each language, other ones in the next.
 std::vector<STranslatedSession> TranslatedSessions()
 {
     const std::vector<std::string> names = SessionNames();
-    const size_t every = IsThorough() ? 1 : 3;
+    const auto every = static_cast<size_t>(SampledStep(3));
     std::vector<STranslatedSession> rows;
     for (const SLanguageOnSystem& language : LanguagesOnSystems())
         for (size_t i = static_cast<size_t>(language.translation.index) % every; i < names.size(); i += every)
