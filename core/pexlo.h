@@ -185,7 +185,7 @@ PEXLO_API void* PEXLO_CALL Pexlo_CreateDlgFont(PexloHandle handle, void* window)
  * `excludedIds`, a list ended by 0 or null. */
 PEXLO_API int PEXLO_CALL Pexlo_SetDlgFont(PexloHandle handle, void* dialog, int skipDialog, const int* excludedIds);
 PEXLO_API int PEXLO_CALL Pexlo_DeleteDlgFont(PexloHandle handle);
-/* The HTML Help file behind the Help buttons; an empty path hides them. */
+/* The HTML Help file behind the Help buttons; an empty path hides them. It is kept in the system's code page. */
 PEXLO_API int PEXLO_CALL Pexlo_SetHelpPath(PexloHandle handle, const char* path);
 PEXLO_API int PEXLO_CALL Pexlo_SetHelpPathUtf8(PexloHandle handle, const char* path);
 PEXLO_API int PEXLO_CALL Pexlo_GetHelpPath(PexloHandle handle, char* buffer, int size);
@@ -356,7 +356,7 @@ typedef struct PexloEntry
 #define PEXLO_REFUSED_NOT_ENABLED 5  /* the field is not enabled with the other entries as they are */
 #define PEXLO_REFUSED_CHANGED 6      /* another entry has changed the field again */
 #define PEXLO_REFUSED_NOT_POSSIBLE 7 /* the PLC lacks what the dialog needs */
-#define PEXLO_REFUSED_CANNOT_OPEN 8  /* the dialog could not be opened: a device or a language library is missing */
+#define PEXLO_REFUSED_CANNOT_OPEN 8  /* the dialog could not be opened: a device, channels or a language are missing */
 
 typedef struct PexloRefusal
 {
