@@ -116,8 +116,9 @@ void Tell(const SFormRefusal& refusal, PexloRefusal* told)
     known.entry = refusal.entry;
     known.row = refusal.row;
     known.column = refusal.column;
-    CopyTo(known.name, refusal.name);
-    CopyTo(known.message, refusal.text);
+    // They may quote what the host has passed, which may be no UTF-8.
+    CopyTo(known.name, static_cast<LPCSTR>(FromUtf8(refusal.name.c_str(), CP_UTF8)));
+    CopyTo(known.message, static_cast<LPCSTR>(FromUtf8(refusal.text.c_str(), CP_UTF8)));
     WriteStructure(told, known);
 }
 

@@ -9,27 +9,28 @@
 /// No version will have a larger one: what says so is not a size.
 constexpr size_t kLargestStructure = 4096;
 
+/// Whether a structure says a size that one of this or a later version can have.
+template <typename TStructure>
+[[nodiscard]] bool HasRoom(const TStructure* passed)
+{
+    const size_t size = passed->size;
+    return size >= sizeof *passed && size <= kLargestStructure && size % alignof(TStructure) == 0;
+}
+
 /// Reads a structure that is passed. False when it is smaller than this version's, or says something that this version
 /// does not know.
 template <typename TStructure>
 [[nodiscard]] bool ReadStructure(const TStructure* passed, TStructure& known)
 {
-    const size_t size = passed->size;
-    if (size < sizeof known || size > kLargestStructure)
+    if (!HasRoom(passed))
         return false;
+    const size_t size = passed->size;
     const auto* const rest = reinterpret_cast<const char*>(passed) + sizeof known;
     if (std::any_of(rest, rest + (size - sizeof known), [](char one) { return one != 0; }))
         return false;
     std::memcpy(&known, passed, sizeof known);
     known.size = sizeof known;
     return true;
-}
-
-/// Whether a structure that is to be filled has room for this version's.
-template <typename TStructure>
-[[nodiscard]] bool HasRoom(const TStructure* returned)
-{
-    return returned->size >= sizeof *returned && returned->size <= kLargestStructure;
 }
 
 /// Fills a structure that has room. What a later version's has beyond is left alone.

@@ -100,7 +100,14 @@ PEXLO_API int PEXLO_CALL Pexlo_DoInputPosCtrlDlg(PexloHandle handle, unsigned in
 /* F355. `workArea`: how many registers the work area reaches beyond its first one. */
 PEXLO_API int PEXLO_CALL Pexlo_DoOpenPIDDlg(PexloHandle handle, int workArea, void* parent);
 /* The screen display. `permitted`: four masks of permitted devices, for the screen (not read), the control data, the
- * upside and the downside display data; null permits all. */
+ * upside and the downside display data; null permits all. The bits of a mask:
+ *
+ *     0x10 X    0x20 Y     0x40 R     0x80 L     0x100 P      0x200 T        0x400 C      0x800 E
+ *     0x20000 WY           0x40000 WR            0x80000 WL   0x200000 SV    0x400000 EV
+ *     0x800000 DT          0x1000000 LD          0x2000000 FL 0x10000000 index registers
+ *     0x1 K    0x2 H    0x4 real constant
+ *
+ * With a mask WX and the special DT are never permitted; the other special devices, which have no bit, always are. */
 PEXLO_API int PEXLO_CALL Pexlo_DoOpenSCRDlg(PexloHandle handle, const unsigned int* permitted, void* parent);
 /* `kind` 0 = F282, 1 = F283, any other = F354. `permitted`: three such masks, for the input, the table and the
  * output. */
@@ -154,7 +161,8 @@ PEXLO_API int PEXLO_CALL Pexlo_GetSeqDevInfo(PexloHandle handle, int index, int*
 PEXLO_API int PEXLO_CALL Pexlo_SetMaxSlot(PexloHandle handle, int count);
 PEXLO_API int PEXLO_CALL Pexlo_GetMaxSlot(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_SetDefaultMaxSlot(PexloHandle handle);
-/* Offers a pulse-output channel, 0..15, to an instruction 171..175; ResetChannelNo withdraws all of all. */
+/* Offers a pulse-output channel, 0..15, to an instruction 171..175; others are ignored, but of a channel only the
+ * remainder by 32 counts. ResetChannelNo withdraws all of all, and the display type of F175. */
 PEXLO_API int PEXLO_CALL Pexlo_SetChannelNo(PexloHandle handle, int channel, int instruction);
 PEXLO_API int PEXLO_CALL Pexlo_ResetChannelNo(PexloHandle handle);
 PEXLO_API int PEXLO_CALL Pexlo_GetNumOfChannel(PexloHandle handle, int instruction);
@@ -168,8 +176,9 @@ PEXLO_API int PEXLO_CALL Pexlo_GetF175DispType(PexloHandle handle);
 
 /* ---- Settings ---------------------------------------------------------------------------------------------------- */
 
-/* Empties the operand, data, instruction and comment lists and forgets ranges, instructions, the language and the
- * last wizard. Does nothing while a dialog of the object is open. */
+/* Empties the operand, data, instruction and comment lists, frees the dialog data and forgets ranges, instructions,
+ * the language and the last wizard. The other settings and the contact list stay. Does nothing while a dialog of the
+ * object is open. */
 PEXLO_API int PEXLO_CALL Pexlo_ResetContents(PexloHandle handle);
 /* 0 English, 1 Japanese, 2 simplified and 3 traditional Chinese, 4 Korean, 5 Spanish, 6 Italian, 9 Thai: loads the
  * PlxRc*.DLL beside the library, or beside the program. 1 when it is loaded; 0, and the texts are the library's own
@@ -329,7 +338,8 @@ typedef struct PexloOffer
 
 PEXLO_API int PEXLO_CALL Pexlo_GetOffer(PexloHandle handle, int index, PexloOffer* offer);
 
-/* What to enter, and where: a control by its id, or by its name when the id is 0.
+/* What to enter, and where: a control by its id, or by its name when the id is 0; one of them is needed. Up to 65536
+ * entries are taken.
  *
  * An edit takes the text that a user would type; nothing is cut. A list takes the text of an item, or "#" and the
  * item's code, decimal or with 0x hexadecimal. A check box or button that stays pressed takes 1 or 0, on or off,
@@ -356,7 +366,7 @@ typedef struct PexloEntry
 #define PEXLO_REFUSED_NOT_ENABLED 5  /* the field is not enabled with the other entries as they are */
 #define PEXLO_REFUSED_CHANGED 6      /* another entry has changed the field again */
 #define PEXLO_REFUSED_NOT_POSSIBLE 7 /* the PLC lacks what the dialog needs */
-#define PEXLO_REFUSED_CANNOT_OPEN 8  /* the dialog could not be opened: a device, channels or a language are missing */
+#define PEXLO_REFUSED_CANNOT_OPEN 8  /* the PLC has no such dialog, or a device, channels or a language are missing */
 
 typedef struct PexloRefusal
 {

@@ -353,9 +353,10 @@ SEntryOutcome CField::EnterText(LPCSTR text)
     const int limit = LimitOfText();
     const LPCWSTR first = wide;
     const bool fits = limit == 0 || wide.GetLength() <= limit;
+    const bool isUtf8 = AfxNarrow(wide, wide.GetLength(), CP_UTF8) == text;
     const bool isTyped = std::all_of(first, first + wide.GetLength(),
                                      [this](WCHAR c) { return TakesDigitsOnly() ? c >= '0' && c <= '9' : c >= ' '; });
-    if (!fits || !isTyped)
+    if (!fits || !isUtf8 || !isTyped)
         return {kCannotBeTyped};
     ::SetWindowTextW(m_control, wide);
     Notify(EN_KILLFOCUS);

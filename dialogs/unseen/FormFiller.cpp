@@ -12,8 +12,9 @@ CFormFiller::CFormFiller(const SWizardChoice& choice, std::span<const SFormEntry
     : m_choice(choice), m_entries(entries), m_stores(stores)
 {
     m_refusal.problem = kCannotOpen; // until it has been
-    m_refusal.text = "The dialog could not be opened: the PLC lacks a device or the channels that it needs, or the "
-                     "language library that has it is missing.";
+    m_refusal.text =
+        "The dialog could not be opened: there is none for this PLC, the PLC lacks a device or the channels "
+        "that it needs, or the language library that has it is missing.";
 }
 
 bool CFormFiller::Choose(CPosSelectDlg& selection)

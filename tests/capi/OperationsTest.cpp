@@ -599,7 +599,8 @@ TEST_F(CapiOperationsTest, KnowTheSizesOfFormsAndEntries)
     Prepare(m_handle, FormRows()[0]);
     const auto known = FormOf(FormRows()[0]);
     const PexloEntry entries[] = {{sizeof(PexloEntry), 0, "start", "100"}, {sizeof(PexloEntry), 0, "target", "5"}};
-    for (const unsigned size : {0u, 1u, static_cast<unsigned>(sizeof known) - 1})
+    for (const unsigned size :
+         {0u, 1u, static_cast<unsigned>(sizeof known) - 1, static_cast<unsigned>(sizeof known) + 1})
     {
         auto form = known;
         form.size = size;
@@ -637,6 +638,32 @@ TEST_F(CapiOperationsTest, KnowTheSizesOfFormsAndEntries)
     laterEntries[1].known.size = 0;
     EXPECT_EQ(Pexlo_Check(m_handle, &known, &laterEntries[0].known, 2, nullptr), PEXLO_E_SIZE);
     EXPECT_EQ(Pexlo_Check(m_handle, &known, &laterEntries[0].known, 1, nullptr), 2);
+
+    // An array whose elements could not be read where they lie.
+    laterEntries[0].known.size = sizeof(PexloEntry) + 1;
+    EXPECT_EQ(Pexlo_Check(m_handle, &known, &laterEntries[0].known, 2, nullptr), PEXLO_E_SIZE);
+}
+
+TEST_F(CapiOperationsTest, TellInUtf8WhatIsNoUtf8)
+{
+    Prepare(m_handle, FormRows()[0]);
+    const auto form = FormOf(FormRows()[0]);
+    auto refusal = Sized<PexloRefusal>();
+    const auto expectUtf8 = [&](const char* text) {
+        EXPECT_EQ(std::strchr(text, '\xFF'), nullptr) << text;
+        EXPECT_STRNE(text, "");
+    };
+    for (const PexloEntry& entry :
+         {PexloEntry{sizeof(PexloEntry), 0, "start", "1\xFF"}, PexloEntry{sizeof(PexloEntry), 0, "width", "1\xFF"},
+          PexloEntry{sizeof(PexloEntry), 0, "st\xFF", "1"}})
+    {
+        EXPECT_EQ(Pexlo_Check(m_handle, &form, &entry, 1, &refusal), 2);
+        expectUtf8(refusal.name);
+        expectUtf8(refusal.message);
+    }
+    const PexloEntry entry = {sizeof(PexloEntry), 0, "start", "1\xFF"};
+    EXPECT_EQ(Pexlo_Check(m_handle, &form, &entry, 1, &refusal), 2);
+    EXPECT_EQ(refusal.reason, PEXLO_REFUSED_TYPING);
 }
 
 TEST_F(CapiOperationsTest, FillArraysOfALaterVersion)
