@@ -163,11 +163,27 @@ json ItemsJson(const pexlo::Field& field)
     return items;
 }
 
+// What an edit or the cells of a column accept; `TInfo` is PexloField or PexloItem.
+template <typename TInfo>
+void AddAccepted(const TInfo& info, json& object)
+{
+    if (info.limit != 0)
+        object["maxLength"] = info.limit;
+    if (info.hasRange == 0)
+        return;
+    object["lowest"] = info.lowest;
+    object["highest"] = info.highest;
+    object["decimals"] = info.decimals;
+}
+
 json ColumnsJson(const pexlo::Field& field)
 {
     json columns = json::array();
     for (const pexlo::Item& item : field.items)
-        columns.push_back(item.text);
+    {
+        columns.push_back({{"text", item.text}});
+        AddAccepted(item.info, columns.back());
+    }
     return columns;
 }
 
@@ -183,18 +199,9 @@ json FieldJson(const pexlo::Field& field)
         object["value"] = info.selected != 0;
     else
         object["value"] = field.text;
+    AddAccepted(info, object);
     if (info.kind == PEXLO_FIELD_EDIT)
-    {
-        if (info.limit != 0)
-            object["maxLength"] = info.limit;
         object["digitsOnly"] = info.digitsOnly != 0;
-    }
-    if (info.hasRange != 0)
-    {
-        object["lowest"] = info.lowest;
-        object["highest"] = info.highest;
-        object["decimals"] = info.decimals;
-    }
     if (info.kind == PEXLO_FIELD_LIST)
     {
         object["selected"] = info.selected;

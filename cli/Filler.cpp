@@ -40,7 +40,7 @@ SFormName NamedForm(const std::string& name)
 {
     if (const auto form = FindForm(name))
         return *form;
-    throw CFileError(name + ": " + NoInstruction(name));
+    throw CFileError((name.empty() ? "" : name + ": ") + NoInstruction(name));
 }
 
 CFiller::CFiller(pexlo::Wizard& wizard, const SSettings& settings) : m_wizard(wizard), m_settings(settings) {}

@@ -9,6 +9,7 @@
 #include <cctype>
 #include <cstddef>
 #include <iterator>
+#include <set>
 
 using json = nlohmann::ordered_json; // entries are made in the order of the file
 
@@ -53,6 +54,8 @@ std::vector<std::string> Columns(const SCsvRecord& header)
         if (columns.back().empty())
             throw CFileError("line " + std::to_string(header.line) + ": column " + std::to_string(columns.size()) +
                              " has no name");
+        if (columns.back().find_first_of(";\t\r") != std::string::npos) // as some spreadsheets write it
+            throw CFileError("cells are separated by commas, and lines by line feeds");
     }
     return columns;
 }
@@ -119,13 +122,20 @@ private:
 // The document, and the lines in which its objects begin that no other one contains.
 json ParseLines(const std::string& text, std::vector<int>& lines)
 {
+    constexpr int kDeepest = 16; // far deeper than anything that is expected
     int line = 1;
-    int objects = 0;
-    const auto see = [&](int, json::parse_event_t event, json&) {
-        if (event == json::parse_event_t::object_start && objects++ == 0)
+    std::vector<std::set<std::string>> keys; // of the objects that are open
+    const auto see = [&](int depth, json::parse_event_t event, json& value) {
+        if (depth > kDeepest)
+            throw CFileError("line " + std::to_string(line) + ": lists in lists in lists are not expected");
+        if (event == json::parse_event_t::object_start && keys.empty())
             lines.push_back(line);
+        if (event == json::parse_event_t::object_start)
+            keys.emplace_back();
         else if (event == json::parse_event_t::object_end)
-            --objects;
+            keys.pop_back();
+        else if (event == json::parse_event_t::key && !keys.back().insert(value.get<std::string>()).second)
+            throw CFileError("line " + std::to_string(line) + ": " + value.dump() + " is named twice");
         return true;
     };
     try
@@ -133,7 +143,7 @@ json ParseLines(const std::string& text, std::vector<int>& lines)
         const char* start = text.data();
         return json::parse(CLineCounter(start, line), CLineCounter(start + text.size(), line), see);
     }
-    catch (const json::parse_error&)
+    catch (const json::exception&) // also of a number that is too large
     {
         throw CFileError("no JSON: mistake in line " + std::to_string(line));
     }
@@ -172,10 +182,12 @@ void AddEntry(SJob& job, const std::string& field, const json& value)
 {
     if (value.is_null())
         return;
+    if (!IsUtf8(field))
+        throw CFileError("the name of a field is no text");
     try
     {
         const std::string text = ValueText(value);
-        if (field.empty() || !IsUtf8(field + text))
+        if (field.empty() || !IsUtf8(text))
             throw CFileError("this is no text to enter");
         job.entries.push_back(MakeEntry(field, text));
     }
@@ -208,8 +220,10 @@ void ReadJob(SJob& job, const json& object)
 {
     for (const auto& [key, value] : object.items())
     {
-        if (key == "instruction")
+        if (key == "instruction" && !value.is_null())
             job.instruction = ScalarText(value);
+        else if (key == "instruction")
+            continue;
         else if (key == "set")
             AddEntries(job, value);
         else

@@ -2,13 +2,13 @@
 
 #include "cli/ExitCodes.h"
 #include "cli/Jobs.h"
+#include "cli/NearName.h"
 #include "host/Languages.h"
 #include "host/TextFile.h"
 
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
-#include <map>
 #include <sstream>
 
 namespace
@@ -25,23 +25,21 @@ std::string VersionText()
 struct SWords
 {
     std::string plc = "compact";
+    std::string format = "text";
     std::vector<std::string> set;
     std::string controlCode = "0";
 };
 
 void AddSettings(CLI::App& command, SOptions& options, SWords& words)
 {
-    static const std::map<std::string, EFormat> formats = {
-        {"text", EFormat::Text}, {"json", EFormat::Json}, {"csv", EFormat::Csv}};
     command.add_option("--plc", words.plc, "The PLC: a preset, or a JSON file that describes one")
         ->capture_default_str();
     command.add_option("--language", options.language, "Of messages, items and comments")
         ->check(CLI::IsMember(LanguageNames(), CLI::ignore_case))
         ->default_str("English");
-    command.add_option("--format", options.format, "text, json or csv")
-        ->transform(CLI::CheckedTransformer(formats, CLI::ignore_case))
-        ->option_text("FORMAT")
-        ->default_str("text");
+    command.add_option("--format", words.format, "Of what is printed")
+        ->check(CLI::IsMember({"text", "json", "csv"}, CLI::ignore_case))
+        ->capture_default_str();
 }
 
 void AddForm(CLI::App& command, SOptions& options, SWords& words)
@@ -88,8 +86,24 @@ int LanguageOf(const std::string& name)
     return 0;
 }
 
+EFormat FormatOf(const std::string& name)
+{
+    const std::string word = CLI::detail::to_lower(name);
+    return word == "json" ? EFormat::Json : word == "csv" ? EFormat::Csv : EFormat::Text;
+}
+
+// The first word is no command.
+std::string NoCommand(const CLI::App& app, const std::string& word)
+{
+    std::vector<std::string> names;
+    for (const CLI::App* command : app.get_subcommands({}))
+        names.push_back(command->get_name());
+    return "pexlo: there is no command \"" + word + '"' + Suggestion(word, names) + '\n';
+}
+
 void Interpret(SOptions& options, const SWords& words)
 {
+    options.format = FormatOf(words.format);
     options.settings.plc = LoadPlc(words.plc);
     options.settings.language = LanguageOf(options.language);
     options.settings.controlCode = ControlCode(words.controlCode);
@@ -133,6 +147,9 @@ std::optional<SUsage> ParseOptions(const std::vector<std::string>& arguments, SO
     }
     catch (const CLI::ParseError& error)
     {
+        const bool isWord = arguments.size() > 1 && !arguments[1].starts_with('-');
+        if (isWord && app.get_subcommands().empty())
+            return SUsage{kWrongUsage, NoCommand(app, arguments[1])};
         std::ostringstream out, complaint;
         const int code = app.exit(error, out, complaint);
         return SUsage{code == 0 ? kAllFilled : kWrongUsage, out.str() + complaint.str()};

@@ -125,7 +125,10 @@ int main(int argc, char** argv)
     UseBinaryStreams();
     try
     {
-        return Run(Arguments(argc, argv));
+        const int result = Run(Arguments(argc, argv));
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) // on a disk that is full, say
+            throw CFileError("the results cannot be written");
+        return result;
     }
     catch (const std::exception& error)
     {

@@ -138,10 +138,12 @@ struct Refusal
     std::string message;
 };
 
+/// An item of a list, or a column of a table.
 struct Item
 {
     unsigned int code;
     std::string text;
+    PexloItem info; ///< everything about it: of a column also what its cells accept
 };
 
 /// A field as it stands after the entries.
@@ -526,7 +528,7 @@ private:
         {
             auto item = Sized<PexloItem>();
             if (Checked(Pexlo_GetFieldItem(m_handle, index, i, &item)) != 0)
-                field.items.push_back({item.code, item.text});
+                field.items.push_back({item.code, item.text, item});
         }
         return field;
     }

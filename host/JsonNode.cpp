@@ -19,6 +19,10 @@ json ParseJson(const std::string& text)
         const auto line = 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(end), '\n');
         throw CFileError("no JSON: mistake in line " + std::to_string(line));
     }
+    catch (const json::out_of_range&)
+    {
+        throw CFileError("no JSON: a number is too large");
+    }
 }
 
 void CJsonNode::Refuse(const std::string& what) const

@@ -104,6 +104,8 @@ TEST(JobsTest, RefusesCsvWithoutAHeader)
                                        "a\0,\0b\0\n\0",
                                        10)),
               "the file is not UTF-8");
+    EXPECT_EQ(CsvComplaint("a;b\n1;2\n"), "cells are separated by commas, and lines by line feeds");
+    EXPECT_EQ(CsvComplaint("a,b\r1,2\r"), "cells are separated by commas, and lines by line feeds");
     EXPECT_EQ(CsvComplaint("a\n"), "none") << "nothing to fill in is no mistake";
 }
 
@@ -113,10 +115,11 @@ TEST(JobsTest, ReadsJson)
         {"instruction": "F168", "set": {"z": "10A", "a": 95000, "b": 0.1, "c": true, "d": null}},
 
         {"set": {"x": -5}},
-        {"instruction": 169}
+        {"instruction": 169},
+        {"instruction": null}
     ])",
                                                 "F170");
-    ASSERT_EQ(jobs.size(), 3u);
+    ASSERT_EQ(jobs.size(), 4u);
     EXPECT_EQ(jobs[0].instruction, "F168");
     EXPECT_THAT(Entered(jobs[0]), ElementsAre("z=10A", "a=95000", "b=0.1", "c=true")) << "in the order of the file";
     EXPECT_EQ(jobs[0].line, 2);
@@ -126,6 +129,7 @@ TEST(JobsTest, ReadsJson)
     EXPECT_EQ(jobs[2].instruction, "169");
     EXPECT_THAT(Entered(jobs[2]), IsEmpty());
     EXPECT_EQ(jobs[2].line, 5);
+    EXPECT_EQ(jobs[3].instruction, "F170");
 }
 
 TEST(JobsTest, ReadsTablesAndRepeatedFieldsOfJson)
@@ -171,6 +175,9 @@ TEST(JobsTest, RefusesWhatIsNoJson)
     EXPECT_EQ(JsonComplaint("[{},\n 1]"), "a list of objects, [{\"instruction\": ..., \"set\": {...}}], is expected");
     EXPECT_EQ(JsonComplaint("1"), "a list of objects, [{\"instruction\": ..., \"set\": {...}}], is expected");
     EXPECT_EQ(JsonComplaint("[\"\x93\xFA\"]"), "no JSON: mistake in line 1");
+    EXPECT_EQ(JsonComplaint("[{\"set\":\n{\"a\": 1e999}}]"), "no JSON: mistake in line 2");
+    EXPECT_EQ(JsonComplaint("[{\"set\":\n{\"a\": 1, \"b\": {\"a\": 2}, \"a\": 2}}]"), "line 2: \"a\" is named twice");
+    EXPECT_EQ(JsonComplaint(std::string(1000000, '[')), "line 1: lists in lists in lists are not expected");
     EXPECT_EQ(JsonComplaint("[]"), "none");
 }
 
