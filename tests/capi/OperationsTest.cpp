@@ -228,7 +228,7 @@ TEST_F(CapiOperationsTest, MakeTheFont)
     EXPECT_NE(::GetObjectW(static_cast<HGDIOBJ>(font), sizeof own, &own), 0);
     EXPECT_NE(::GetObjectW(m_wizard.CreateDlgFont(nullptr)->m_hObject, sizeof other, &other), 0);
     EXPECT_EQ(own.lfHeight, other.lfHeight);
-    EXPECT_EQ(std::memcmp(own.lfFaceName, other.lfFaceName, sizeof own.lfFaceName), 0);
+    EXPECT_TRUE(std::basic_string<WCHAR>(own.lfFaceName) == other.lfFaceName);
 
     EXPECT_EQ(Pexlo_SetDlgFont(m_handle, nullptr, 0, nullptr), PEXLO_E_ARGUMENT);
     EXPECT_EQ(Pexlo_SetDlgFont(m_handle, reinterpret_cast<void*>(0x4711), 0, nullptr), PEXLO_E_ARGUMENT);

@@ -35,7 +35,7 @@ std::vector<SSessionRow> Rows(bool inOtherLanguages)
     std::sort(names.begin(), names.end());
 
     std::vector<SSessionRow> rows;
-    for (const std::string& name : names)
+    for (const std::string& name : Sampled(names, inOtherLanguages ? 2 : 8))
         rows.push_back({name, kItsOwn});
     if (!inOtherLanguages)
         return rows;
