@@ -1,6 +1,8 @@
 // The settings of a wizard object, and its picture of the PLC, through the C interface.
 #include "capi/Handles.h"
+#include "dialogs/process/ScreenSettings.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace
@@ -250,6 +252,7 @@ int PEXLO_CALL Pexlo_IsSameCondition(PexloHandle handle)
     return OnWizard(handle, [](CFunWizard& wizard) { return wizard.IsSameCondition(); });
 }
 
+// A dialog reads a block of its own size, whoever has stored it: no block is smaller.
 int PEXLO_CALL Pexlo_SetDlgDataPtr(PexloHandle handle, const void* data, int size)
 {
     return OnWizard(handle, [=](CFunWizard& wizard) -> int {
@@ -257,7 +260,12 @@ int PEXLO_CALL Pexlo_SetDlgDataPtr(PexloHandle handle, const void* data, int siz
             return PEXLO_E_ARGUMENT;
         void* block = nullptr;
         if (data != nullptr && size > 0)
-            block = std::memcpy(::operator new(static_cast<size_t>(size)), data, static_cast<size_t>(size));
+        {
+            const auto given = static_cast<size_t>(size);
+            const size_t allocated = std::max(given, sizeof(SScreenSettings::Block));
+            block = std::memset(::operator new(allocated), 0, allocated);
+            std::memcpy(block, data, given);
+        }
         wizard.RemoveDlgData();
         wizard.SetDlgDataPtr(block);
         return 1;

@@ -49,5 +49,6 @@ void CloseGap(CWnd* first, UINT last, int height)
     }
     CRect window;
     dialog->GetWindowRect(&window);
-    dialog->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() - height, SWP_NOMOVE | SWP_NOZORDER);
+    dialog->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() - height,
+                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
