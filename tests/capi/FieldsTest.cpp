@@ -314,7 +314,8 @@ TEST(CapiFormsTest, AreAllDialogs)
 
 TEST(CapiFormsTest, AreOffered)
 {
-    for (const char* const plc : {"compact", "large", "family-b", "family-b-114", "family-b-117", "family-c"})
+    constexpr const char* kPresets[] = {"compact", "large", "family-b", "family-b-114", "family-b-117", "family-c"};
+    for (const char* const plc : Sampled(kPresets, 3))
     {
         const CCapiHandle handle;
         Prepare(handle, {"", plc, 0});

@@ -189,7 +189,7 @@ TEST_F(CapiRefusalsTest, NeedTheLanguageLibraryOfAFamily)
 // A mistake in one instruction leaves the results of another one: they can still be generated.
 TEST_F(CapiRefusalsTest, KeepTheResultsOfAnotherInstruction)
 {
-    for (const SFormRow& row : Sampled(FormRows(), 6))
+    for (const SFormRow& row : Sampled(FormRows(), 14))
     {
         SCOPED_TRACE(row.name);
         const bool isFormOfLists = row.instruction != PEXLO_FORM_CONTROL_CODE;
@@ -241,6 +241,19 @@ TEST_F(CapiRefusalsTest, CheckTheScreenWithoutChangingIt)
     EXPECT_EQ(Describe(m_handle, form).Field("screen").text, screen);
     EXPECT_EQ(Fill(m_handle, form, {{"screen", "#3"}}).result, 1);
     EXPECT_NE(Describe(m_handle, form).Field("screen").text, screen);
+}
+
+// A host may have stored less than the dialog reads.
+TEST_F(CapiRefusalsTest, ReadDialogDataOfAnySize)
+{
+    auto form = FormOf(180);
+    ASSERT_EQ(Fill(m_handle, form, AcceptedEntries(m_handle, form)).result, 1);
+    for (const char* const data : {"x", "four", "\xFF\xFF\xFF\xFF\xFF"})
+    {
+        EXPECT_EQ(Pexlo_SetDlgDataPtr(m_handle, data, static_cast<int>(std::strlen(data))), 1);
+        EXPECT_EQ(std::memcmp(Pexlo_GetDlgDataPtr(m_handle), data, std::strlen(data)), 0);
+        EXPECT_GT(Describe(m_handle, form).result, 0);
+    }
 }
 
 TEST_F(CapiRefusalsTest, FillBothLinesOfTheScreen)
@@ -418,6 +431,11 @@ struct SVisible
     bool operator==(const SVisible&) const = default;
 };
 
+std::ostream& operator<<(std::ostream& out, const SVisible& visible)
+{
+    return out << "focus " << visible.focus << ", active " << visible.active << ", windows " << visible.windows;
+}
+
 TEST_F(CapiRefusalsTest, LeaveTheDesktopAlone)
 {
     CWnd frame;
@@ -435,13 +453,13 @@ TEST_F(CapiRefusalsTest, LeaveTheDesktopAlone)
         Prepare(m_handle, row);
         auto form = FormOf(row);
         const CTextEntries entries = AcceptedEntries(m_handle, form);
-        EXPECT_TRUE(SVisible() == before);
+        EXPECT_EQ(SVisible(), before);
         EXPECT_EQ(Check(m_handle, form, {}).result == 1, row.instruction == 0);
-        EXPECT_TRUE(SVisible() == before);
+        EXPECT_EQ(SVisible(), before);
         EXPECT_EQ(Fill(m_handle, form, entries).result, 1);
-        EXPECT_TRUE(SVisible() == before);
+        EXPECT_EQ(SVisible(), before);
         EXPECT_EQ(Fill(m_handle, form, {{"no-such-field", ""}}).result, 2);
-        EXPECT_TRUE(SVisible() == before);
+        EXPECT_EQ(SVisible(), before);
     }
     MSG message;
     while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
@@ -453,7 +471,7 @@ TEST_F(CapiRefusalsTest, LeaveTheDesktopAlone)
     edit.GetSel(first, last);
     EXPECT_EQ(first, 1);
     EXPECT_EQ(last, 3);
-    EXPECT_TRUE(SVisible() == before);
+    EXPECT_EQ(SVisible(), before);
     frame.DestroyWindow();
 }
 

@@ -4,7 +4,6 @@
 //     PEXLO_FUZZ_SEED=123                                       other ones
 #include "tests/capi/Capi.h"
 #include "tests/robust/TextGenerator.h"
-#include "tests/support/Sampled.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +16,7 @@
 namespace
 {
 
-const unsigned kSequences = IsThorough() ? 600 : 30;
+constexpr unsigned kSequences = 600;
 constexpr int kMostCalls = 10;
 constexpr size_t kHandles = 4;
 
