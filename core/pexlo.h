@@ -348,7 +348,7 @@ PEXLO_API int PEXLO_CALL Pexlo_GetOffer(PexloHandle handle, int index, PexloOffe
  *
  * Entries are made one after the other. One whose field is not enabled yet, or whose item is not listed yet, waits
  * for those behind it, and one that a later entry has changed again is made again: when all have been made each
- * field holds what was asked for, or the call is refused. In the screen display dialog each of the entries
+ * field holds what was asked for, and none of them has been disabled by another one, or the call is refused. In the screen display dialog each of the entries
  * "upside-line" and "downside-line" turns to the settings of that line, for the entries behind it. */
 typedef struct PexloEntry
 {

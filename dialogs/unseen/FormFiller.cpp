@@ -110,7 +110,7 @@ bool CFormFiller::MakePage(std::vector<SPageEntry>& page)
             isComplete = false;
             const SEntryOutcome made = entry.field.Enter(text);
             if (made.problem == kEntered)
-                isMoving = true;
+                isMoving = entry.isMade = true;
             else if (rejected < 0)
             {
                 rejected = entry.index;
@@ -120,13 +120,22 @@ bool CFormFiller::MakePage(std::vector<SPageEntry>& page)
                 return Reject(entry.index, made);
         }
         if (isComplete)
-            return true;
+            return AreEnabled(page);
         if (!isMoving)
             return Reject(rejected, outcome);
     }
     for (const SPageEntry& entry : page)
         if (!entry.field.Holds(m_entries[static_cast<size_t>(entry.index)].text))
             return Reject(entry.index, {kChangedAgain});
+    return AreEnabled(page);
+}
+
+// An entry whose field another one has disabled afterwards would not count, and that depends on their order.
+bool CFormFiller::AreEnabled(const std::vector<SPageEntry>& page)
+{
+    for (const SPageEntry& entry : page)
+        if (entry.isMade && !entry.field.IsEnabled())
+            return Reject(entry.index, {kNotEnabled});
     return true;
 }
 

@@ -58,10 +58,12 @@ private:
     {
         int index;
         CField field;
+        bool isMade = false;
     };
 
     bool Find(int index, std::vector<SPageEntry>& page);
     bool MakePage(std::vector<SPageEntry>& page);
+    bool AreEnabled(const std::vector<SPageEntry>& page);
     bool Reject(int index, const SEntryOutcome& outcome);
     void Explain();
 

@@ -6,6 +6,7 @@
 #include "tests/support/DesktopTest.h"
 #include "tests/support/PrintTo.h"
 
+#include <array>
 #include <climits>
 #include <cstring>
 #include <memory>
@@ -642,6 +643,22 @@ TEST_F(CapiOperationsTest, KnowTheSizesOfFormsAndEntries)
     // An array whose elements could not be read where they lie.
     laterEntries[0].known.size = sizeof(PexloEntry) + 1;
     EXPECT_EQ(Pexlo_Check(m_handle, &known, &laterEntries[0].known, 2, nullptr), PEXLO_E_SIZE);
+}
+
+// An entry that does not count is refused, whether it is made before or after the one that disables its field.
+TEST_F(CapiOperationsTest, RefuseEntriesThatOthersDisable)
+{
+    Prepare(m_handle, FormRows()[0]);
+    const auto form = FormOf(355);
+    const PexloEntry limit = {sizeof(PexloEntry), 0, "upper-limit", "50"};
+    const PexloEntry unused = {sizeof(PexloEntry), 0, "upper-limit-used", "0"};
+    for (const auto& entries : {std::array{limit, unused}, std::array{unused, limit}})
+    {
+        auto refusal = Sized<PexloRefusal>();
+        EXPECT_EQ(Pexlo_Check(m_handle, &form, entries.data(), 2, &refusal), 2);
+        EXPECT_EQ(refusal.reason, PEXLO_REFUSED_NOT_ENABLED);
+        EXPECT_STREQ(refusal.name, "upper-limit");
+    }
 }
 
 TEST_F(CapiOperationsTest, TellInUtf8WhatIsNoUtf8)
