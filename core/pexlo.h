@@ -346,10 +346,10 @@ PEXLO_API int PEXLO_CALL Pexlo_GetOffer(PexloHandle handle, int index, PexloOffe
  * true or false. A table takes its rows: cells separated by tabs, or by commas when there is no tab, rows by line
  * breaks.
  *
- * Entries are made one after the other. One whose field is not enabled yet, or whose item is not listed yet, waits
- * for those behind it, and one that a later entry has changed again is made again: when all have been made each
- * field holds what was asked for, and none of them has been disabled by another one, or the call is refused. In the screen display dialog each of the entries
- * "upside-line" and "downside-line" turns to the settings of that line, for the entries behind it. */
+ * Entries are made one after the other. One whose field is not enabled yet, or whose item is not listed yet, waits for
+ * those behind it, and one that a later entry has changed again is made again: when all have been made each field holds
+ * what was asked for, counts, and has not been disabled by another one, or the call is refused. In the screen display
+ * dialog each of the entries "upside-line" and "downside-line" turns to the settings of that line, for those behind. */
 typedef struct PexloEntry
 {
     unsigned int size;

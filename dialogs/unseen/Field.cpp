@@ -343,8 +343,11 @@ bool CField::Holds(LPCSTR text) const
         return SwitchOf(text) == IsOn();
     SEntryOutcome outcome;
     const CGridView& table = *m_dialog->Table();
-    CGridModel rows(table.Model().Columns());
-    return MakeRows(text, table, rows, outcome) && rows.CopyAll() == table.Model().CopyAll();
+    const CGridModel& cells = table.Model();
+    CGridModel rows(cells.Columns());
+    // Rows behind the number of them that is entered elsewhere are there, but do not count.
+    return MakeRows(text, table, rows, outcome) && rows.CopyAll() == cells.CopyAll() &&
+           cells.IsWanted(cells.UsedRows() - 1);
 }
 
 SEntryOutcome CField::EnterText(LPCSTR text)

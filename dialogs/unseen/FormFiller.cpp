@@ -130,12 +130,16 @@ bool CFormFiller::MakePage(std::vector<SPageEntry>& page)
     return AreEnabled(page);
 }
 
-// An entry whose field another one has disabled afterwards would not count, and that depends on their order.
+// An entry whose field another one has disabled afterwards would not count, and that depends on their order. A switch
+// counts as it stands.
 bool CFormFiller::AreEnabled(const std::vector<SPageEntry>& page)
 {
     for (const SPageEntry& entry : page)
-        if (entry.isMade && !entry.field.IsEnabled())
+    {
+        const bool isSwitch = entry.field.Kind() == kCheckField || entry.field.Kind() == kRadioField;
+        if (entry.isMade && !isSwitch && !entry.field.IsEnabled())
             return Reject(entry.index, {kNotEnabled});
+    }
     return true;
 }
 

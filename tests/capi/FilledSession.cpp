@@ -114,6 +114,16 @@ void CWatcher::Touch(SDialog& dialog, unsigned control)
     dialog.touched.push_back(control);
 }
 
+// The dialog keeps rows behind the number of points, but they do not count; as entries they would be refused.
+CString CountingRows(const CGridModel& table)
+{
+    CString rows;
+    for (int row = 0; row < table.UsedRows() && table.IsWanted(row); ++row)
+        for (int column = 0; column < table.Columns(); ++column)
+            rows += table.Text({row, column}) + CString(column + 1 < table.Columns() ? "\t" : "\r\n");
+    return rows;
+}
+
 // Nothing for what is no field: push buttons, the editor of a table.
 std::optional<STextEntry> CWatcher::Shown(CDialogRobot& robot, unsigned control)
 {
@@ -126,7 +136,7 @@ std::optional<STextEntry> CWatcher::Shown(CDialogRobot& robot, unsigned control)
     if (table != nullptr && control == table->Controls().editor)
         return Shown(robot, IDC_GRID_CELLS);
     if (control == IDC_GRID_CELLS)
-        return STextEntry(id, Utf8(table->Model().CopyAll()));
+        return STextEntry(id, Utf8(CountingRows(table->Model())));
     for (const SRobotControl& one : robot.Controls())
     {
         if (one.id != control)

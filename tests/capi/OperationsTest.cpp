@@ -661,6 +661,44 @@ TEST_F(CapiOperationsTest, RefuseEntriesThatOthersDisable)
     }
 }
 
+// A switch that another one has switched and disabled holds what was asked for, in either order.
+TEST_F(CapiOperationsTest, TakeSwitchesThatOthersSwitch)
+{
+    Prepare(m_handle, FormRows()[0]);
+    const auto form = FormOf(355);
+    const PexloEntry used = {sizeof(PexloEntry), 0, "derivative-time-used", "1"};
+    const PexloEntry automatic = {sizeof(PexloEntry), 0, "auto-tuning", "#1"};
+    const PexloEntry unused = {sizeof(PexloEntry), 0, "derivative-time-used", "0"};
+    const auto reasonOf = [&](const std::array<PexloEntry, 2>& entries) {
+        auto refusal = Sized<PexloRefusal>();
+        Pexlo_DescribeFields(m_handle, &form, entries.data(), 2, nullptr, 0, &refusal);
+        return refusal.reason;
+    };
+    EXPECT_EQ(reasonOf({used, automatic}), 0);
+    EXPECT_EQ(reasonOf({automatic, used}), 0);
+    EXPECT_NE(reasonOf({unused, automatic}), 0);
+    EXPECT_NE(reasonOf({automatic, unused}), 0);
+}
+
+// Rows behind the number of points would not be stored.
+TEST_F(CapiOperationsTest, RefuseMoreRowsThanPoints)
+{
+    Prepare(m_handle, FormRows()[0]);
+    const auto form = FormOf(282);
+    const PexloEntry table = {sizeof(PexloEntry), 0, "table", "1,2\n3,4\n5,6\n"};
+    const PexloEntry two = {sizeof(PexloEntry), 0, "points", "2"};
+    const PexloEntry three = {sizeof(PexloEntry), 0, "points", "3"};
+    const auto reasonOf = [&](const std::array<PexloEntry, 2>& entries) {
+        auto refusal = Sized<PexloRefusal>();
+        Pexlo_DescribeFields(m_handle, &form, entries.data(), 2, nullptr, 0, &refusal);
+        return refusal.reason;
+    };
+    EXPECT_EQ(reasonOf({table, two}), PEXLO_REFUSED_CHANGED);
+    EXPECT_EQ(reasonOf({two, table}), PEXLO_REFUSED_CHANGED);
+    EXPECT_EQ(reasonOf({table, three}), 0);
+    EXPECT_EQ(reasonOf({three, table}), 0);
+}
+
 TEST_F(CapiOperationsTest, TellInUtf8WhatIsNoUtf8)
 {
     Prepare(m_handle, FormRows()[0]);
