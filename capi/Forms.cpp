@@ -262,14 +262,14 @@ int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, c
         int result = 0;
         if (const int error = RunUnseen(*object.wizard, call, user, result))
             return error;
-        Tell(user.Refusal(), refusal);
-        object.fields = user.Fields();
-        object.caption = user.Caption();
-        const int found = static_cast<int>(object.fields.size());
+        const int found = static_cast<int>(user.Fields().size());
         const int told = std::min(found, capacity);
         for (int i = 1; i < told; ++i)
             if (ElementAt(fields, i)->size != fields->size)
                 return PEXLO_E_SIZE;
+        Tell(user.Refusal(), refusal);
+        object.fields = user.Fields();
+        object.caption = user.Caption();
         // The first one is written last: its size tells where the others are.
         for (int i = told - 1; i >= 0; --i)
             WriteStructure(ElementAt(fields, i), ToField(object.fields[static_cast<size_t>(i)]));
