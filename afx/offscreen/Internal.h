@@ -26,7 +26,7 @@ namespace offscreen
 {
 // ---------------------------------------------------------------------------------------------------- inside, outside
 
-extern bool g_inside;
+extern thread_local bool g_inside; // for one thread, whatever others ask
 
 class InsideFlag
 {

@@ -4,7 +4,7 @@
 
 namespace offscreen
 {
-bool g_inside = false;
+thread_local bool g_inside = false;
 
 namespace
 {
