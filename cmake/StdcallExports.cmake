@@ -5,7 +5,8 @@
 #
 # The linker's .def file names the functions; what follows @ is read from the objects. It could rename them for the import
 # library too (==), but sorts what the DLL exports by the names in programs, and the loader looks them up by bisection:
-# Pexlo_CreateInstCode_11@4 stands before Pexlo_CreateInstCode_1@4. So dlltool makes the import library.
+# Pexlo_CreateInstCode_11@4 stands before Pexlo_CreateInstCode_1@4. So dlltool makes the import library. What the C++
+# classes have of __stdcall keeps its decoration in both.
 #
 # As a script: cmake -DNM=... -DOBJECTS=... -DDEF=... -P StdcallExports.cmake                      writes the .def file
 #              cmake -DDLLTOOL=... -DEXPORTS=... -DDEF=... -DDLL=... -DLIBRARY=... -P StdcallExports.cmake   the import library
@@ -28,11 +29,12 @@ if(CMAKE_SCRIPT_MODE_FILE)
     file(STRINGS ${DEF} functions REGEX " = ")
     foreach(function IN LISTS functions)
         string(REGEX MATCH "(Pexlo_.+) = (.+)" function "${function}")
-        string(REGEX REPLACE "(\n +)${CMAKE_MATCH_1}( = [^\n]*)?(\n)" "\\1${CMAKE_MATCH_2}\\3" exports "${exports}")
+        string(REGEX REPLACE "(\n +)${CMAKE_MATCH_1}( = [^\n]*)?(\n)" "\\1${CMAKE_MATCH_2} == ${CMAKE_MATCH_1}\\3"
+               exports "${exports}")
     endforeach()
     file(WRITE ${LIBRARY}.def "${exports}")
-    execute_process(COMMAND ${DLLTOOL} --kill-at --deterministic-libraries --temp-prefix Pexlo --dllname ${DLL} --input-def ${LIBRARY}.def
-                            --output-lib ${LIBRARY}
+    execute_process(COMMAND ${DLLTOOL} --deterministic-libraries --temp-prefix Pexlo --dllname ${DLL}
+                            --input-def ${LIBRARY}.def --output-lib ${LIBRARY}
                     COMMAND_ERROR_IS_FATAL ANY)
     return()
 endif()
