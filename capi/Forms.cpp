@@ -203,17 +203,6 @@ PexloField ToField(const SFieldDescription& field)
     return told;
 }
 
-/// Runs an operation on what the handle has been told of a dialog last.
-template <typename TOperation>
-int OnDescription(PexloHandle handle, TOperation operation)
-{
-    const CDesktopLock desktop;
-    const CHandleUse use(handle);
-    if (use.Error() != 0)
-        return use.Error();
-    return RunGuarded([&]() -> int { return operation(use.Object()); });
-}
-
 } // namespace
 
 int PEXLO_CALL Pexlo_Fill(PexloHandle handle, PexloForm* form, const PexloEntry* entries, int count,
@@ -248,7 +237,7 @@ int PEXLO_CALL Pexlo_Check(PexloHandle handle, const PexloForm* form, const Pexl
 int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, const PexloEntry* entries, int count,
                                     PexloField* fields, int capacity, PexloRefusal* refusal)
 {
-    return OnDescription(handle, [=](SPexloObject& object) -> int {
+    return OnObject(handle, [=](SPexloObject& object) -> int {
         SFormCall call;
         if (const int error = ReadCall(form, entries, count, call))
             return error;
@@ -279,7 +268,7 @@ int PEXLO_CALL Pexlo_DescribeFields(PexloHandle handle, const PexloForm* form, c
 
 int PEXLO_CALL Pexlo_GetFieldItem(PexloHandle handle, int field, int item, PexloItem* info)
 {
-    return OnDescription(handle, [=](SPexloObject& object) -> int {
+    return OnObject(handle, [=](SPexloObject& object) -> int {
         if (info == nullptr)
             return PEXLO_E_ARGUMENT;
         if (!HasRoom(info))
@@ -302,7 +291,7 @@ int PEXLO_CALL Pexlo_GetFieldItem(PexloHandle handle, int field, int item, Pexlo
 
 int PEXLO_CALL Pexlo_GetFieldText(PexloHandle handle, int field, char* buffer, int size)
 {
-    return OnDescription(handle, [=](SPexloObject& object) -> int {
+    return OnObject(handle, [=](SPexloObject& object) -> int {
         if (size < 0)
             return PEXLO_E_ARGUMENT;
         if (field < -1 || field >= static_cast<int>(object.fields.size()))

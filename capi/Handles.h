@@ -58,15 +58,22 @@ int RunGuarded(TOperation operation)
     }
 }
 
-/// Runs an operation on the object of a handle: `operation` takes the wizard and returns the result.
+/// Runs an operation on what a handle stands for: `operation` takes the object and returns the result.
 template <typename TOperation>
-int OnWizard(PexloHandle handle, TOperation operation)
+int OnObject(PexloHandle handle, TOperation operation)
 {
     const CDesktopLock desktop;
     const CHandleUse use(handle);
     if (use.Error() != 0)
         return use.Error();
-    return RunGuarded([&]() -> int { return operation(use.Wizard()); });
+    return RunGuarded([&]() -> int { return operation(use.Object()); });
+}
+
+/// The same on its wizard object alone.
+template <typename TOperation>
+int OnWizard(PexloHandle handle, TOperation operation)
+{
+    return OnObject(handle, [&](SPexloObject& object) -> int { return operation(*object.wizard); });
 }
 
 /// The same for an operation without a result.

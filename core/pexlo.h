@@ -42,6 +42,7 @@
 #ifndef PEXLO_H
 #define PEXLO_H
 
+/* Hosts have this header alone, so it asks itself how their system calls and exports functions. */
 #if defined(_WIN32)
 #define PEXLO_CALL __stdcall /* of no meaning in 64 bits */
 #if defined(PEXLO_BUILD) && defined(_WIN64)
